@@ -1,0 +1,3 @@
+# The installed form: shared object, headers, CMake package and pkg-config file.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)

@@ -1,0 +1,72 @@
+# The library: every *.cpp of the rooms, *.target.cpp once for each instruction set.
+
+set(QUORVAN_ROOMS frame linalg transforms stats sources poly measure filters fit exports)
+
+foreach(room IN LISTS QUORVAN_ROOMS)
+    file(GLOB_RECURSE units CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${room}/*.cpp)
+    list(APPEND QUORVAN_UNITS ${units})
+endforeach()
+set(QUORVAN_TARGET_UNITS ${QUORVAN_UNITS})
+list(FILTER QUORVAN_TARGET_UNITS INCLUDE REGEX "\\.target\\.cpp$")
+list(FILTER QUORVAN_UNITS EXCLUDE REGEX "\\.target\\.cpp$")
+# The allocator stands apart: the tests link one that fails on request.
+set(QUORVAN_HEAP ${PROJECT_SOURCE_DIR}/frame/memory.cpp)
+list(REMOVE_ITEM QUORVAN_UNITS ${QUORVAN_HEAP})
+
+# What every unit is compiled with. No contraction and no fast-math: stated orders of operations hold everywhere.
+add_library(quorvan_options INTERFACE)
+target_include_directories(quorvan_options INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+target_compile_definitions(quorvan_options INTERFACE QUORVAN_BUILDING)
+target_compile_options(quorvan_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wno-psabi -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti
+    $<$<CONFIG:Release>:-O3>)
+if(QUORVAN_SANITIZE)
+    target_compile_options(quorvan_options INTERFACE -fsanitize=${QUORVAN_SANITIZE} -fno-omit-frame-pointer
+                           -fno-sanitize-recover=all)
+    target_link_options(quorvan_options INTERFACE -fsanitize=${QUORVAN_SANITIZE})
+endif()
+
+set(QUORVAN_TARGET_SETS baseline)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    list(APPEND QUORVAN_TARGET_SETS avx2 avx512)
+    target_compile_definitions(quorvan_options INTERFACE QUORVAN_WIDE_TARGETS)
+endif()
+set(QUORVAN_FLAGS_baseline)
+set(QUORVAN_FLAGS_avx2 -mavx2 -mfma)
+set(QUORVAN_FLAGS_avx512 -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
+
+add_library(quorvan_core OBJECT ${QUORVAN_UNITS})
+target_link_libraries(quorvan_core PRIVATE quorvan_options)
+set(QUORVAN_OBJECTS $<TARGET_OBJECTS:quorvan_core>)
+foreach(set IN LISTS QUORVAN_TARGET_SETS)
+    if(QUORVAN_TARGET_UNITS)
+        add_library(quorvan_${set} OBJECT ${QUORVAN_TARGET_UNITS})
+        target_link_libraries(quorvan_${set} PRIVATE quorvan_options)
+        target_compile_definitions(quorvan_${set} PRIVATE QV_TARGET=${set} QV_TARGET_${set})
+        target_compile_options(quorvan_${set} PRIVATE ${QUORVAN_FLAGS_${set}})
+        list(APPEND QUORVAN_OBJECTS $<TARGET_OBJECTS:quorvan_${set}>)
+    endif()
+endforeach()
+# Inside the FFT kernels only the level of rounding counts: there products and sums may fuse.
+foreach(unit IN LISTS QUORVAN_TARGET_UNITS)
+    if(unit MATCHES "/transforms/kernels/")
+        set_source_files_properties(${unit} PROPERTIES COMPILE_OPTIONS -ffp-contract=fast)
+    endif()
+endforeach()
+
+add_library(quorvan SHARED ${QUORVAN_OBJECTS} ${QUORVAN_HEAP})
+add_library(quorvan::quorvan ALIAS quorvan)
+target_link_libraries(quorvan PRIVATE quorvan_options)
+target_include_directories(quorvan INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+                           $<INSTALL_INTERFACE:include>)
+set_target_properties(quorvan PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0
+                      LINK_DEPENDS ${PROJECT_SOURCE_DIR}/exports/quorvan.map)
+if(NOT WIN32)
+    target_link_options(quorvan PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/exports/quorvan.map -Wl,--no-undefined)
+endif()
+target_link_libraries(quorvan PRIVATE m)
+
+# For tests only: the same objects over an allocator in which the k-th allocation fails on request.
+add_library(quorvan_testable STATIC EXCLUDE_FROM_ALL ${QUORVAN_OBJECTS}
+            ${PROJECT_SOURCE_DIR}/tests/support/failing_heap.cpp)
+target_link_libraries(quorvan_testable PUBLIC quorvan_options m)

@@ -1,0 +1,296 @@
+#!/usr/bin/env python3
+"""Derives everything that repeats the library's boundary from exports/table.
+
+    tools/boundary.py            writes the generated files
+    tools/boundary.py --check    fails if one of them would change
+
+The table is one text file for each family. Its grammar, line by line:
+
+    family NAME                      once, first; the file's name
+    title  TEXT                      once
+    intro  TEXT                      any number: what the family is for, its conventions
+
+    NUMBER NAME [= OPERATION] [-> RESULT] [planned]
+                                     an export; NAME is unique, OPERATION is told where several exports share one;
+                                     RESULT is status (default), double, text, none or handle TYPE;
+                                     planned: not implemented yet
+    NUMBER NAME same NUMBER          a second name for the entry of another number
+      in    TYPE NAME[SHAPE] [null]  an array that is read; null: the pointer may be null
+      out   TYPE NAME[SHAPE] [null]  an array that is written
+      inout TYPE NAME[SHAPE] [null]  an array that is read and written
+      in|out|inout TYPE NAME [null]  a scalar by address
+      value TYPE NAME                a scalar by value
+      size  NAME                     an int64 element count by value; NAME may stand in shapes
+      handle TYPE NAME [null]        an opaque pointer that the library handed out
+      ... -- TEXT                    behind any argument: its meaning and unit
+      > SENTENCE                     documentation
+      ! CODE SENTENCE                a status and when it is given
+      ? CODE LINE                    an example
+
+TYPE is one of double, complex, int32, uint32, int64, text, window (properties), model (function), or a handle's name;
+`pointer` gives an array of pointers to blocks that the library allocates.
+SHAPE is an expression over the sizes.
+"""
+
+import pathlib
+import re
+import sys
+from dataclasses import dataclass, field
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+TABLE = ROOT / "exports" / "table"
+ALL_NUMBERS = [n for n in range(1, 494) if n not in (199, 244)]
+
+C_TYPES = {
+    "double": "double",
+    "complex": "QvComplex",
+    "int32": "int32_t",
+    "uint32": "uint32_t",
+    "int64": "int64_t",
+    "text": "char",
+    "window": "QvWindowProperties",
+    "model": "QvModel",
+}
+DIRECTIONS = ("in", "out", "inout", "value", "size", "handle")
+
+
+@dataclass
+class Argument:
+    direction: str
+    type: str
+    name: str
+    shape: str | None
+    nullable: bool
+    meaning: str = ""
+
+    @property
+    def c(self):
+        if self.direction == "size":
+            return f"int64_t {self.name}"
+        if self.direction == "handle":
+            return f"{handle_type(self.type)}* {self.name}"
+        base = C_TYPES.get(self.type) or handle_type(self.type)
+        if self.direction == "value":
+            return f"{base} {self.name}"
+        if self.direction == "in":
+            return f"const {base}* {self.name}"
+        return f"{base}* {self.name}"
+
+    @property
+    def doc(self):
+        """Direction and shape, in the words of the reference."""
+        if self.direction in ("value", "size"):
+            return self.meaning
+        words = {"in": "read", "out": "written", "inout": "read and written", "handle": "handle"}[self.direction]
+        if self.shape is not None:
+            words += f", [{self.shape}]"
+        words += ", may be null" if self.nullable else ""
+        return f"{words}: {self.meaning}" if self.meaning else words
+
+
+@dataclass
+class Export:
+    number: int
+    name: str
+    operation: str
+    result: str
+    planned: bool
+    family: str
+    same: int | None = None
+    arguments: list = field(default_factory=list)
+    sentences: list = field(default_factory=list)
+    statuses: list = field(default_factory=list)
+    examples: list = field(default_factory=list)
+
+    @property
+    def symbol(self):
+        return f"ZemFunc{self.number}"
+
+    @property
+    def c_result(self):
+        if self.result.startswith("handle "):
+            return handle_type(self.result.split()[1]) + "*"
+        return {"status": "QvStatus", "double": "double", "text": "const char*", "none": "void"}[self.result]
+
+    @property
+    def prototype(self):
+        return f"{self.c_result} {self.symbol}({', '.join(a.c for a in self.arguments) or 'void'})"
+
+
+@dataclass
+class Family:
+    name: str
+    title: str = ""
+    intro: list = field(default_factory=list)
+    exports: list = field(default_factory=list)
+
+
+def handle_type(name):
+    return "void" if name == "block" else f"Qv{name}"
+
+
+class TableError(Exception):
+    pass
+
+
+def parse_argument(line):
+    line, _, meaning = (part.strip() for part in line.partition(" -- "))
+    match = re.fullmatch(r"(\w+)\s+(?:(\w+)\s+)?(\w+)(?:\[(.*?)\])?(\s+null)?", line)
+    if not match or match[1] not in DIRECTIONS:
+        raise TableError(f"not an argument: {line}")
+    direction, kind, name, shape, null = match.groups()
+    if (kind is None) != (direction == "size"):
+        raise TableError(f"type missing or not wanted: {line}")
+    return Argument(direction, kind or "int64", name, shape, bool(null), meaning)
+
+
+def parse_family(path):
+    family, export = Family(path.name), None
+    for number, raw in enumerate(path.read_text().splitlines(), 1):
+        line = raw.strip()
+        try:
+            if not line or line.startswith("#"):
+                continue
+            word, _, rest = line.partition(" ")
+            rest = rest.strip()
+            if word == "family":
+                if rest != path.name:
+                    raise TableError("the family is not the file's name")
+            elif word == "title":
+                family.title = rest
+            elif word == "intro":
+                family.intro.append(rest)
+            elif word.isdigit():
+                match = re.fullmatch(r"(\w+)(?: same (\d+))?(?: = (\w+))?(?: -> ([\w ]+?))?( planned)?", rest)
+                if not match:
+                    raise TableError(f"not an export: {line}")
+                name, same, operation, result, planned = match.groups()
+                export = Export(int(word), name, operation or name, result or "status", bool(planned), path.name,
+                                int(same) if same else None)
+                family.exports.append(export)
+            elif word == ">":
+                export.sentences.append(rest)
+            elif word == "!":
+                code, _, text = rest.partition(" ")
+                export.statuses.append((int(code), text.strip()))
+            elif word == "?":
+                export.examples.append(rest)
+            else:
+                export.arguments.append(parse_argument(line))
+        except (TableError, AttributeError, ValueError) as error:
+            raise SystemExit(f"exports/table/{path.name}:{number}: {error}")
+    return family
+
+
+def read_table():
+    """All families in the order of their files, checked as a whole."""
+    families = [parse_family(path) for path in sorted(TABLE.iterdir())]
+    exports = {}
+    names = set()
+    for family in families:
+        for export in family.exports:
+            if export.number in exports or export.number not in ALL_NUMBERS:
+                raise SystemExit(f"{export.symbol}: listed twice or not one of the numbers")
+            if export.name in names:
+                raise SystemExit(f"{export.name}: the name is taken")
+            exports[export.number] = export
+            names.add(export.name)
+    for export in exports.values():
+        if export.same is not None:
+            entry = exports[export.same]
+            export.arguments, export.result, export.planned = entry.arguments, entry.result, entry.planned
+            if not export.sentences:
+                export.sentences = [f"The same entry as {entry.symbol}."]
+        if not export.planned and not export.sentences:
+            raise SystemExit(f"{export.symbol}: implemented, but not documented")
+    return families
+
+
+def implemented(families):
+    return sorted((e for f in families for e in f.exports if not e.planned), key=lambda e: e.number)
+
+
+def comment(export):
+    lines = [f"{export.name}" + (f" ({export.operation})" if export.operation != export.name else "") + "."]
+    lines += export.sentences
+    for argument in export.arguments:
+        if argument.doc:
+            lines.append(f"@param {argument.name} {argument.doc}")
+    for code, text in export.statuses:
+        lines.append(f"@retval {code} {text}")
+    if export.examples:
+        lines += ["@code", *export.examples, "@endcode"]
+    return "/**\n" + "".join(f" * {line}\n" for line in lines) + " */\n"
+
+
+def header(families):
+    out = ["""/* Quorvan: all exported functions. Generated from exports/table by tools/boundary.py; do not edit.
+ *
+ * Each function has its number, which programs bind, and a readable name: Qv followed by the operation.
+ * Sizes are signed 64-bit and must fit 32 bits (else -20046, and nothing is touched); one below the minimum gives
+ * -20003 unless the function says otherwise. Null pointers are not detected where a parameter does not allow them.
+ */
+#ifndef QUORVAN_H
+#define QUORVAN_H
+
+#include "quorvan/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+"""]
+    for family in families:
+        ready = [e for e in family.exports if not e.planned]
+        if not ready:
+            continue
+        out.append(f"/** @defgroup {family.name} {family.title}")
+        out += [f" * {line}" for line in family.intro]
+        out.append(" * @{\n */\n")
+        for export in ready:
+            out.append(comment(export) + f"QV_API {export.prototype};")
+            out.append(f"#define Qv{export.name} {export.symbol}\n")
+        out.append("/** @} */\n")
+    out.append("""#ifdef __cplusplus
+}
+#endif
+
+#endif /* QUORVAN_H */
+""")
+    return "\n".join(out)
+
+
+def version_script(families):
+    names = "".join(f"        {e.symbol};\n" for e in implemented(families))
+    return f"/* Generated from exports/table by tools/boundary.py; do not edit. */\n{{\n    global:\n{names}    local:\n        *;\n}};\n"
+
+
+def module_definition(families):
+    names = "".join(f"    {e.symbol}\n" for e in implemented(families))
+    return f"; Generated from exports/table by tools/boundary.py; do not edit.\nLIBRARY quorvan.dll\nEXPORTS\n{names}"
+
+
+def outputs(families):
+    return {
+        ROOT / "include" / "quorvan" / "quorvan.h": header(families),
+        ROOT / "exports" / "quorvan.map": version_script(families),
+        ROOT / "exports" / "quorvan.def": module_definition(families),
+    }
+
+
+def main():
+    check = sys.argv[1:] == ["--check"]
+    if sys.argv[1:] and not check:
+        raise SystemExit(__doc__)
+    stale = []
+    for path, text in outputs(read_table()).items():
+        if path.exists() and path.read_text() == text:
+            continue
+        stale.append(path.relative_to(ROOT))
+        if not check:
+            path.write_text(text)
+    if check and stale:
+        raise SystemExit("out of date, run tools/boundary.py: " + ", ".join(map(str, stale)))
+
+
+if __name__ == "__main__":
+    main()

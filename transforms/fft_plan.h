@@ -1,0 +1,36 @@
+// FFT plans: everything that a transform of one size needs, shared between all who hold that size.
+#pragma once
+
+#include "frame/types.h"
+
+namespace quorvan {
+
+struct FftPlan;
+
+// The plan of this size with one more reference, or null when the size is below 1 or memory ran out. Locks.
+FftPlan* FftPlanCreate(Count size) noexcept;
+// Drops a reference; the last one frees the plan. Null is ignored. Locks.
+void FftPlanRelease(FftPlan* plan) noexcept;
+
+// The length that a plan transforms.
+Count FftPlanSize(const FftPlan* plan) noexcept;
+
+// The smallest size >= n that runs on kernels alone; a value below 2 as it stands.
+Count FftFastSize(Count n) noexcept;
+
+// A held reference, dropped at the end of the scope.
+class HeldPlan {
+public:
+    explicit HeldPlan(Count size) noexcept : plan_(FftPlanCreate(size)) {}
+    HeldPlan(const HeldPlan&) = delete;
+    HeldPlan& operator=(const HeldPlan&) = delete;
+    ~HeldPlan() { FftPlanRelease(plan_); }
+
+    explicit operator bool() const noexcept { return plan_ != nullptr; }
+    operator const FftPlan*() const noexcept { return plan_; }
+
+private:
+    FftPlan* plan_;
+};
+
+}  // namespace quorvan
