@@ -62,6 +62,32 @@ QV_API const char* ZemFunc240(int32_t code);
 
 /** @} */
 
+/** @defgroup windows Window functions
+ * @{
+ */
+
+/**
+ * WinHanning.
+ * Multiplies data by the Hanning window, w[i] = 0.5 - 0.5 cos(2 pi i / n).
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc89(double* x, int64_t n);
+#define QvWinHanning ZemFunc89
+
+/**
+ * WinHanningComplex (WinHanning).
+ * Multiplies complex data by the window of WinHanning.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc430(QvComplex* x, int64_t n);
+#define QvWinHanningComplex ZemFunc430
+
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif
