@@ -1,4 +1,4 @@
-// The product of a sample and a window's factor, for both kinds of sample.
+// The product of samples and a window's factors, for both kinds of sample.
 #pragma once
 
 #include "frame/types.h"
@@ -11,8 +11,15 @@ inline void Scale(ComplexRecord& sample, double factor) noexcept {
     sample.im *= factor;
 }
 
-inline void Multiply(double* x, const double* w, Count n) noexcept {
-    for (Count i = 0; i < n; ++i) Scale(x[i], w[i]);
+// The inner pairs of a periodic window: x[k] and x[n - k] by factor(k), k = 1 to (n - 1) / 2. x[0] and, for even n,
+// x[n / 2] stand alone and are left to the caller.
+template <class T, class Factor>
+void ScalePairs(T* x, Count n, Factor factor) noexcept {
+    for (Count k = 1; k <= (n - 1) / 2; ++k) {
+        const double w = factor(k);
+        Scale(x[k], w);
+        Scale(x[n - k], w);
+    }
 }
 
 }  // namespace quorvan
