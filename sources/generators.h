@@ -1,8 +1,8 @@
-// Waveform generators: periodic waves whose phase goes in and comes out, patterns over the whole array, and pulses in the
-// time t = i dt - delay.
+// Waveform generators: periodic waves whose phase goes in and comes out, patterns over the whole array, and pulses in
+// the time t = i dt - delay.
 //
-// Frequencies are in cycles per sample, phases in degrees. Each checks before it writes; n < 1 gives -20003 where nothing
-// else is told.
+// Frequencies are in cycles per sample, phases in degrees. Each checks before it writes; n < 1 gives -20003 where
+// nothing else is told.
 #pragma once
 
 #include "frame/types.h"

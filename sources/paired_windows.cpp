@@ -8,8 +8,9 @@
 namespace quorvan {
 namespace {
 
-// The modified Bessel function of order zero by its power series, sum of ((x/2)^j / j!)^2: the term is carried on by x^2 over
-// the square of the even number 2 j, until it falls to 1e-8 or after 25 terms, which is deliberate also for large x.
+// The modified Bessel function of order zero by its power series, sum of ((x/2)^j / j!)^2: the term is carried on by
+// x^2 over the square of the even number 2 j, until it falls to 1e-8 or after 25 terms, which is deliberate also for
+// large x.
 double BesselSeries(double x) noexcept {
     const double square = x * x;
     double sum = 1.0, term = 1.0, even = 0.0;

@@ -25,8 +25,8 @@ Status GenSincPattern(Count n, double amp, double delay, double dt, double* out)
     });
 }
 
-// amp sin(order x) / (order sin x), x = t / 2 (the Dirichlet kernel). Where sin x vanishes the value is amp, also where the
-// limit is -amp; deliberate.
+// amp sin(order x) / (order sin x), x = t / 2 (the Dirichlet kernel). Where sin x vanishes the value is amp, also where
+// the limit is -amp; deliberate.
 Status GenPeriodicSincPattern(Count n, double amp, double delay, double dt, std::int32_t order, double* out) noexcept {
     if (order < 1) return status::kNotPositive;
     if (n < 1) return status::kSamplesNotPositive;

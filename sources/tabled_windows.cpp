@@ -45,8 +45,8 @@ Status MultiplyByTable(T* x, Count n, Factor factor) noexcept {
 
 }  // namespace
 
-// 0.62 - 0.48 |k/n - 0.5| - 0.38 cos(2 pi k / n). Y. H. Ha, J. A. Pearce, "A new window and comparison to standard windows",
-// IEEE Trans. ASSP 37 (1989).
+// 0.62 - 0.48 |k/n - 0.5| - 0.38 cos(2 pi k / n). Y. H. Ha, J. A. Pearce, "A new window and comparison to standard
+// windows", IEEE Trans. ASSP 37 (1989).
 template <class T>
 Status WinBartlettHanning(T* x, Count n) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
@@ -68,7 +68,8 @@ Status WinBohman(T* x, Count n) noexcept {
     });
 }
 
-// With h = n / 2 and d = |k - h|: 2 (1 - d/h)^3 beyond h / 2, 1 - 6 d^2/h^2 + 6 d^3/h^3 within. Harris 1978, equation 37.
+// With h = n / 2 and d = |k - h|: 2 (1 - d/h)^3 beyond h / 2, 1 - 6 d^2/h^2 + 6 d^3/h^3 within. Harris 1978,
+// equation 37.
 template <class T>
 Status WinParzen(T* x, Count n) noexcept {
     if (n < 1) return status::kSamplesNotPositive;

@@ -7,8 +7,8 @@
 
 namespace quorvan {
 
-// sin^2(pi i / (2 m)) over m samples at each end, on the symmetric pair (i, n - 1 - i). The outermost samples are set to 0,
-// whatever they hold; deliberate. J. W. Tukey 1967.
+// sin^2(pi i / (2 m)) over m samples at each end, on the symmetric pair (i, n - 1 - i). The outermost samples are set
+// to 0, whatever they hold; deliberate. J. W. Tukey 1967.
 template <class T>
 Status WinCosineTaper(T* x, Count n, double ratio) noexcept {
     if (n < 1) return status::kSamplesNotPositive;

@@ -6,7 +6,8 @@
 
 namespace quorvan {
 
-// Sample 0 has the phase itself; sample i has i * 360 * freq + phase, a fresh product, so that rounding does not pile up.
+// Sample 0 has the phase itself; sample i has i * 360 * freq + phase, a fresh product, so that rounding does not pile
+// up.
 struct WaveLoops {
     void (*triangle)(Count n, double amp, double freq, double phase, double* out);
     void (*sawtooth)(Count n, double amp, double freq, double phase, double* out);

@@ -21,8 +21,8 @@ Status Plain(double* w, Count n, double) noexcept {
     return Window(w, n);
 }
 
-// The windows that are no cosine sums. `symmetric` is null where the periodic form of n - 1 samples and its first sample
-// again make the symmetric one.
+// The windows that are no cosine sums. `symmetric` is null where the periodic form of n - 1 samples and its first
+// sample again make the symmetric one.
 struct DirectWindow {
     std::int32_t code;
     Applied periodic;

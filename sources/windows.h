@@ -6,6 +6,7 @@
 // Every status: n < 1 gives -20003 where nothing else is told, no memory -20001. After an error the data are unchanged.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 #include "frame/types.h"
@@ -81,6 +82,9 @@ Status WinKaiser(T* x, Count n, double beta) noexcept;
 template <class T>
 Status WinGaussian(T* x, Count n, double sigma) noexcept;
 Status WinGaussianSymmetric(double* x, Count n, double sigma) noexcept;
+
+// What an attenuation in decibels means as a ratio of amplitudes.
+inline double WinRatioOfDecibels(double decibels) noexcept { return std::pow(10.0, decibels / 20.0); }
 
 // Dolph-Chebyshev with sidelobes at 1/ratio of the main lobe; a ratio below 1 means 1.
 template <class T>
