@@ -11,6 +11,10 @@
 // that the linker keeps for all.
 #pragma once
 
+// For a small function in a header that such units include too: it belongs to the instruction set of its caller, and no
+// copy of its own ever reaches the linker.
+#define QV_INLINE [[gnu::always_inline]] inline
+
 namespace quorvan {
 
 enum class Target { kBaseline, kAvx2, kAvx512 };
