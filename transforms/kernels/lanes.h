@@ -189,9 +189,7 @@ struct Lanes<8> {
         _mm512_mask_storeu_pd(p + 8, Mask(0, 2 * count - 8), _mm512_unpackhi_pd(re, im));
     }
     QV_INLINE static V Load(const double* p) { return _mm512_loadu_pd(p); }
-    QV_INLINE static V Load(const double* p, LaneRange r) {
-        return _mm512_maskz_loadu_pd(Mask(r.first, r.last), p);
-    }
+    QV_INLINE static V Load(const double* p, LaneRange r) { return _mm512_maskz_loadu_pd(Mask(r.first, r.last), p); }
     QV_INLINE static void Store(double* p, V v) { _mm512_storeu_pd(p, v); }
     QV_INLINE static void Store(double* p, LaneRange r, V v) { _mm512_mask_storeu_pd(p, Mask(r.first, r.last), v); }
     QV_INLINE static V ToLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 3, 6, 2, 5, 1, 4, 0), v); }
