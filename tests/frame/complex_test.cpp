@@ -81,6 +81,10 @@ TEST(CxDivide, NeitherOverflowsNorUnderflowsWhereThePlainFormulaWould) {
     EXPECT_TRUE(HasParts(Call(ZemFunc40, 1e-200, 0, 0, 1e-200), 0.0, -1.0));
 }
 
+TEST(CxDivide, CountsEqualMagnitudesOfTheDivisorAsTheFirstCase) {
+    EXPECT_TRUE(HasParts(Call(ZemFunc40, 1, 1, 1, -1), 0.0, 1.0)) << "the second case gives -0.0";
+}
+
 TEST(CxDivide, ByZeroIsNaNWithSuccess) {
     for (double zero : {0.0, -0.0}) {
         const Result r = Call(ZemFunc40, 1, 2, zero, zero);
