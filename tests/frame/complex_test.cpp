@@ -409,7 +409,7 @@ TEST(CxLaws, RootsSquareLogarithmsExpandAndPowersMultiply) {
     }
 }
 
-TEST(CxHelpers, NegateConjugateAndScale) {
+TEST(CxValues, NegateConjugateAndScale) {
     const ComplexRecord z{1.5, -0.0};
     EXPECT_TRUE(SameBits(CxNegate(z).re, -1.5) && SameBits(CxNegate(z).im, 0.0));
     EXPECT_TRUE(SameBits(CxConj(z).re, 1.5) && SameBits(CxConj(z).im, 0.0));
