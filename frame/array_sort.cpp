@@ -1,5 +1,6 @@
 #include "frame/array_sort.h"
 
+#include <bit>
 #include <cstring>
 #include <limits>
 
@@ -15,7 +16,7 @@ namespace {
 Count GatherNaN(double* x, Count n) noexcept {
     Count front = 0;
     while (front < n && x[front] != x[front]) ++front;
-    for (Count i = front + 1; i < n; ++i) {
+    for (Size i = Size{front} + 1; i < n; ++i) {
         if (x[i] == x[i]) continue;
         x[i] = x[front];
         x[front++] = std::numeric_limits<double>::quiet_NaN();
@@ -32,7 +33,8 @@ Status ArrSort(double* x, Count n, std::uint32_t direction, double* out) noexcep
     if (n == 1) return status::kSuccess;
     const Count front = GatherNaN(out, n), rest = n - front;
     if (rest < 2) return status::kSuccess;
-    kArraySort().ascending(out + front, rest);
+    const int halvings = std::bit_width(static_cast<std::uint32_t>(rest));
+    kArraySort().ascending(out + front, rest, 2 * halvings);
     if (direction != 0) kArrayLoops().reverse(out + front, rest, out + front);
     return status::kSuccess;
 }

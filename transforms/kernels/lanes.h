@@ -7,13 +7,13 @@
 // Operations on a range of lanes touch no memory outside it.
 #pragma once
 
+#include "frame/targets.h"
 #include "frame/types.h"
 
 #if defined(__SSE2__)
 #include <immintrin.h>
 #endif
 
-#define QV_INLINE inline __attribute__((always_inline))
 #define QV_INLINE_LAMBDA __attribute__((always_inline))
 
 namespace quorvan::QV_TARGET {
