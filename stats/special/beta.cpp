@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "frame/types.h"
+#include "stats/special/digamma.h"
 #include "stats/special/gamma.h"
 #include "stats/special/ln_gamma.h"
 #include "stats/special/log_remainder.h"
@@ -29,6 +30,16 @@ double PeakCorrection(double a, double b) noexcept {
     return LnGammaCorrection(a) + LnGammaCorrection(b) - LnGammaCorrection(a + b);
 }
 
+// What ln Gamma(a + b) lacks because the sum was rounded, to first order; by D. E. Knuth's two-sum; 0 where first
+// order is not enough.
+double LnGammaSlip(double a, double b) noexcept {
+    const double sum = a + b, from_b = sum - a;
+    const double rounded = (a - (sum - from_b)) + (b - from_b);
+    if (!(rounded != 0 && std::fabs(rounded) < 1e-10)) return 0;
+    const double slip = rounded * SpecDigamma(sum);
+    return std::fabs(slip) < 1e-3 ? slip : 0;
+}
+
 // 0 < p <= q, q >= 13: the logarithms of the Gammas taken together, where the large ones cancel.
 double PositiveBeta(double p, double q) noexcept {
     if (std::isinf(q)) return 0;
@@ -42,15 +53,17 @@ double PositiveBeta(double p, double q) noexcept {
 
 double SpecBeta(double a, double b) noexcept {
     const double sum = a + b;
-    if (std::isnan(sum) && (std::isnan(a) || std::isnan(b))) return sum;
+    if (std::isnan(a) || std::isnan(b)) return sum;
     const double large = a > b ? a : b, small = a > b ? b : a;
-    if (Moderate(a) && Moderate(b) && Moderate(sum)) return GammaValue(large) / GammaValue(sum) * GammaValue(small);
-    if (small > 0 && large >= kStirling) return PositiveBeta(small, large);
+    const bool moderate = Moderate(a) && Moderate(b) && Moderate(sum);
+    if (!moderate && small > 0 && large >= kStirling) return PositiveBeta(small, large);
+    const double slip = LnGammaSlip(large, small);
+    if (moderate) return GammaValue(large) / GammaValue(sum) * GammaValue(small) * (1 - slip);
     int sign_sum, sign_large, sign_small;
     const double ln_sum = SpecLnGamma(sum, &sign_sum);
     const double ln_large = SpecLnGamma(large, &sign_large);
     const double ln_small = SpecLnGamma(small, &sign_small);
-    return sign_sum * sign_large * sign_small * std::exp(ln_small + (ln_large - ln_sum));
+    return sign_sum * sign_large * sign_small * std::exp(ln_small + (ln_large - ln_sum) - slip);
 }
 
 double BetaBesidePeak(double a, double b, double x) noexcept {

@@ -13,7 +13,8 @@ namespace {
 constexpr double kBig = 144115188075855872.0;          // 2^57
 constexpr double kBigInverse = 6.938893903907228e-18;  // 2^-57
 
-// A fraction has 300 rounds to settle to full precision; beyond, the fine tolerance contents it.
+// A fraction has 300 rounds to settle to 3 epsilons. Beyond, it may also end within the fine tolerance, once rounding
+// keeps its change from shrinking.
 constexpr int kRounds = 300;
 constexpr int kMostRounds = 1000000;
 constexpr double kFineTolerance = 3.637978807091712e-13;
@@ -40,7 +41,7 @@ double Series(double a, double b, double x) noexcept {
 // direction.
 double Fraction(double a, double k2, double step2, double k6, double step6, double z) noexcept {
     double k1 = a, k3 = a, k4 = a + 1, k5 = 1, k7 = a + 1, k8 = a + 2;
-    double p2 = 0, q2 = 1, p1 = 1, q1 = 1, value = 1;
+    double p2 = 0, q2 = 1, p1 = 1, q1 = 1, value = 1, last = 1;
     const auto advance = [&](double d) {
         const double p = p1 + p2 * d, q = q1 + q2 * d;
         p2 = p1;
@@ -57,7 +58,8 @@ double Fraction(double a, double k2, double step2, double k6, double step6, doub
             change = std::fabs((value - r) / r);
             value = r;
         }
-        if (change <= (round < kRounds ? 3 * kEpsilon : kFineTolerance)) break;
+        if (change <= 3 * kEpsilon || (round >= kRounds && change <= kFineTolerance && change >= last)) break;
+        last = change;
         k1 += 1;
         k2 += step2;
         k3 += 2;

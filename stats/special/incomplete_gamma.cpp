@@ -19,7 +19,7 @@ constexpr double kBig = 144115188075855872.0;  // 2^57
 constexpr double kLeastFactor = 5.562684646268003e-309;
 
 // From here on, near x = a, sum and fraction would take more than a thousand terms, without end for a huge a.
-constexpr double kLargeOrder = 1e6;
+constexpr double kLargeOrder = 1e5;
 
 // a (ln(x/a) - (x - a)/a): the exponent of x^a e^-x beside its peak a^a e^-a.
 double BesidePeak(double a, double x) noexcept {
@@ -83,13 +83,13 @@ double Fraction(double a, double x) noexcept {
 
 // Temme's expansion, uniform in x, for large a (N. M. Temme, 1979; coefficients by the recurrence of DLMF 8.12.12).
 // With eta^2/2 = x/a - 1 - ln(x/a): Q = erfc(eta sqrt(a/2))/2 + R, P = erfc(-eta sqrt(a/2))/2 - R, R = e^(-a eta^2/2) /
-// sqrt(2 pi a) (c0(eta) + c1(eta)/a + c2(eta)/a^2 + ...). From a = 10^6 on, |eta| is below 0.04 wherever R is not 0.
+// sqrt(2 pi a) (c0(eta) + c1(eta)/a + c2(eta)/a^2 + ...). From a = 10^5 on, |eta| is below 0.12 wherever R is not 0.
 // `side` is 1 for Q, -1 for P.
 double Uniform(double a, double x, double side) noexcept {
-    static constexpr double kC0[] = {1.0 / 25515, -139.0 / 777600, 1.0 / 2835, 1.0 / 864,
-                                     -2.0 / 135,  1.0 / 12,        -1.0 / 3};
+    static constexpr double kC0[] = {-281.0 / 151559100, -571.0 / 261273600, 1.0 / 25515, -139.0 / 777600, 1.0 / 2835,
+                                     1.0 / 864,          -2.0 / 135,         1.0 / 12,    -1.0 / 3};
     static constexpr double kC1[] = {1.0 / 4860, -77.0 / 77760, 1.0 / 378, -1.0 / 288, -1.0 / 540};
-    static constexpr double kC2[] = {-139.0 / 51840, 25.0 / 6048};
+    static constexpr double kC2[] = {1.0 / 1296, -139.0 / 51840, 25.0 / 6048};
     const double exponent = -BesidePeak(a, x);
     if (exponent > 800) return (x > a) == (side > 0) ? 0 : 1;
     const double eta = std::copysign(std::sqrt(2 * exponent / a), x - a);

@@ -27,7 +27,7 @@ double ShiftedLnGamma(double x, int* sign) noexcept {
         u = x + shift;
         product *= u;
     }
-    while (u < 2) {
+    while (u < 1.9) {
         if (u == 0) return kInf;
         divisor *= u;
         shift += 1;
@@ -35,7 +35,6 @@ double ShiftedLnGamma(double x, int* sign) noexcept {
     }
     if (divisor < 0) *sign = -1;
     const double logarithm = shift > 0 ? 0 - std::log(std::fabs(divisor)) : std::log(product);
-    if (u == 2) return logarithm;
     const double t = x + (shift - 2);
     return logarithm + t * Polynomial(t, kB) / MonicPolynomial(t, kC);
 }
