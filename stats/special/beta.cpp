@@ -66,13 +66,17 @@ double SpecBeta(double a, double b) noexcept {
     return sign_sum * sign_large * sign_small * std::exp(ln_small + (ln_large - ln_sum) - slip);
 }
 
-double BetaBesidePeak(double a, double b, double x) noexcept {
-    // With d = b x - a y, y = 1 - x: x (a+b)/a = 1 + d/a and y (a+b)/b = 1 - d/b, and the linear terms of the two
-    // logarithms cancel. What rounding took from the products and from y goes back into d.
+double BetaAboveMean(double a, double b, double x) noexcept {
+    // What rounding took from the products and from 1 - x goes back.
     const double y = 1 - x, lost = (1 - y) - x;
     const double bx = b * x, ay = a * y;
-    const double rest = std::fma(b, x, -bx) - std::fma(a, y, -ay) - a * lost;
-    const double d = (bx - ay) + rest;
+    return (bx - ay) + (std::fma(b, x, -bx) - std::fma(a, y, -ay) - a * lost);
+}
+
+double BetaBesidePeak(double a, double b, double x) noexcept {
+    // With d = b x - a (1-x): x (a+b)/a = 1 + d/a and (1-x) (a+b)/b = 1 - d/b, and the linear terms of the two
+    // logarithms cancel.
+    const double d = BetaAboveMean(a, b, x);
     return a * LogRemainder(d / a) + b * LogRemainder(-d / b);
 }
 

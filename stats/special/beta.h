@@ -10,6 +10,9 @@ double SpecBeta(double a, double b) noexcept;
 // large logarithms cancel.
 double BetaDensity(double a, double b, double x) noexcept;
 
+// b x - a (1 - x) to full precision, whatever cancels: positive above the mean a/(a + b).
+double BetaAboveMean(double a, double b, double x) noexcept;
+
 // The exponent of x^a (1 - x)^b beside its peak at a/(a + b): a ln(x (a+b)/a) + b ln((1-x) (a+b)/b), at most 0.
 double BetaBesidePeak(double a, double b, double x) noexcept;
 

@@ -108,7 +108,7 @@ def exact_q(a, x):
 
 
 def exact_i(a, b, x):
-    if x * (a + b) <= a or x < 0.5:
+    if x <= 0.5:  # the side where the sum is short
         return exact_lower_beta(a, b, x)
     return complement(lambda: exact_lower_beta(b, a, 1 - mpmath.mpf(x)))
 
