@@ -1,8 +1,6 @@
 #include "stats/special/beta.h"
 
 #include <cmath>
-#include <limits>
-#include <utility>
 
 #include "frame/types.h"
 #include "stats/special/digamma.h"
