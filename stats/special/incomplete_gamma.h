@@ -7,7 +7,7 @@ namespace quorvan {
 //   x <= 1 or x <= a   the series in x/(a+1), x^2/((a+1)(a+2)), ...            peak 2.2e-15 for a <= 13
 //   otherwise          1 - Q                                                   peak 2.1e-15 for a <= 13
 //   a >= 10^5          Temme's uniform expansion                               peak 3.3e-15 within 6 deviations of a
-// Between 13 and 10^5: peak 8.2e-15 within 6 deviations, growing to 1e-13 where the value falls to 1e-150.
+// Between 13 and 10^5: peak 8.2e-15 within 6 deviations, growing to 1.4e-13 where the value falls to 1e-150.
 // Cephes Math Library, S. L. Moshier: igam; the factor x^a e^-x / Gamma(a) beside its peak as in A. R. DiDonato and
 // A. H. Morris (1986).
 double SpecIncompleteGamma(double a, double x) noexcept;

@@ -265,6 +265,8 @@ region("SpecIncompleteGamma", "a in [13, 1e5], within 6 deviations", lambda: nea
 region("SpecIncompleteGamma", "a in [1e5, 1e7], within 6 deviations", lambda: near_mean(1e5, 1e7, 6, 1, 25), 64)
 region("SpecIncompleteGamma", "a in [13, 1e4], x in [0.2 a, a]",
        lambda: [(a, a * f) for a, f in zip(logarithmic(13, 1e4, 60), rng(4).uniform(0.2, 1, 60))], 1400)
+region("SpecIncompleteGamma", "a in [13, 100], x in [1e-3, a]",
+       lambda: [(a, x) for a, x in gamma_square(13, 100, 1e-3, 100, 6) if x < a], 1400)
 region("SpecIncompleteGammaComplement", "a in [1e-6, 13], x in [a or 1, 300]",
        lambda: [(a, x) for a, x in gamma_square(1e-6, 13, 1, 300, 1) if x >= a], 120, scipy=1e-12)
 region("SpecIncompleteGammaComplement", "a in [1e-6, 13], x in [1e-6, 1], to 1",
@@ -282,6 +284,10 @@ region("SpecIncompleteBeta", "a in [13, 1e6], b in [0.1, 13], to 1", lambda: ske
 region("SpecIncompleteBeta", "a, b in [64, 1e5], within 6 deviations", lambda: beta_near_mean(64, 1e5, 6, 1), 128, scipy=1e-8)
 region("SpecIncompleteBeta", "a, b in [1e5, 1e7], within 6 deviations", lambda: beta_near_mean(1e5, 1e7, 6, 1, 8), 128)
 region("SpecIncompleteBeta", "a, b in [1, 64], any x", lambda: beta_cube(1, 64, 1, 64, 2), 1400, scipy=1e-11)
+region("SpecIncompleteBeta", "a, b in [0.1, 64], x in [1e-12, 0.1]",
+       lambda: list(zip(logarithmic(0.1, 64, 200, 3), logarithmic(0.1, 64, 200, 4), logarithmic(1e-12, 0.1, 200, 5))), 1400)
+region("SpecIncompleteBeta", "a, b in [13, 1000], x in [1e-6, 0.9]",
+       lambda: list(zip(logarithmic(13, 1000, 200, 3), logarithmic(13, 1000, 200, 4), logarithmic(1e-6, 0.9, 200, 5))), 1400)
 
 # zeta - 1: rational forms and exp to a few u; left of 0 five factors around a difference from 1.
 region("SpecZeta", "[0, 1)", lambda: grid(0, 1 - 1e-9), 8, scipy=1e-14)
