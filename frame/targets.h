@@ -34,14 +34,22 @@ const Table& ForTarget(const Table& baseline, const Table& avx2, const Table& av
 }
 
 #if defined(QUORVAN_WIDE_TARGETS)
-#define QV_DECLARE_TARGETS(Table, name)                                                                  \
-    namespace baseline { extern const Table name; }                                                      \
-    namespace avx2 { extern const Table name; }                                                          \
-    namespace avx512 { extern const Table name; }                                                        \
+#define QV_DECLARE_TARGETS(Table, name) \
+    namespace baseline {                \
+    extern const Table name;            \
+    }                                   \
+    namespace avx2 {                    \
+    extern const Table name;            \
+    }                                   \
+    namespace avx512 {                  \
+    extern const Table name;            \
+    }                                   \
     inline const Table& name() noexcept { return ForTarget(baseline::name, avx2::name, avx512::name); }
 #else
-#define QV_DECLARE_TARGETS(Table, name)            \
-    namespace baseline { extern const Table name; } \
+#define QV_DECLARE_TARGETS(Table, name) \
+    namespace baseline {                \
+    extern const Table name;            \
+    }                                   \
     inline const Table& name() noexcept { return baseline::name; }
 #endif
 
