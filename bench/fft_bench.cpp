@@ -12,10 +12,12 @@
 #include <fftw3.h>
 
 #include "quorvan/quorvan.h"
+#include "support/buffer.h"
 #include "support/runner.h"
 
 namespace {
 
+using bench::Buffer;
 using bench::Ratios;
 using bench::Runner;
 using bench::Times;
@@ -23,22 +25,6 @@ using bench::Times;
 const std::vector<std::int64_t> kSizes = {16,   60,   64,   100,   128,   256,   360,    512,    1000,   1009,
                                           1024, 4096, 4099, 10007, 16384, 65536, 100000, 262144, 1048576};
 const std::vector<std::int64_t> kPrimes = {53, 59, 61, 67, 71, 97, 101, 127, 197, 251, 499, 1009, 2039, 4099, 10007};
-
-template <typename T>
-class Buffer {
-public:
-    explicit Buffer(std::int64_t count)
-        : data_(static_cast<T*>(fftw_malloc(static_cast<std::size_t>(count) * sizeof(T)))) {
-        if (data_ == nullptr) bench::Refuse("not enough memory");
-    }
-    Buffer(const Buffer&) = delete;
-    Buffer& operator=(const Buffer&) = delete;
-    ~Buffer() { fftw_free(data_); }
-    operator T*() const { return data_; }
-
-private:
-    T* data_;
-};
 
 fftw_complex* AsFftw(QvComplex* p) { return reinterpret_cast<fftw_complex*>(p); }
 
@@ -93,11 +79,11 @@ Times Measure(Runner& runner, const std::string& group, std::int64_t n, bool pla
     QvFftPlan* held = ZemFunc260(n);
     if (estimate == nullptr || measure == nullptr || held == nullptr) bench::Refuse("no plan");
     const std::vector<double> noise = bench::Noise(n * Kind::kDoubles);
-    std::memcpy(static_cast<Input*>(in), noise.data(), noise.size() * sizeof(double));
+    std::memcpy(in.get(), noise.data(), noise.size() * sizeof(double));
 
     // A wrong transform must not be timed. Both round at about 1e-16 log2 n; a wrong bin shows at 1e-3 or more.
     fftw_execute(estimate);
-    std::memcpy(static_cast<QvComplex*>(expected), out, static_cast<std::size_t>(Kind::Bins(n)) * sizeof(QvComplex));
+    std::memcpy(expected.get(), out.get(), static_cast<std::size_t>(Kind::Bins(n)) * sizeof(QvComplex));
     for (QvFftPlan* plan : {held, static_cast<QvFftPlan*>(nullptr)}) {
         const QvStatus status = Kind::Transform(in, n, plan, out);
         const double distance = Distance(out, expected, Kind::Bins(n));
@@ -190,6 +176,7 @@ void Primes(Runner& runner) {
 
 int main(int argc, char** argv) {
     Runner runner(argc, argv);
+    benchmark::AddCustomContext("fftw", fftw_version);
     UsualSizes(runner);
     if (!runner.SizesGiven()) Primes(runner);
     return runner.Finish();

@@ -63,6 +63,7 @@ Runner::Runner(int argc, char** argv) {
         }
     }
     int count = static_cast<int>(arguments.size());
+    benchmark::AddCustomContext("compiler", __VERSION__);
     benchmark::Initialize(&count, arguments.data());
     if (count > 1) Usage(argv[0]);
 }
@@ -71,9 +72,9 @@ std::vector<std::int64_t> Runner::Sizes(std::vector<std::int64_t> usual) const {
     return sizes_.empty() ? usual : sizes_;
 }
 
-Times Runner::Run(const std::string& group, std::int64_t size) {
-    for (auto& [name, body] : pending_) {
-        benchmark::RegisterBenchmark((group + "/" + name + std::to_string(size)).c_str(), body);
+Times Runner::Run(const std::string& group, const std::string& size) {
+    for (auto& [contender, body] : pending_) {
+        benchmark::RegisterBenchmark((group + "/" + contender + "/" + size).c_str(), body);
     }
     pending_.clear();
     Collector collector;
@@ -128,6 +129,10 @@ void AtMost(std::FILE* text, const std::string& label, double value, double goal
 void Refuse(const std::string& reason) {
     std::fprintf(stderr, "%s\n", reason.c_str());
     std::exit(1);
+}
+
+void Succeeds(std::int32_t status, const std::string& call) {
+    if (status != 0) Refuse(call + " gives " + std::to_string(status));
 }
 
 std::vector<double> Noise(std::int64_t count, std::uint64_t seed) {

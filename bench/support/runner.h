@@ -30,9 +30,7 @@ public:
 
     template <typename Call>
     void Add(const std::string& contender, Call call) {
-        contenders_.push_back(contender);
-        const std::string name = contender + "/";
-        pending_.emplace_back(name, [call](benchmark::State& state) {
+        pending_.emplace_back(contender, [call](benchmark::State& state) {
             for (auto _ : state) {
                 call();
                 benchmark::ClobberMemory();
@@ -41,7 +39,8 @@ public:
     }
 
     // Times all that was added since the last run, under this group and size, and forgets them.
-    Times Run(const std::string& group, std::int64_t size);
+    Times Run(const std::string& group, const std::string& size);
+    Times Run(const std::string& group, std::int64_t size) { return Run(group, std::to_string(size)); }
 
     // With --benchmark_format=json all measurements go to standard output; tables then go to standard error.
     int Finish();
@@ -49,13 +48,12 @@ public:
 
 private:
     std::vector<std::int64_t> sizes_;
-    std::vector<std::string> contenders_;
     std::vector<std::pair<std::string, std::function<void(benchmark::State&)>>> pending_;
     std::vector<benchmark::BenchmarkReporter::Run> runs_;
     bool json_ = false;
 };
 
-// Geometric mean and minimum of ratios.
+// Geometric mean and extremes of ratios.
 class Ratios {
 public:
     void Add(double ratio);
@@ -75,6 +73,7 @@ void AtMost(std::FILE* text, const std::string& label, double value, double goal
 
 // Ends the program: a contender that fails or is wrong must not be timed.
 [[noreturn]] void Refuse(const std::string& reason);
+void Succeeds(std::int32_t status, const std::string& call);
 
 // Values in [-1, 1), the same in every run.
 std::vector<double> Noise(std::int64_t count, std::uint64_t seed = 1);
