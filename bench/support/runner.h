@@ -30,7 +30,7 @@ public:
 
     template <typename Call>
     void Add(const std::string& contender, Call call) {
-        pending_.emplace_back(contender, [call](benchmark::State& state) {
+        pending_.emplace_back(contender, [call](benchmark::State& state) mutable {
             for (auto _ : state) {
                 call();
                 benchmark::ClobberMemory();
