@@ -27,7 +27,7 @@ constexpr std::int64_t kSortPool = 100000;
 struct Operation {
     const char* name;
     int bytes;  // an element
-    QvStatus (*call)(const double* x, const double* y, std::int64_t n, double* out);
+    QvStatus (*call)(double* x, const double* y, std::int64_t n, double* out);
     bool carried;  // each element waits for the one before
 };
 

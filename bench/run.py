@@ -91,7 +91,9 @@ class Report:
         self.goals.append((what, f"{value:.3f}", f"{sign} {bound:g}", "met" if met else "missed"))
 
     def goals_table(self):
-        rows = ["| goal | reached | wanted | |", "|---|---:|---:|---|"]
+        if not self.goals:
+            return ""
+        rows = ["## Goals", "", "| goal | reached | wanted | |", "|---|---:|---:|---|"]
         return "\n".join(rows + ["| " + " | ".join(goal) + " |" for goal in self.goals])
 
 
@@ -292,8 +294,6 @@ timed, its result is checked against the rival's. Beside Python libraries two ti
 C++ (*C++*), and a call by ctypes on NumPy arrays made beforehand (*ctypes*). *Ratio* takes the C++ time where the call
 by ctypes adds less than {OVERHEAD:.0%}, and the time through ctypes otherwise; *from* says which. *Ratio of C++* takes
 the C++ time always, and so sets a plain call beside one that went through Python.
-
-## Goals
 
 {report.goals_table()}
 """
