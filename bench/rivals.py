@@ -62,11 +62,12 @@ def address(array):
 
 
 def aligned(count, dtype=np.float64):
-    """Zeros aligned to a cache line, as the C++ side has them; large arrays get huge pages from NumPy."""
+    """Zeros, placed as bench/support/buffer.cpp places them; large arrays get huge pages from NumPy."""
     size = np.dtype(dtype).itemsize
-    raw = np.empty(count * size + 64, np.uint8)
+    unit = 4096 if count * size >= 4096 else 64
+    raw = np.empty(count * size + unit, np.uint8)
     raw[:] = 0
-    start = -raw.ctypes.data % 64
+    start = -raw.ctypes.data % unit
     return raw[start:start + count * size].view(dtype)
 
 

@@ -1,4 +1,5 @@
-// Arrays as the contenders share them: aligned to a cache line, large ones on huge pages, as NumPy allocates its own.
+// Arrays as the contenders share them: aligned to a cache line or a page, large ones on huge pages, as NumPy has its
+// own.
 #pragma once
 
 #include <cstddef>
