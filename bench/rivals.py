@@ -145,8 +145,8 @@ def sort_cases(library):
 
 
 # Name, number, Quorvan's parameter or none, SciPy's call, absolute tolerance of the comparison. Kaiser's series stops
-# at a term of 1e-8; SciPy centres Parzen's window elsewhere; the cosines of the Chebyshev spectrum come from a recurrence
-# whose error grows as n^2 roundings, and the polynomial of order n multiplies it by n.
+# at a term of 1e-8; SciPy centres Parzen's window elsewhere; the cosines of the Chebyshev spectrum come from a
+# recurrence whose error grows as n^2 roundings, and the polynomial of order n multiplies it by n.
 WINDOWS = (
     ("hanning", 89, None, "w.hann(n, sym=False)", 1e-9),
     ("hamming", 88, None, "w.hamming(n, sym=False)", 1e-9),

@@ -188,8 +188,8 @@ def array_sections(library, plain, report, effort):
         "Element-wise array operations beside NumPy",
         "The last column compares the loops alone: NumPy's time less its time for two elements, over the C++ time; the "
         "bare call of either language is in neither. NumPy needs two passes and more for `linear_eval` and `scale`; "
-        "its `sum` adds in pairs, Quorvan's in index order, which is stated and bounds it by the latency of an addition. "
-        "`maxmin` skips NaN and keeps the first index of both extremes; NumPy's `argmax` and `argmin` stop at a NaN.",
+        "its `sum` adds in pairs, Quorvan's in index order, which is stated and bounds it by the latency of an "
+        "addition. `maxmin` skips NaN and keeps the first index of both extremes; NumPy's `argmax` and `argmin` stop at a NaN.",
         ["operation", "elements", "C++, us", "ctypes, us", "NumPy, us", *RATIO_HEADER, "loop alone"],
         [[c.group.removeprefix("array_"), c.size, *c.cells(), f"{net[c.group, c.size]:.2f}"] for c in found],
         closing(found))
@@ -232,9 +232,9 @@ def sort_section(library, plain, report, effort):
 def convolution_section(library, plain, report, effort):
     found = compare(rivals.convolution_cases(library), plain, effort)
     report.section("Convolution beside SciPy", "`ConvolveReal` by FFT, which builds and frees its plan in each call, "
-                   "beside `scipy.signal.fftconvolve`. By default glibc gives the large workspaces of a C++ program back "
-                   "to the system after each call, and the next call pays for their pages again; the heap of Python's "
-                   "process keeps them.",
+                   "beside `scipy.signal.fftconvolve`. By default glibc gives the large workspaces of a C++ program "
+                   "back to the system after each call, and the next call pays for their pages again; the heap of "
+                   "Python's process keeps them.",
                    ["lengths", "C++, us", "ctypes, us", "SciPy, us", *RATIO_HEADER],
                    [[c.size, *c.cells()] for c in found], closing(found))
 
