@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Times Quorvan beside FFTW, NumPy, SciPy and the standard library, prints ratios, and writes docs/benchmarks.md.
 
     cmake --preset bench && cmake --build --preset bench && bench/run.py
@@ -189,8 +189,8 @@ def array_sections(library, plain, report, effort):
         "The last column compares the loops alone: NumPy's time less its time for two elements, over the C++ time; the "
         "bare call of either language is in neither. NumPy needs two passes and more for `linear_eval` and `scale`; "
         "its `sum` adds in pairs, Quorvan's in index order, which is stated and bounds it by the latency of an "
-        "addition. `maxmin` skips NaN and keeps the first index of both extremes; NumPy's `argmax` and `argmin` stop at "
-        "a NaN.",
+        "addition. `maxmin` skips NaN and keeps the first index of both extremes; NumPy's `argmax` and `argmin` stop "
+        "at a NaN.",
         ["operation", "elements", "C++, us", "ctypes, us", "NumPy, us", *RATIO_HEADER, "loop alone"],
         [[c.group.removeprefix("array_"), c.size, *c.cells(), f"{net[c.group, c.size]:.2f}"] for c in found],
         closing(found))
