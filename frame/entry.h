@@ -13,8 +13,8 @@
 #define QV_EXPORT extern "C" QV_API
 
 // A second exported name for the same entry, at the same address.
-#define QV_EXPORT_ALIAS(result, alias, entry, ...) \
-    extern "C" QV_API result alias(__VA_ARGS__) __attribute__((alias(#entry)))
+#define QV_EXPORT_ALIAS(result, name, entry, ...) \
+    extern "C" QV_API result name(__VA_ARGS__) __attribute__((alias(#entry)))
 
 namespace quorvan {
 
