@@ -775,6 +775,425 @@ QV_API QvStatus ZemFunc43(double* re, double* im, int64_t n, double aRe, double 
 
 /** @} */
 
+/** @defgroup convolution Convolution and correlation
+ * Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is the
+ * convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
+ * Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions without
+ * a method use transforms. Outputs must not overlap inputs.
+ * Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2 biased (all
+ * divided by the longer length).
+ * @{
+ */
+
+/**
+ * ConvolveReal.
+ * The linear convolution, out[l] = sum over i of x[i] y[l - i].
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param out written, [n + m - 1]: the convolution
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvConvolveReal(signal, 1000, taps, 21, filtered);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc32(const double* x, int64_t n, const double* y, int64_t m, double* out);
+#define QvConvolveReal ZemFunc32
+
+/**
+ * ConvolveRealBy (ConvolveReal).
+ * The linear convolution, out[l] = sum over i of x[i] y[l - i].
+ * A method other than 0 and 1 does nothing and succeeds.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the convolution
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc372(const double* x, int64_t n, const double* y, int64_t m, int32_t method, double* out);
+#define QvConvolveRealBy ZemFunc372
+
+/**
+ * ConvolveComplex.
+ * The linear convolution, out[l] = sum over i of x[i] y[l - i].
+ * Nothing is conjugated.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the convolution
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20061 the method is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc391(const QvComplex* x, int64_t n, const QvComplex* y, int64_t m, uint32_t method, QvComplex* out);
+#define QvConvolveComplex ZemFunc391
+
+/**
+ * CorrelateReal.
+ * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
+ * If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc33(const double* x, int64_t n, const double* y, int64_t m, double* out);
+#define QvCorrelateReal ZemFunc33
+
+/**
+ * CorrelateRealBy (CorrelateReal).
+ * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
+ * A method other than 0 and 1 does nothing and succeeds.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc373(const double* x, int64_t n, const double* y, int64_t m, int32_t method, double* out);
+#define QvCorrelateRealBy ZemFunc373
+
+/**
+ * CorrelateRealNormalised (CorrelateReal).
+ * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
+ * A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a failure.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out read and written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @retval -20061 the normalisation is above 2; the raw result is written
+ */
+QV_API QvStatus ZemFunc376(const double* x, int64_t n, const double* y, int64_t m, int32_t method, uint32_t normalisation, double* out);
+#define QvCorrelateRealNormalised ZemFunc376
+
+/**
+ * AutoCorrelateReal (CorrelateReal).
+ * The autocorrelation, out[n - 1 + l] = sum over i of x[i] x[i + l].
+ * @param x read, [n]: the sequence
+ * @param n its length
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out written, [2 * n - 1]: the autocorrelation
+ * @retval -20003 n is below 1
+ * @retval -20046 2n - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @retval -20061 the normalisation is unknown; the raw result is written
+ */
+QV_API QvStatus ZemFunc424(const double* x, int64_t n, int32_t normalisation, double* out);
+#define QvAutoCorrelateReal ZemFunc424
+
+/**
+ * CorrelateComplex.
+ * The cross-correlation, out[n - 1 + l] = sum over i of conj(x[i]) y[i + l].
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20061 the method is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc421(const QvComplex* x, int64_t n, const QvComplex* y, int64_t m, uint32_t method, QvComplex* out);
+#define QvCorrelateComplex ZemFunc421
+
+/**
+ * CorrelateComplexNormalised (CorrelateComplex).
+ * The cross-correlation, out[n - 1 + l] = sum over i of conj(x[i]) y[i + l].
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20061 the method is above 1; or the normalisation is above 2, and the raw result is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc490(const QvComplex* x, int64_t n, const QvComplex* y, int64_t m, uint32_t method, uint32_t normalisation, QvComplex* out);
+#define QvCorrelateComplexNormalised ZemFunc490
+
+/**
+ * AutoCorrelateComplex (CorrelateComplex).
+ * The autocorrelation, out[n - 1 + l] = sum over i of conj(x[i]) x[i + l].
+ * @param x read, [n]: the sequence
+ * @param n its length
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out written, [2 * n - 1]: the autocorrelation
+ * @retval -20003 n is below 1
+ * @retval -20046 2n - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @retval -20061 the normalisation is unknown; the raw result is written
+ */
+QV_API QvStatus ZemFunc425(const QvComplex* x, int64_t n, int32_t normalisation, QvComplex* out);
+#define QvAutoCorrelateComplex ZemFunc425
+
+/**
+ * Deconvolve.
+ * Finds the sequence whose convolution with x is y, by dividing spectra; by long division where the spectrum of x comes too near to zero.
+ * @param y read, [n]: the product of the convolution
+ * @param n its length
+ * @param x read, [m]: the known factor
+ * @param m its length
+ * @param out written, [n - m + 1]: the other factor
+ * @retval -20003 n or m is below 1
+ * @retval -20008 m is above n
+ * @retval -20046 n exceeds 2^30
+ * @retval -20060 all elements of x are 0; nothing is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc54(const double* y, int64_t n, const double* x, int64_t m, double* out);
+#define QvDeconvolve ZemFunc54
+
+/**
+ * Convolve2DReal.
+ * The linear convolution of two arrays, out(r, c) = sum over i, j of x(i, j) y(r - i, c - j).
+ * Shape 2 has (rows1 - rows2 + 1) x (cols1 - cols2 + 1) elements.
+ * Checked in the order of the statuses.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param shape 0: all; 1: rows1 x cols1, from row rows2 / 2 and column cols2 / 2; 2: what no padding has touched
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the convolution, row-major, as much of it as the shape has
+ * @retval -20003 a size is below 1
+ * @retval -20061 the shape is above 2, or the method above 1
+ * @retval -20008 shape 2, and y has more rows or columns than x
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc392(const double* x, int64_t rows1, int64_t cols1, const double* y, int64_t rows2, int64_t cols2, uint32_t shape, uint32_t method, double* out);
+#define QvConvolve2DReal ZemFunc392
+
+/**
+ * Convolve2DComplex.
+ * The linear convolution of two arrays, out(r, c) = sum over i, j of x(i, j) y(r - i, c - j).
+ * Shape 2 has (rows1 - rows2 + 1) x (cols1 - cols2 + 1) elements.
+ * Checked in the order of the statuses.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param shape 0: all; 1: rows1 x cols1, from row rows2 / 2 and column cols2 / 2; 2: what no padding has touched
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the convolution, row-major, as much of it as the shape has
+ * @retval -20003 a size is below 1
+ * @retval -20061 the shape is above 2, or the method above 1
+ * @retval -20008 shape 2, and y has more rows or columns than x
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc393(const QvComplex* x, int64_t rows1, int64_t cols1, const QvComplex* y, int64_t rows2, int64_t cols2, uint32_t shape, uint32_t method, QvComplex* out);
+#define QvConvolve2DComplex ZemFunc393
+
+/**
+ * Correlate2DReal.
+ * The cross-correlation of two arrays, sum over i, j of x(i, j) y(i + r, j + c), with lag (0, 0) at row rows1 - 1 and column cols1 - 1.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the correlation, row-major
+ * @retval -20003 a size is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc422(const double* x, int64_t rows1, int64_t cols1, const double* y, int64_t rows2, int64_t cols2, uint32_t method, double* out);
+#define QvCorrelate2DReal ZemFunc422
+
+/**
+ * Correlate2DComplex.
+ * The cross-correlation of two arrays, sum over i, j of conj(x(i, j)) y(i + r, j + c), with lag (0, 0) at row rows1 - 1 and column cols1 - 1.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the correlation, row-major
+ * @retval -20003 a size is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc423(const QvComplex* x, int64_t rows1, int64_t cols1, const QvComplex* y, int64_t rows2, int64_t cols2, uint32_t method, QvComplex* out);
+#define QvCorrelate2DComplex ZemFunc423
+
+/**
+ * AutoCorrelate2DReal (Correlate2DReal).
+ * The autocorrelation of an array, sum over i, j of x(i, j) x(i + r, j + c), with lag (0, 0) in the middle.
+ * @param x read, [rows * cols]: the array, row-major
+ * @param rows its rows
+ * @param cols its columns
+ * @param out written, [(2 * rows - 1) * (2 * cols - 1)]: the autocorrelation, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc426(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvAutoCorrelate2DReal ZemFunc426
+
+/**
+ * AutoCorrelate2DComplex (Correlate2DComplex).
+ * The autocorrelation of an array, sum over i, j of conj(x(i, j)) x(i + r, j + c), with lag (0, 0) in the middle.
+ * @param x read, [rows * cols]: the array, row-major
+ * @param rows its rows
+ * @param cols its columns
+ * @param out written, [(2 * rows - 1) * (2 * cols - 1)]: the autocorrelation, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvComplex* out);
+#define QvAutoCorrelate2DComplex ZemFunc427
+
+/** @} */
+
+/** @defgroup gamma Gamma, beta and related functions
+ * Scalar functions of real arguments, returned as the value itself: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
+ * Where an argument goes by address, a null pointer selects the complete function; the address of 0.0 does not.
+ * @{
+ */
+
+/**
+ * SpecBeta.
+ * Null x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). At poles NaN or +Inf, as the Gammas give.
+ * Otherwise the regularised incomplete beta function I_x(a, b), the integral of t^(a-1) (1-t)^(b-1) from 0 to x over B(a, b).
+ * I_x(a, b) is NaN for a <= 0, b <= 0 or x outside [0, 1]; it is 0 at x = 0 and 1 at x = 1.
+ * @param a first parameter; above 0 for the incomplete function
+ * @param b second parameter; above 0 for the incomplete function
+ * @param x read, may be null: upper limit of the integral, 0 to 1; null selects the complete function
+ */
+QV_API double ZemFunc307(double a, double b, const double* x);
+#define QvSpecBeta ZemFunc307
+
+/**
+ * SpecFactorial.
+ * n! = 1 * 2 * ... * n; NaN below 0, +Inf above 170.
+ * n is a number, not a size: it is not narrowed.
+ * @param n any integer
+ */
+QV_API double ZemFunc308(int64_t n);
+#define QvSpecFactorial ZemFunc308
+
+/**
+ * SpecGamma.
+ * Null x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725.
+ * Otherwise the regularised incomplete gamma function P(a, x), the integral of t^(a-1) e^-t from 0 to x over Gamma(a).
+ * P(a, x) is NaN for a <= 0 or x < 0; it is 0 at x = 0 and 1 at x = +Inf.
+ * Gamma at 1 - 2^-52 and at 2 - 2^-52 is given as 0.5; callers rely on the loops that lead there.
+ * @param a the argument; above 0 for the incomplete function
+ * @param x read, may be null: upper limit of the integral, at least 0; null selects the complete function
+ * @code
+ * double x = 1.5, gamma = QvSpecGamma(0.5, NULL), p = QvSpecGamma(0.5, &x);
+ * @endcode
+ */
+QV_API double ZemFunc309(double a, const double* x);
+#define QvSpecGamma ZemFunc309
+
+/**
+ * SpecIncompleteGammaComplement.
+ * Q(a, x) = 1 - P(a, x), the integral of t^(a-1) e^-t from x to infinity over Gamma(a).
+ * NaN for a <= 0 or x < 0; 1 at x = 0 and 0 at x = +Inf.
+ * @param a above 0
+ * @param x lower limit of the integral, at least 0
+ */
+QV_API double ZemFunc310(double a, double x);
+#define QvSpecIncompleteGammaComplement ZemFunc310
+
+/**
+ * SpecLnFactorial.
+ * ln n!
+ * @param n any
+ */
+QV_API double ZemFunc311(uint32_t n);
+#define QvSpecLnFactorial ZemFunc311
+
+/**
+ * SpecLnGamma.
+ * ln |Gamma(x)|. 0, negative integers, and x above 2.556348e305 give +Inf.
+ * @param x any
+ */
+QV_API double ZemFunc312(double x);
+#define QvSpecLnGamma ZemFunc312
+
+/**
+ * SpecDigamma.
+ * psi(x), the derivative of ln Gamma(x). 0, negative integers and -Inf give NaN.
+ * @param x any
+ */
+QV_API double ZemFunc313(double x);
+#define QvSpecDigamma ZemFunc313
+
+/**
+ * SpecGammaStirling.
+ * sqrt(2 pi) x^(x - 1/2) e^-x (1 + 1/(12 x) + ...), Stirling's formula for Gamma(x) with five terms.
+ * +Inf above 709.7827128933. Nothing is refused: below 33 the five terms are simply too few.
+ * @param x above 0; the formula is meant for x > 33
+ */
+QV_API double ZemFunc314(double x);
+#define QvSpecGammaStirling ZemFunc314
+
+/**
+ * SpecDilogarithm.
+ * Spence's integral, the integral of -ln t / (t - 1) from 1 to x, which is Li2(1 - x).
+ * NaN below 0; pi^2/6 at 0, 0 at 1.
+ * @param x at least 0
+ */
+QV_API double ZemFunc326(double x);
+#define QvSpecDilogarithm ZemFunc326
+
+/**
+ * SpecZeta.
+ * The Riemann zeta function minus 1: the 1 is left out because it would hide the rest for large x.
+ * +Inf at 1, 0 from 127 on, NaN below -30.8148.
+ * @param x any
+ */
+QV_API double ZemFunc329(double x);
+#define QvSpecZeta ZemFunc329
+
+/** @} */
+
 /** @defgroup generators Waveform generators
  * Each fills an array of n samples with a deterministic signal and keeps no state of its own.
  * The periodic waves take their phase in degrees by address and leave there the phase of the sample behind the
@@ -788,6 +1207,7 @@ QV_API QvStatus ZemFunc43(double* re, double* im, int64_t n, double aRe, double 
  * GenSineWave.
  * Sine wave, out[i] = amp sin(2 pi freq i + phase).
  * The samples come from a coupled recurrence of sine and cosine; sines are held within [-|amp|, |amp|].
+ * @param n samples
  * @param amp amplitude
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -804,6 +1224,7 @@ QV_API QvStatus ZemFunc159(int64_t n, double amp, double freq, double* phase, do
 /**
  * GenSinePattern.
  * Sine of a number of cycles over the array: GenSineWave with the frequency cycles / n.
+ * @param n samples
  * @param amp amplitude
  * @param phase degrees, of the first sample
  * @param cycles cycles in the array, any number
@@ -817,6 +1238,7 @@ QV_API QvStatus ZemFunc158(int64_t n, double amp, double phase, double cycles, d
  * GenSquareWave.
  * Square wave: amp while the phase is below 3.6 duty degrees, then -amp.
  * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param n samples
  * @param amp the high level; the low one is -amp
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -831,6 +1253,7 @@ QV_API QvStatus ZemFunc165(int64_t n, double amp, double freq, double* phase, do
  * GenTriangleWave.
  * Triangle wave: 0 at phase 0, amp at 90 degrees, -amp at 270 degrees, straight between.
  * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param n samples
  * @param amp amplitude
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -844,6 +1267,7 @@ QV_API QvStatus ZemFunc179(int64_t n, double amp, double freq, double* phase, do
  * GenSawtoothWave.
  * Sawtooth wave: rises from 0 at phase 0 towards amp at 180 degrees, jumps to -amp and rises back to 0.
  * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param n samples
  * @param amp amplitude
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -858,11 +1282,13 @@ QV_API QvStatus ZemFunc151(int64_t n, double amp, double freq, double* phase, do
  * Plays the period stored in a table.
  * The phase is accumulated from sample to sample in units of table cells.
  * A size below 1 gives zeros and a phase of 0. Positions beyond 2^53 periods stay within the table.
+ * @param n samples
  * @param amp factor of the table's values
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
  * @param table read, [size]: one period
- * @param interpolation 1 interpolates linearly, from the last cell towards the first; any other value takes the cell as it is
+ * @param size of the table
+ * @param interpolation 1 interpolates linearly, from the last cell towards the first; else the cell as it is
  * @param out written, [n]
  * @retval -20003 n is below 1
  * @retval -20068 phase or freq is infinite or NaN
@@ -873,6 +1299,7 @@ QV_API QvStatus ZemFunc9(int64_t n, double amp, double freq, double* phase, cons
 /**
  * GenChirp.
  * Sine with a linearly changing frequency, out[i] = amp sin((i (f2 - f1) pi / n + 2 pi f1) i).
+ * @param n samples
  * @param amp amplitude
  * @param f1 cycles per sample at the first sample
  * @param f2 cycles per sample at sample n, the one behind the last
@@ -886,7 +1313,10 @@ QV_API QvStatus ZemFunc28(int64_t n, double amp, double f1, double f2, double* o
  * GenPulsePattern.
  * Rectangular pulse: amp at the width samples from delay on, 0 elsewhere.
  * delay + width may be n; a width of 0 leaves zeros. -20046 follows if delay or width does not fit 32 bits.
+ * @param n samples
  * @param amp height
+ * @param delay first sample of the pulse
+ * @param width samples in the pulse
  * @param out written, [n]
  * @retval -20003 n is below 1
  * @retval -20014 delay or width is negative, or delay + width exceeds n
@@ -897,7 +1327,9 @@ QV_API QvStatus ZemFunc141(int64_t n, double amp, int64_t delay, int64_t width, 
 /**
  * GenImpulsePattern.
  * Impulse: amp at the sample index, 0 elsewhere. -20046 follows if index does not fit 32 bits.
+ * @param n samples
  * @param amp height
+ * @param index sample of the impulse
  * @param out written, [n]
  * @retval -20003 n is below 1
  * @retval -20017 index is outside 0 to n - 1
@@ -909,6 +1341,7 @@ QV_API QvStatus ZemFunc93(int64_t n, double amp, int64_t index, double* out);
  * GenRampPattern.
  * Linear ramp, out[i] = first + i (last - first) / (n - 1).
  * One sample is allowed if first equals last.
+ * @param n samples
  * @param first value of the first sample
  * @param last value of the last sample, exactly
  * @param out written, [n]
@@ -920,6 +1353,7 @@ QV_API QvStatus ZemFunc145(int64_t n, double first, double last, double* out);
 /**
  * GenTrianglePattern.
  * One isosceles triangle from 0 at the first sample; an odd n ends on 0, an even one just before.
+ * @param n samples
  * @param amp peak, at sample n / 2
  * @param out written, [n]
  * @retval -20006 n is below 2
@@ -930,6 +1364,7 @@ QV_API QvStatus ZemFunc178(int64_t n, double amp, double* out);
 /**
  * GenSincPattern.
  * Sinc pulse, out[i] = amp sin(pi t) / (pi t) with t = i dt - delay.
+ * @param n samples
  * @param amp peak
  * @param delay time of the peak, in the unit of dt
  * @param dt time between samples
@@ -944,6 +1379,7 @@ QV_API QvStatus ZemFunc157(int64_t n, double amp, double delay, double dt, doubl
  * GenPeriodicSincPattern.
  * Periodic sinc (Dirichlet kernel), out[i] = amp sin(order x) / (order sin x) with x = (i dt - delay) / 2.
  * Where |sin x| is at most 2.220446049250313e-16 the value is amp, also for an even order where the limit is -amp.
+ * @param n samples
  * @param amp peak
  * @param delay time of a peak, in the unit of dt
  * @param dt time between samples
@@ -958,7 +1394,9 @@ QV_API QvStatus ZemFunc349(int64_t n, double amp, double delay, double dt, int32
 
 /**
  * GenGaussianModulatedSine.
- * Sine under a Gaussian, out[i] = amp exp(a u^2) cos(2 u) with u = pi centre t, a = -5 bandwidth^2 / (attenuation ln 10).
+ * Sine under a Gaussian, out[i] = amp exp(a u^2) cos(2 u) with u = pi centre t.
+ * The width follows from a = -5 bandwidth^2 / (attenuation ln 10).
+ * @param n samples
  * @param amp peak
  * @param delay time of the peak, in the unit of dt
  * @param dt time between samples
@@ -976,6 +1414,7 @@ QV_API QvStatus ZemFunc348(int64_t n, double amp, double delay, double dt, doubl
 /**
  * GenGaussianMonopulse.
  * Gaussian monopulse, out[i] = 2 sqrt(e) amp u exp(-2 u^2) with u = pi centre t.
+ * @param n samples
  * @param amp extreme values amp and -amp
  * @param delay time of the zero between them, in the unit of dt
  * @param dt time between samples
@@ -992,6 +1431,7 @@ QV_API QvStatus ZemFunc347(int64_t n, double amp, double delay, double dt, doubl
  * GenSkewedTrianglePulse.
  * Triangular pulse: rises from 0 at t = 0 to amp at t = skew width and falls to 0 at t = width; 0 elsewhere.
  * A skew of 0 starts at amp, a skew of 1 ends at amp.
+ * @param n samples
  * @param amp height of the apex
  * @param delay start of the pulse, in the unit of dt
  * @param dt time between samples
@@ -1043,6 +1483,39 @@ QV_API void ZemFunc238(void* block);
  */
 QV_API void ZemFunc470(void* block);
 #define QvIirStateComplexRelease ZemFunc470
+
+/** @} */
+
+/** @defgroup plans FFT plans
+ * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
+ * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the
+ * building of its tables. Any length from 1 up has a plan; those whose prime factors are all small run fastest.
+ * A plan is never changed, so any number of threads may use it at once.
+ * @{
+ */
+
+/**
+ * FftPlanCreate.
+ * A plan for transforms of this length, to be given back with FftPlanRelease.
+ * Two calls with one length return the same plan; each needs its own release.
+ * Null if the size does not fit 32 bits, is below 1, or memory ran out.
+ * @param size the length of the transforms in points
+ * @code
+ * QvFftPlan* plan = QvFftPlanCreate(1024);
+ * QvTransformRealFft(x, 1024, 0, plan, 0, spectrum);
+ * QvFftPlanRelease(plan);
+ * @endcode
+ */
+QV_API QvFftPlan* ZemFunc260(int64_t size);
+#define QvFftPlanCreate ZemFunc260
+
+/**
+ * FftPlanRelease.
+ * Gives a plan back; the last release frees it.
+ * @param plan handle, may be null: the plan; null is ignored
+ */
+QV_API void ZemFunc261(QvFftPlan* plan);
+#define QvFftPlanRelease ZemFunc261
 
 /** @} */
 
@@ -1459,6 +1932,415 @@ QV_API const char* ZemFunc240(int32_t code);
 
 /** @} */
 
+/** @defgroup transforms Transforms
+ * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
+ * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
+ * In shifted order of N bins X[0] stands at index N / 2 (integer division), X[k] at N / 2 + k, X[-k] at N / 2 - k; of
+ * an even N, index 0 holds X[N / 2].
+ * Outputs must not overlap inputs, except where a function says so.
+ * @{
+ */
+
+/**
+ * TransformRealFft.
+ * The full spectrum of real data, X[k] = sum over j of x[j] exp(-2 pi i j k / L).
+ * The output is the only workspace.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @retval -20003 n is below 1
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvTransformRealFft(x, 1024, 0, NULL, 0, spectrum);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc262(const double* x, int64_t n, int64_t fftSize, QvFftPlan* plan, int32_t shift, QvComplex* out);
+#define QvTransformRealFft ZemFunc262
+
+/**
+ * TransformComplexFft.
+ * The spectrum of complex data, X[k] = sum over j of x[j] exp(-2 pi i j k / L).
+ * If memory for reordering runs out, the spectrum is left in natural order.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @retval -20003 n is below 1
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc263(const QvComplex* x, int64_t n, int64_t fftSize, QvFftPlan* plan, int32_t shift, QvComplex* out);
+#define QvTransformComplexFft ZemFunc263
+
+/**
+ * TransformRealIfft.
+ * The real data of a spectrum, the inverse of TransformRealFft.
+ * Only the bins from frequency 0 to n / 2 are read; of bin 0, and of bin n / 2 of an even n, only the real part.
+ * @param X read, [n]: the spectrum of real data
+ * @param n how many bins and samples there are
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [n]: the samples
+ * @retval -20003 n is below 0
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted, or n is 0 and no plan is given
+ */
+QV_API QvStatus ZemFunc264(const QvComplex* X, int64_t n, QvFftPlan* plan, int32_t shift, double* out);
+#define QvTransformRealIfft ZemFunc264
+
+/**
+ * TransformComplexIfft.
+ * The inverse of TransformComplexFft, x[j] = (1/n) sum over k of X[k] exp(2 pi i j k / n).
+ * @param X read, [n]: the spectrum
+ * @param n how many bins and samples there are
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [n]: the samples
+ * @retval -20003 n is below 0
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted, or n is 0 and no plan is given
+ */
+QV_API QvStatus ZemFunc265(const QvComplex* X, int64_t n, QvFftPlan* plan, int32_t shift, QvComplex* out);
+#define QvTransformComplexIfft ZemFunc265
+
+/**
+ * TransformRealFft2D.
+ * The two-dimensional spectrum of real data; each dimension is padded with zeros or cut to its length.
+ * The output is the only large workspace.
+ * @param x read, [rows * cols]: the samples, row-major
+ * @param rows rows of the input
+ * @param cols columns of the input
+ * @param fftRows rows of the transform; below 1: rows
+ * @param fftCols columns of the transform; below 1: cols
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc266(const double* x, int64_t rows, int64_t cols, int64_t fftRows, int64_t fftCols, int32_t shift, QvComplex* out);
+#define QvTransformRealFft2D ZemFunc266
+
+/**
+ * TransformComplexFft2D.
+ * The two-dimensional spectrum of complex data; each dimension is padded with zeros or cut to its length.
+ * The output is the only large workspace.
+ * @param x read, [rows * cols]: the samples, row-major
+ * @param rows rows of the input
+ * @param cols columns of the input
+ * @param fftRows rows of the transform; below 1: rows
+ * @param fftCols columns of the transform; below 1: cols
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc267(const QvComplex* x, int64_t rows, int64_t cols, int64_t fftRows, int64_t fftCols, int32_t shift, QvComplex* out);
+#define QvTransformComplexFft2D ZemFunc267
+
+/**
+ * TransformRealIfft2D.
+ * The real data of a two-dimensional spectrum; only the rows from frequency 0 to rows / 2 are read.
+ * @param X read, [rows * cols]: the spectrum, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [rows * cols]: the samples, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc268(const QvComplex* X, int64_t rows, int64_t cols, int32_t shift, double* out);
+#define QvTransformRealIfft2D ZemFunc268
+
+/**
+ * TransformComplexIfft2D.
+ * The inverse of TransformComplexFft2D.
+ * @param X read, [rows * cols]: the spectrum, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [rows * cols]: the samples, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc269(const QvComplex* X, int64_t rows, int64_t cols, int32_t shift, QvComplex* out);
+#define QvTransformComplexIfft2D ZemFunc269
+
+/**
+ * TransformSplitFft.
+ * The forward transform of split complex data, in place and unscaled.
+ * @param re read and written, [n]: real parts
+ * @param im read and written, [n]: imaginary parts
+ * @param n the length of the transform
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc77(double* re, double* im, int64_t n);
+#define QvTransformSplitFft ZemFunc77
+
+/**
+ * TransformDct.
+ * The orthonormal cosine transform of type II,
+ * out[k] = c(k) sqrt(2/L) sum over j of x[j] cos(pi k (2j + 1) / (2L)), c(0) = 1/sqrt(2), else 1.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @retval -20046 2 L does not fit 32 bits, with L the length of the transform
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc270(const double* x, int64_t n, int64_t fftSize, double* out);
+#define QvTransformDct ZemFunc270
+
+/**
+ * TransformIdct.
+ * The exact inverse of TransformDct (the orthonormal cosine transform of type III).
+ * @param x read, [n]: the transform
+ * @param n its length
+ * @param out written, [n]: the samples; it may be x
+ * @retval -20046 2 n does not fit 32 bits
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc271(const double* x, int64_t n, double* out);
+#define QvTransformIdct ZemFunc271
+
+/**
+ * TransformDst.
+ * The sine transform of type I, unnormalised,
+ * out[k-1] = sum over j of x[j] sin(pi k (j + 1) / (L + 1)), k = 1 to L.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @retval -20046 2 L + 2 does not fit 32 bits, with L the length of the transform
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc272(const double* x, int64_t n, int64_t fftSize, double* out);
+#define QvTransformDst ZemFunc272
+
+/**
+ * TransformIdst.
+ * The exact inverse of TransformDst, which carries the whole factor 2/(n + 1).
+ * @param x read, [n]: the transform
+ * @param n its length
+ * @param out written, [n]: the samples; it may be x
+ * @retval -20046 2 n + 2 does not fit 32 bits
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc273(const double* x, int64_t n, double* out);
+#define QvTransformIdst ZemFunc273
+
+/**
+ * TransformDct2D.
+ * TransformDct of all rows, then columns.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows or 2 cols does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc274(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformDct2D ZemFunc274
+
+/**
+ * TransformIdct2D.
+ * TransformIdct of all columns, then rows.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows or 2 cols does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc275(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformIdct2D ZemFunc275
+
+/**
+ * TransformDst2D.
+ * TransformDst of all rows, then columns.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows + 2 or 2 cols + 2 does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc276(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformDst2D ZemFunc276
+
+/**
+ * TransformIdst2D.
+ * TransformIdst of all rows, then columns.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows + 2 or 2 cols + 2 does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc277(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformIdst2D ZemFunc277
+
+/**
+ * TransformHartley.
+ * The Hartley transform in place, X[k] = sum over j of x[j] (cos + sin)(2 pi j k / n), unnormalised.
+ * Applied twice it gives n times the input.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc78(double* x, int64_t n);
+#define QvTransformHartley ZemFunc78
+
+/**
+ * TransformInverseHartley.
+ * TransformHartley times 1/n: its inverse.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc103(double* x, int64_t n);
+#define QvTransformInverseHartley ZemFunc103
+
+/**
+ * TransformHilbert.
+ * The Hilbert transform in place: positive frequencies are multiplied by -i, so that a cosine becomes a sine.
+ * The mean, and of an even n the component at n / 2, vanish; n = 1 gives 0.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc75(double* x, int64_t n);
+#define QvTransformHilbert ZemFunc75
+
+/**
+ * TransformInverseHilbert.
+ * TransformHilbert with its sign changed: the inverse for data without the components that vanish.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc76(double* x, int64_t n);
+#define QvTransformInverseHilbert ZemFunc76
+
+/**
+ * TransformChirpZReal.
+ * The z-transform of real data along a spiral, X[j] = sum over k of x[k] a^-k w^(j k).
+ * The sum itself costs n * m powers; Bluestein's algorithm (1970) is fast, and loses accuracy where |w| is far from 1.
+ * Checked in the order of the statuses, a before w.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param a where the spiral starts
+ * @param w the ratio of neighbouring points
+ * @param method 0: the sum itself; 1: Bluestein's algorithm
+ * @param m how many points of the spiral; below 1: n
+ * @param out written, [m]: the transform; n records for an m below 1
+ * @retval -20003 n is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20068 a or w is not finite
+ * @retval -20141 |a|^2 or |w|^2 is 0
+ * @retval -20046 method 1 and 2n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc341(const double* x, int64_t n, QvComplex a, QvComplex w, uint32_t method, int64_t m, QvComplex* out);
+#define QvTransformChirpZReal ZemFunc341
+
+/**
+ * TransformChirpZComplex.
+ * The z-transform of complex data along a spiral, X[j] = sum over k of x[k] a^-k w^(j k).
+ * The sum itself costs n * m powers; Bluestein's algorithm (1970) is fast, and loses accuracy where |w| is far from 1.
+ * Checked in the order of the statuses, a before w.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param a where the spiral starts
+ * @param w the ratio of neighbouring points
+ * @param method 0: the sum itself; 1: Bluestein's algorithm
+ * @param m how many points of the spiral; below 1: n
+ * @param out written, [m]: the transform; n records for an m below 1
+ * @retval -20003 n is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20068 a or w is not finite
+ * @retval -20141 |a|^2 or |w|^2 is 0
+ * @retval -20046 method 1 and 2n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc342(const QvComplex* x, int64_t n, QvComplex a, QvComplex w, uint32_t method, int64_t m, QvComplex* out);
+#define QvTransformChirpZComplex ZemFunc342
+
+/**
+ * TransformInverseChirpZ.
+ * Recovers x from X[j] = sum over k of x[k] a^-k w^(j k), in closed form.
+ * With more points than samples, those whose nodes lie nearest to the unit circle are used.
+ * @param X read and written, [n]: points of a chirp-Z transform; the first m are overwritten if out is null
+ * @param n how many points there are
+ * @param a where the spiral starts
+ * @param w the ratio of neighbouring points
+ * @param out written, [m], may be null: the samples; n records for an m below 1
+ * @param m how many samples; below 1: n
+ * @retval -20003 n is below 1
+ * @retval -20068 a or w is not finite
+ * @retval -20141 |a|^2 or |w|^2 is 0
+ * @retval -20008 m is above n
+ * @retval -20046 2m - 1 exceeds 2^31 - 1
+ * @retval -20116 two of the nodes w^0 to w^(m-1) coincide; nothing is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc351(QvComplex* X, int64_t n, QvComplex a, QvComplex w, QvComplex* out, int64_t m);
+#define QvTransformInverseChirpZ ZemFunc351
+
+/**
+ * PowerSpectrumComplex.
+ * The two-sided power spectrum of complex data, out[k] = |X[k]|^2 / n^2.
+ * @param x read, [n]: the samples
+ * @param n how many there are
+ * @param out written, [n]: the power of each bin, natural order
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc467(const QvComplex* x, int64_t n, double* out);
+#define QvPowerSpectrumComplex ZemFunc467
+
+/**
+ * CrossPowerComplex.
+ * The two-sided cross power spectrum of complex data, out[k] = conj(X[k]) Y[k] / n^2.
+ * @param x read, [n]: the first samples
+ * @param y read, [n]: the second samples
+ * @param n how many there are
+ * @param out written, [n]: the cross power of each bin, natural order
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, QvComplex* out);
+#define QvCrossPowerComplex ZemFunc468
+
+/** @} */
+
 /** @defgroup windows Window functions
  * Windows multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
  * Most are periodic: w[k] = w[n - k], and w[0] would be the first sample of the next period. The symmetric form,
@@ -1473,6 +2355,7 @@ QV_API const char* ZemFunc240(int32_t code);
  * Multiplies data by the Hanning window, w[i] = 0.5 - 0.5 cos(2 pi i / n).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  * @code
@@ -1487,6 +2370,7 @@ QV_API QvStatus ZemFunc89(double* x, int64_t n);
  * WinHanningComplex (WinHanning).
  * Multiplies complex data by the window of WinHanning: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1498,6 +2382,7 @@ QV_API QvStatus ZemFunc430(QvComplex* x, int64_t n);
  * Multiplies data by the Hamming window, w[i] = 0.54 - 0.46 cos(2 pi i / n).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1508,6 +2393,7 @@ QV_API QvStatus ZemFunc88(double* x, int64_t n);
  * WinHammingComplex (WinHamming).
  * Multiplies complex data by the window of WinHamming: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1519,6 +2405,7 @@ QV_API QvStatus ZemFunc431(QvComplex* x, int64_t n);
  * Multiplies data by the three-term Blackman-Harris window, the cosine sum of 0.42323, 0.49755, 0.07922.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1529,6 +2416,7 @@ QV_API QvStatus ZemFunc15(double* x, int64_t n);
  * WinBlackmanHarris3Complex (WinBlackmanHarris3).
  * Multiplies complex data by the window of WinBlackmanHarris3: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1540,6 +2428,7 @@ QV_API QvStatus ZemFunc433(QvComplex* x, int64_t n);
  * Multiplies data by the exact Blackman window, the cosine sum of 7938/18608, 9240/18608, 1430/18608.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1550,6 +2439,7 @@ QV_API QvStatus ZemFunc72(double* x, int64_t n);
  * WinExactBlackmanComplex (WinExactBlackman).
  * Multiplies complex data by the window of WinExactBlackman: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1561,6 +2451,7 @@ QV_API QvStatus ZemFunc435(QvComplex* x, int64_t n);
  * Multiplies data by the Blackman window, the cosine sum of 0.42, 0.5, 0.08.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1571,6 +2462,7 @@ QV_API QvStatus ZemFunc14(double* x, int64_t n);
  * WinBlackmanComplex (WinBlackman).
  * Multiplies complex data by the window of WinBlackman: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1579,9 +2471,11 @@ QV_API QvStatus ZemFunc432(QvComplex* x, int64_t n);
 
 /**
  * WinFlatTop.
- * Multiplies data by the flat top window, the cosine sum of 0.215578948, 0.41663158, 0.277263158, 0.083578947, 0.006947368.
+ * Multiplies data by the flat top window, the cosine sum of 0.215578948, 0.41663158, 0.277263158,
+ * 0.083578947, 0.006947368.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1592,6 +2486,7 @@ QV_API QvStatus ZemFunc80(double* x, int64_t n);
  * WinFlatTopComplex (WinFlatTop).
  * Multiplies complex data by the window of WinFlatTop: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1603,6 +2498,7 @@ QV_API QvStatus ZemFunc436(QvComplex* x, int64_t n);
  * Multiplies data by the Blackman-Nuttall window, the cosine sum of 0.3635819, 0.4891775, 0.1365995, 0.0106411.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1613,6 +2509,7 @@ QV_API QvStatus ZemFunc336(double* x, int64_t n);
  * WinBlackmanNuttallComplex (WinBlackmanNuttall).
  * Multiplies complex data by the window of WinBlackmanNuttall: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1624,6 +2521,7 @@ QV_API QvStatus ZemFunc434(QvComplex* x, int64_t n);
  * Multiplies data by w[i] = sum over k of (-1)^k a[k] cos(2 pi k i / n).
  * n = 1, and a single coefficient of exactly 1, leave the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param a read, [count]: coefficients, all positive for the usual windows
  * @param count number of coefficients, any
  * @retval -20003 n is below 1, or count is 0 and n above 1
@@ -1636,6 +2534,7 @@ QV_API QvStatus ZemFunc85(double* x, int64_t n, const double* a, uint32_t count)
  * WinCosineSumComplex (WinCosineSum).
  * Multiplies complex data by the window of WinCosineSum: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param a read, [count]: coefficients, all positive for the usual windows
  * @param count number of coefficients, any
  * @retval -20003 n is below 1, or count is 0 and n above 1
@@ -1647,8 +2546,10 @@ QV_API QvStatus ZemFunc437(QvComplex* x, int64_t n, const double* a, uint32_t co
 /**
  * WinCosineTaper.
  * Fades the share ratio of the samples, half at each end, by sin^2(pi i / (2 m)), m = ratio n / 2 cut to an integer.
- * Symmetric: sample i and sample n - 1 - i have one factor; the two outermost become 0. n = 1 leaves the data unchanged.
+ * Symmetric: sample i and sample n - 1 - i have one factor; the two outermost become 0.
+ * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param ratio share of the samples; from 1 on the Hanning window, up to 0 nothing
  * @retval -20003 n is below 1
  * @retval -20001 out of memory, with a ratio of 1 or more
@@ -1660,6 +2561,7 @@ QV_API QvStatus ZemFunc278(double* x, int64_t n, double ratio);
  * WinCosineTaperComplex (WinCosineTaper).
  * Multiplies complex data by the window of WinCosineTaper: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param ratio share of the samples; from 1 on the Hanning window, up to 0 nothing
  * @retval -20003 n is below 1
  * @retval -20001 out of memory, with a ratio of 1 or more
@@ -1671,6 +2573,7 @@ QV_API QvStatus ZemFunc438(QvComplex* x, int64_t n, double ratio);
  * WinCosineTaper20.
  * Fades a tenth of the samples at each end: WinCosineTaper with the ratio 0.2.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  */
 QV_API QvStatus ZemFunc35(double* x, int64_t n);
@@ -1681,6 +2584,7 @@ QV_API QvStatus ZemFunc35(double* x, int64_t n);
  * Multiplies data by the triangle window, w[k] = w[n - k] = 2 k / n.
  * n = 1 makes the sample 0.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  */
 QV_API QvStatus ZemFunc180(double* x, int64_t n);
@@ -1690,6 +2594,7 @@ QV_API QvStatus ZemFunc180(double* x, int64_t n);
  * WinTriangleComplex (WinTriangle).
  * Multiplies complex data by the window of WinTriangle: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  */
 QV_API QvStatus ZemFunc439(QvComplex* x, int64_t n);
@@ -1700,6 +2605,7 @@ QV_API QvStatus ZemFunc439(QvComplex* x, int64_t n);
  * Multiplies data by the Bartlett-Hanning window, w[k] = 0.62 - 0.48 |k/n - 0.5| - 0.38 cos(2 pi k / n), w[0] = 0.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1710,6 +2616,7 @@ QV_API QvStatus ZemFunc343(double* x, int64_t n);
  * WinBartlettHanningComplex (WinBartlettHanning).
  * Multiplies complex data by the window of WinBartlettHanning: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1721,6 +2628,7 @@ QV_API QvStatus ZemFunc446(QvComplex* x, int64_t n);
  * Multiplies data by the Bohman window, w[k] = w[n - k] = sin(2 pi k / n) / pi - (2 k / n) cos(2 pi k / n).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1731,6 +2639,7 @@ QV_API QvStatus ZemFunc344(double* x, int64_t n);
  * WinBohmanComplex (WinBohman).
  * Multiplies complex data by the window of WinBohman: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1739,9 +2648,11 @@ QV_API QvStatus ZemFunc447(QvComplex* x, int64_t n);
 
 /**
  * WinParzen.
- * Multiplies data by the Parzen window; with d = |2 k / n - 1|, w[k] = 2 (1 - d)^3 where d > 0.5, else 1 - 6 d^2 + 6 d^3.
+ * Multiplies data by the Parzen window; with d = |2 k / n - 1|,
+ * w[k] = 2 (1 - d)^3 where d > 0.5, else 1 - 6 d^2 + 6 d^3.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1752,6 +2663,7 @@ QV_API QvStatus ZemFunc345(double* x, int64_t n);
  * WinParzenComplex (WinParzen).
  * Multiplies complex data by the window of WinParzen: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1763,6 +2675,7 @@ QV_API QvStatus ZemFunc448(QvComplex* x, int64_t n);
  * Multiplies data by the Welch window, w[k] = 1 - (2 k / n - 1)^2.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1773,6 +2686,7 @@ QV_API QvStatus ZemFunc346(double* x, int64_t n);
  * WinWelchComplex (WinWelch).
  * Multiplies complex data by the window of WinWelch: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -1785,6 +2699,7 @@ QV_API QvStatus ZemFunc449(QvComplex* x, int64_t n);
  * I0 is its power series up to the first term of at most 1e-8, at most 25 terms.
  * n = 1 multiplies by 1 / I0(beta).
  * @param x read and written, [n]: data
+ * @param n samples
  * @param beta shape, not checked; about pi times half the main lobe in bins
  * @retval -20003 n is below 1
  */
@@ -1795,6 +2710,7 @@ QV_API QvStatus ZemFunc113(double* x, int64_t n, double beta);
  * WinKaiserComplex (WinKaiser).
  * Multiplies complex data by the window of WinKaiser: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param beta shape, not checked; about pi times half the main lobe in bins
  * @retval -20003 n is below 1
  */
@@ -1806,6 +2722,7 @@ QV_API QvStatus ZemFunc440(QvComplex* x, int64_t n, double beta);
  * Multiplies data by the Gaussian window, w[k] = exp(-(k - n/2)^2 / (2 (sigma (n + 1))^2)).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param sigma standard deviation as a share of the length; not positive means 0.2
  * @retval -20003 n is below 1
  */
@@ -1816,6 +2733,7 @@ QV_API QvStatus ZemFunc280(double* x, int64_t n, double sigma);
  * WinGaussianComplex (WinGaussian).
  * Multiplies complex data by the window of WinGaussian: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param sigma standard deviation as a share of the length; not positive means 0.2
  * @retval -20003 n is below 1
  */
@@ -1827,6 +2745,7 @@ QV_API QvStatus ZemFunc441(QvComplex* x, int64_t n, double sigma);
  * Multiplies data by the Dolph-Chebyshev window: the narrowest main lobe over sidelobes of one height.
  * Built by a transform of n + 1 samples, of which the last is left off. n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param attenuation dB, of the sidelobes below the main lobe; negative means 0
  * @retval -20003 n is below 1
  * @retval -20046 n is 2^31 - 1, where the n + 1 samples of the window exceed 32 bits
@@ -1839,6 +2758,7 @@ QV_API QvStatus ZemFunc279(double* x, int64_t n, double attenuation);
  * WinChebyshevComplex (WinChebyshev).
  * Multiplies complex data by the window of WinChebyshev: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param attenuation dB, of the sidelobes below the main lobe; negative means 0
  * @retval -20003 n is below 1
  * @retval -20046 n is 2^31 - 1, where the n + 1 samples of the window exceed 32 bits
@@ -1851,6 +2771,7 @@ QV_API QvStatus ZemFunc442(QvComplex* x, int64_t n, double attenuation);
  * WinExponential.
  * Multiplies data by a factor that falls from 1 to final by equal ratios, exp(i ln(final) / (n - 1)).
  * @param x read and written, [n]: data
+ * @param n samples
  * @param final factor of the last sample
  * @retval -20006 n is below 2
  * @retval -20027 final is not positive
@@ -1862,6 +2783,7 @@ QV_API QvStatus ZemFunc74(double* x, int64_t n, double final);
  * WinExponentialComplex (WinExponential).
  * Multiplies complex data by the window of WinExponential: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param final factor of the last sample
  * @retval -20006 n is below 2
  * @retval -20027 final is not positive
@@ -1873,6 +2795,7 @@ QV_API QvStatus ZemFunc444(QvComplex* x, int64_t n, double final);
  * WinForce.
  * Keeps the first duty percent of the samples, duty n / 100 cut to an integer, and clears the others.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param duty percent; below 0 clears all, above 100 nothing
  * @retval -20006 n is below 2
  */
@@ -1883,6 +2806,7 @@ QV_API QvStatus ZemFunc81(double* x, int64_t n, double duty);
  * WinForceComplex (WinForce).
  * Multiplies complex data by the window of WinForce: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param duty percent; below 0 clears all, above 100 nothing
  * @retval -20006 n is below 2
  */
@@ -1895,6 +2819,7 @@ QV_API QvStatus ZemFunc443(QvComplex* x, int64_t n, double duty);
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
  * n = 1 leaves the data unchanged, whatever the code.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @retval -20003 n is below 1
@@ -1908,6 +2833,7 @@ QV_API QvStatus ZemFunc281(double* x, int64_t n, int32_t window, double paramete
  * WinApplySymmetricComplex (WinApplySymmetric).
  * Multiplies complex data by the window of WinApplySymmetric: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @retval -20003 n is below 1
@@ -1924,6 +2850,7 @@ QV_API QvStatus ZemFunc429(QvComplex* x, int64_t n, int32_t window, double param
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
  * After -20046 the properties are untouched.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @param properties written: of the window, not of the data; both NaN after an error
@@ -1943,6 +2870,7 @@ QV_API QvStatus ZemFunc337(double* x, int64_t n, int32_t window, double paramete
  * WinApplyScaledComplex (WinApplyScaled).
  * Multiplies complex data by the window of WinApplyScaled: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @param properties written: of the window, not of the data; both NaN after an error
@@ -1958,6 +2886,7 @@ QV_API QvStatus ZemFunc428(QvComplex* x, int64_t n, int32_t window, double param
  * WinApplyScaledPlain.
  * Multiplies data by a window divided by its coherent gain: WinApplyScaled with the parameter 0.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param properties written: of the window, not of the data; both NaN after an error
  * @retval -20004 n is negative
@@ -1973,6 +2902,7 @@ QV_API QvStatus ZemFunc152(double* x, int64_t n, int32_t window, QvWindowPropert
  * The properties of a window of n samples in its periodic form, as WinApplyScaled tells them.
  * Those of the rectangle and the cosine sums are printed ones and do not depend on n, the others are measured.
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @param properties written: both NaN after an error

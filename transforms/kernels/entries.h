@@ -195,9 +195,9 @@ struct BlockOf {
         const auto rising = [&](int k) QV_INLINE_LAMBDA { return k < kHalf ? all : paired; };
         const auto falling = [&](int k) QV_INLINE_LAMBDA {
             LaneRange lanes = k < kHalf ? all : paired;
-            if (k == 0) lanes.first = paired.first;                        // Im X[0] is not stored
-            if (f % 2 && k == kHalf - 1) lanes.last = paired.last;         // nor Im X[f m / 2], of the middle column,
-            if (f % 2 == 0 && k == kHalf) lanes.first = all.first;         // whose real part column 0 gives for even f
+            if (k == 0) lanes.first = paired.first;                 // Im X[0] is not stored
+            if (f % 2 && k == kHalf - 1) lanes.last = paired.last;  // nor Im X[f m / 2], of the middle column,
+            if (f % 2 == 0 && k == kHalf) lanes.first = all.first;  // whose real part column 0 gives for even f
             return lanes;
         };
         if (kDirect && stride == 1 && W > 2) {
@@ -282,8 +282,7 @@ struct PairsOf {
             V group[kGroup] = {};
             for (int i = 0; k + i < f; ++i) group[i] = rows[k + i];
             L::TransposeRows(group);
-            for (int c = 0; c < count; ++c)
-                L::Store(outRe + 2 * (Size(positions[c]) + k), {0, 2 * (f - k)}, group[c]);
+            for (int c = 0; c < count; ++c) L::Store(outRe + 2 * (Size(positions[c]) + k), {0, 2 * (f - k)}, group[c]);
             return;
         }
         for (int c = 0; c < count; ++c)
