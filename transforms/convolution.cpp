@@ -97,8 +97,8 @@ Status Normalise(T* out, Count n, Count m, std::uint32_t normalisation) {
 
 Status ConvolveReal(const double* x, Count n, const double* y, Count m, std::uint32_t method, double* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
-    if (method == kByFft) return ByFft(x, n, false, y, m, out);
-    if (method == kDirect) {
+    if (method == kConvolveByFft) return ByFft(x, n, false, y, m, out);
+    if (method == kConvolveDirect) {
         std::fill(out, out + ConvolvedLength(n, m), 0.0);
         kDirectConvolution().reals(x, n, y, m, out);
     }
@@ -108,8 +108,8 @@ Status ConvolveReal(const double* x, Count n, const double* y, Count m, std::uin
 Status ConvolveComplex(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, std::uint32_t method,
                        ComplexRecord* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
-    if (method > kByFft) return status::kInvalidSelection;
-    if (method == kByFft) return ByFft(x, n, y, m, out);
+    if (method > kConvolveByFft) return status::kInvalidSelection;
+    if (method == kConvolveByFft) return ByFft(x, n, y, m, out);
     // Each output is a dot product along the longer sequence.
     std::fill(out, out + ConvolvedLength(n, m), ComplexRecord{});
     if (n >= m)
@@ -123,13 +123,13 @@ Status CorrelateReal(const double* x, Count n, const double* y, Count m, std::ui
                      std::uint32_t normalisation, double* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
     Status outcome = status::kSuccess;
-    if (method == kDirect) {
+    if (method == kConvolveDirect) {
         std::fill(out, out + ConvolvedLength(n, m), 0.0);
         kDirectConvolution().realsReversed(y, m, x, n, out);
-    } else if (method == kByFft && x == y) {  // deliberate: the pointers alone decide, and m plays no part
+    } else if (method == kConvolveByFft && x == y) {  // deliberate: the pointers alone decide, and m plays no part
         if (const Status failure = CheckSizes(n, n)) return failure;
         outcome = AutocorrelateByFft(x, n, out);
-    } else if (method == kByFft) {
+    } else if (method == kConvolveByFft) {
         outcome = ByFft(x, n, true, y, m, out);
     }
     // Deliberate: also after a failure, and of what an unknown method has left in the array.
