@@ -17,7 +17,7 @@ Status CheckSizes(Count n, Count m) {
 }
 
 Status ByFft(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, ComplexRecord* out) {
-    const Count length = n + m - 1, S = FftFastSize(length);
+    const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
     const HeldPlan plan(S);
     const Block<ComplexRecord> work(3 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
@@ -35,7 +35,7 @@ Status ByFft(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, C
 
 // x as it stands, or from its end.
 Status ByFft(const double* x, Count n, bool reversed, const double* y, Count m, double* out) {
-    const Count length = n + m - 1, S = FftFastSize(length);
+    const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
     const HeldPlan plan(S);
     const Block<double> work(3 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
@@ -54,7 +54,7 @@ Status ByFft(const double* x, Count n, bool reversed, const double* y, Count m, 
 
 // One transform there and one back; negative lags come from the end of the circular result.
 Status AutocorrelateByFft(const double* x, Count n, double* out) {
-    const Count S = FftFastSize(2 * n - 1);
+    const Count S = FftFastSize(static_cast<Count>(ConvolvedLength(n, n)));
     const HeldPlan plan(S);
     const Block<double> work(2 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
