@@ -80,6 +80,13 @@ struct BlockOf {
         if (kDirect && inStride == 1 && count == W) {
             D::template Real<V>(
                 stage, [&](int k) QV_INLINE_LAMBDA { return L::Load(in + k * elementStride); }, take);
+        } else if (kDirect && inStride == 1 && W > 2) {
+            D::template Real<V>(
+                stage,
+                [&](int k) QV_INLINE_LAMBDA {
+                    return L::Load(in + k * elementStride, {0, count});
+                },
+                take);
         } else {
             V x[f];
             for (int k = 0; k < f; ++k) {
@@ -96,22 +103,27 @@ struct BlockOf {
             for (int k = 0; 2 * k <= f; ++k) take(k, spectrum.re[k], spectrum.im[k]);
         }
         if (W > 1 && outStride == 1) {
-            int k = 0;
-            for (; k + W <= f; k += W) {
-                V rows[W];
-                for (int i = 0; i < W; ++i) rows[i] = h[k + i];
-                L::Transpose(rows);
-                for (int c = 0; c < count; ++c) L::Store(out + positions[c] + k, rows[c]);
-            }
-            if (k == f) return;
-            V rows[W] = {};
-            for (int i = 0; k + i < f; ++i) rows[i] = h[k + i];
+            StoreRows(h, out, count, positions);
+            return;
+        }
+        for (int c = 0; c < count; ++c)
+            for (int k = 0; k < f; ++k)
+                out[(Size(positions[c]) + k) * outStride] = reinterpret_cast<const double*>(&h[k])[c];
+    }
+
+    // Lane c of f vectors to f adjacent doubles at positions[c].
+    QV_INLINE static void StoreRows(const V* h, double* out, int count, const Count* positions) {
+        constexpr int kWhole = f / W * W, kRest = f % W;
+        V rows[W];
+        for (int k = 0; k < kWhole; k += W) {
+            for (int i = 0; i < W; ++i) rows[i] = h[k + i];
             L::Transpose(rows);
-            for (int c = 0; c < count; ++c) L::Store(out + positions[c] + k, {0, f - k}, rows[c]);
-        } else {
-            for (int c = 0; c < count; ++c)
-                for (int k = 0; k < f; ++k)
-                    out[(Size(positions[c]) + k) * outStride] = reinterpret_cast<const double*>(&h[k])[c];
+            for (int c = 0; c < count; ++c) L::Store(out + positions[c] + k, rows[c]);
+        }
+        if constexpr (kRest > 0) {
+            for (int i = 0; i < W; ++i) rows[i] = i < kRest ? h[kWhole + i] : V{};
+            L::Transpose(rows);
+            for (int c = 0; c < count; ++c) L::Store(out + positions[c] + kWhole, {0, kRest}, rows[c]);
         }
     }
 
@@ -137,6 +149,16 @@ struct BlockOf {
                     Twiddle(table, k, x, y);
                 },
                 [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, x, y); });
+            return;
+        }
+        if (kDirect && records && W > 2) {
+            D::template Complex<V>(
+                stage,
+                [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
+                    L::LoadRecords(re + k * 2 * m, count, x, y);
+                    Twiddle(table, k, x, y);
+                },
+                [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, count, x, y); });
             return;
         }
         Buffer in, out;
@@ -177,12 +199,12 @@ struct BlockOf {
             stage,
             [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
                 re = L::ToLanes(L::Load(data + k * m + j));
-                im = L::ToLanes(L::Reverse(L::Load(data + (k + 1) * m - j - (W - 1))));
+                im = L::ToLanesReversed(L::Load(data + (k + 1) * m - j - (W - 1)));
                 Twiddle(table, k, re, im);
             },
             [&](int k, V re, V im) QV_INLINE_LAMBDA {
                 L::Store(data + k * m + j, L::FromLanes(k < kHalf ? re : -im));
-                L::Store(data + length - k * m - j - (W - 1), L::Reverse(L::FromLanes(k < kHalf ? im : re)));
+                L::Store(data + length - k * m - j - (W - 1), L::FromLanesReversed(k < kHalf ? im : re));
             });
     }
 
@@ -205,13 +227,13 @@ struct BlockOf {
                 stage,
                 [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
                     re = L::ToLanes(L::Load(data + (k * m + j), all));
-                    im = L::ToLanes(L::Reverse(L::Load(data + ((k + 1) * m - j - (W - 1)), paired.Mirror(W))));
+                    im = L::ToLanesReversed(L::Load(data + ((k + 1) * m - j - (W - 1)), paired.Mirror(W)));
                     Twiddle(table, k, re, im);
                 },
                 [&](int k, V re, V im) QV_INLINE_LAMBDA {
                     L::Store(data + (k * m + j), rising(k), L::FromLanes(k < kHalf ? re : -im));
                     L::Store(data + (length - k * m - j - (W - 1)), falling(k).Mirror(W),
-                             L::Reverse(L::FromLanes(k < kHalf ? im : re)));
+                             L::FromLanesReversed(k < kHalf ? im : re));
                 });
             return;
         }

@@ -8,7 +8,6 @@
 #pragma once
 
 #include "frame/targets.h"
-#include "frame/targets.h"
 #include "frame/types.h"
 
 #if defined(__SSE2__)
@@ -48,7 +47,8 @@ struct Lanes<1> {
     }
     QV_INLINE static V ToLanes(V v) { return v; }
     QV_INLINE static V FromLanes(V v) { return v; }
-    QV_INLINE static V Reverse(V v) { return v; }
+    QV_INLINE static V ToLanesReversed(V v) { return v; }
+    QV_INLINE static V FromLanesReversed(V v) { return v; }
     QV_INLINE static void Transpose(V*) {}
 };
 
@@ -87,7 +87,8 @@ struct Lanes<2> {
     }
     QV_INLINE static V ToLanes(V v) { return v; }
     QV_INLINE static V FromLanes(V v) { return v; }
-    QV_INLINE static V Reverse(V v) { return _mm_shuffle_pd(v, v, 1); }
+    QV_INLINE static V ToLanesReversed(V v) { return _mm_shuffle_pd(v, v, 1); }
+    QV_INLINE static V FromLanesReversed(V v) { return _mm_shuffle_pd(v, v, 1); }
     // Lanes as records: i times each of them.
     QV_INLINE static V Turn(V v) { return _mm_xor_pd(_mm_shuffle_pd(v, v, 1), _mm_set_pd(0.0, -0.0)); }
     // W/2 vectors of records: the i-th takes the i-th record of each.
@@ -138,7 +139,8 @@ struct Lanes<4> {
     QV_INLINE static void Store(double* p, LaneRange r, V v) { _mm256_maskstore_pd(p, Mask(r.first, r.last), v); }
     QV_INLINE static V ToLanes(V v) { return _mm256_permute4x64_pd(v, 0b11'01'10'00); }
     QV_INLINE static V FromLanes(V v) { return _mm256_permute4x64_pd(v, 0b11'01'10'00); }
-    QV_INLINE static V Reverse(V v) { return _mm256_permute4x64_pd(v, 0b00'01'10'11); }
+    QV_INLINE static V ToLanesReversed(V v) { return _mm256_permute4x64_pd(v, 0b00'10'01'11); }
+    QV_INLINE static V FromLanesReversed(V v) { return _mm256_permute4x64_pd(v, 0b00'10'01'11); }
     QV_INLINE static V Turn(V v) {
         return _mm256_xor_pd(_mm256_permute_pd(v, 0b0101), _mm256_set_pd(0.0, -0.0, 0.0, -0.0));
     }
@@ -195,7 +197,12 @@ struct Lanes<8> {
     QV_INLINE static void Store(double* p, LaneRange r, V v) { _mm512_mask_storeu_pd(p, Mask(r.first, r.last), v); }
     QV_INLINE static V ToLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 3, 6, 2, 5, 1, 4, 0), v); }
     QV_INLINE static V FromLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 5, 3, 1, 6, 4, 2, 0), v); }
-    QV_INLINE static V Reverse(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(0, 1, 2, 3, 4, 5, 6, 7), v); }
+    QV_INLINE static V ToLanesReversed(V v) {
+        return _mm512_permutexvar_pd(_mm512_set_epi64(0, 4, 1, 5, 2, 6, 3, 7), v);
+    }
+    QV_INLINE static V FromLanesReversed(V v) {
+        return _mm512_permutexvar_pd(_mm512_set_epi64(0, 2, 4, 6, 1, 3, 5, 7), v);
+    }
     QV_INLINE static V Turn(V v) {
         const V sign = _mm512_set_pd(0.0, -0.0, 0.0, -0.0, 0.0, -0.0, 0.0, -0.0);
         return _mm512_xor_pd(_mm512_permute_pd(v, 0b01010101), sign);
