@@ -28,7 +28,8 @@ class Complex(ctypes.Structure):
 
 
 SCALARS = {"double": ctypes.c_double, "complex": Complex, "int32": ctypes.c_int32, "uint32": ctypes.c_uint32,
-           "int64": ctypes.c_int64}
+           "int64": ctypes.c_int64,
+           "model": ctypes.CFUNCTYPE(ctypes.c_double, ctypes.c_double, ctypes.POINTER(ctypes.c_double), ctypes.c_int32)}
 DTYPES = {"double": np.float64, "complex": np.complex128, "int32": np.int32, "uint32": np.uint32, "int64": np.int64,
           "window": np.float64}
 
@@ -56,6 +57,7 @@ def load(path):
             ctypes.c_int64 if a.direction == "size"
             else ctypes.c_void_p if a.direction == "handle"
             else SCALARS[a.type] if a.direction == "value"
+            else ctypes.POINTER(ctypes.c_void_p) if a.direction == "alloc"
             else ctypes.c_char_p if a.type == "text"
             else Address(DTYPES.get(a.type))
             for a in export.arguments
