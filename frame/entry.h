@@ -13,8 +13,8 @@
 #define QV_EXPORT extern "C" QV_API
 
 // A second exported name for the same entry, at the same address.
-#define QV_EXPORT_ALIAS(result, alias, entry, ...) \
-    extern "C" QV_API result alias(__VA_ARGS__) __attribute__((alias(#entry)))
+#define QV_EXPORT_ALIAS(result, name, entry, ...) \
+    extern "C" QV_API result name(__VA_ARGS__) __attribute__((alias(#entry)))
 
 namespace quorvan {
 
@@ -27,13 +27,15 @@ template <class... Arguments>
 constexpr Status narrowed(const Arguments&... arguments) {
     constexpr std::size_t kSizes = sizeof...(Arguments) - 1;
     const auto pack = std::tie(arguments...);
-    return [&]<std::size_t... I>(std::index_sequence<I...>) -> Status {
+    return [&]<std::size_t... I>(std::index_sequence<I...>)->Status {
         if (!(SizeNarrow(std::get<I>(pack)) && ...)) return status::kOverflow;
         return std::get<kSizes>(pack)(static_cast<Count>(std::get<I>(pack))...);
-    }(std::make_index_sequence<kSizes>{});
+    }
+    (std::make_index_sequence<kSizes>{});
 }
 
-// The element count of a 2-D array is formed in 32 bits, and wraps: deliberate, no 64-bit count exists behind the entry.
+// The element count of a 2-D array is formed in 32 bits, and wraps: deliberate, no 64-bit count exists behind the
+// entry.
 constexpr Count Product(Count rows, Count cols) noexcept {
     return static_cast<Count>(static_cast<std::uint32_t>(rows) * static_cast<std::uint32_t>(cols));
 }

@@ -11,6 +11,10 @@
 // that the linker keeps for all.
 #pragma once
 
+// For a small function in a header that such units include too: it belongs to the instruction set of its caller, and no
+// copy of its own ever reaches the linker.
+#define QV_INLINE [[gnu::always_inline]] inline
+
 namespace quorvan {
 
 enum class Target { kBaseline, kAvx2, kAvx512 };
@@ -34,14 +38,22 @@ const Table& ForTarget(const Table& baseline, const Table& avx2, const Table& av
 }
 
 #if defined(QUORVAN_WIDE_TARGETS)
-#define QV_DECLARE_TARGETS(Table, name)                                                                  \
-    namespace baseline { extern const Table name; }                                                      \
-    namespace avx2 { extern const Table name; }                                                          \
-    namespace avx512 { extern const Table name; }                                                        \
+#define QV_DECLARE_TARGETS(Table, name) \
+    namespace baseline {                \
+    extern const Table name;            \
+    }                                   \
+    namespace avx2 {                    \
+    extern const Table name;            \
+    }                                   \
+    namespace avx512 {                  \
+    extern const Table name;            \
+    }                                   \
     inline const Table& name() noexcept { return ForTarget(baseline::name, avx2::name, avx512::name); }
 #else
-#define QV_DECLARE_TARGETS(Table, name)            \
-    namespace baseline { extern const Table name; } \
+#define QV_DECLARE_TARGETS(Table, name) \
+    namespace baseline {                \
+    extern const Table name;            \
+    }                                   \
     inline const Table& name() noexcept { return baseline::name; }
 #endif
 

@@ -1,6 +1,7 @@
 #include "transforms/fft.h"
 
 #include <cmath>
+#include <initializer_list>
 
 #include "frame/memory.h"
 #include "frame/status.h"
@@ -14,7 +15,7 @@ struct FftPlan {
 FftPlan* FftPlanCreate(Count size) noexcept {
     if (size < 1) return nullptr;
     Block<FftPlan> plan(1);
-    if (plan) plan->size = size;
+    if (plan) plan.get()->size = size;
     return plan.release();
 }
 void FftPlanRelease(FftPlan* plan) noexcept { HeapFree(plan); }

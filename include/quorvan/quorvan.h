@@ -47,6 +47,667 @@ QV_API QvStatus ZemFunc4(const double* x, const double* y, int64_t rows, int64_t
 
 /** @} */
 
+/** @defgroup generators Waveform generators
+ * Each fills an array of n samples with a deterministic signal and keeps no state of its own.
+ * The periodic waves take their phase in degrees by address and leave there the phase of the sample behind the
+ * last, in [0, 360), so that the next call goes on without a break. Frequencies are in cycles per sample.
+ * The patterns draw one shape over the whole array. The pulses are functions of t = i dt - delay.
+ * The first check that fails, in the order of the status lists, decides; then neither output nor phase is written.
+ * @{
+ */
+
+/**
+ * GenSineWave.
+ * Sine wave, out[i] = amp sin(2 pi freq i + phase).
+ * The samples come from a coupled recurrence of sine and cosine; sines are held within [-|amp|, |amp|].
+ * @param amp amplitude
+ * @param freq cycles per sample
+ * @param phase read and written: degrees, of the first sample; then of the sample behind the last
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @code
+ * double phase = 0;
+ * QvGenSineWave(1000, 1.0, 0.01, &phase, out);  // ten cycles; the next call goes on from phase
+ * @endcode
+ */
+QV_API QvStatus ZemFunc159(int64_t n, double amp, double freq, double* phase, double* out);
+#define QvGenSineWave ZemFunc159
+
+/**
+ * GenSinePattern.
+ * Sine of a number of cycles over the array: GenSineWave with the frequency cycles / n.
+ * @param amp amplitude
+ * @param phase degrees, of the first sample
+ * @param cycles cycles in the array, any number
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc158(int64_t n, double amp, double phase, double cycles, double* out);
+#define QvGenSinePattern ZemFunc158
+
+/**
+ * GenSquareWave.
+ * Square wave: amp while the phase is below 3.6 duty degrees, then -amp.
+ * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param amp the high level; the low one is -amp
+ * @param freq cycles per sample
+ * @param phase read and written: degrees, of the first sample; then of the sample behind the last
+ * @param duty percent of the period at amp, clamped into [0, 100]
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc165(int64_t n, double amp, double freq, double* phase, double duty, double* out);
+#define QvGenSquareWave ZemFunc165
+
+/**
+ * GenTriangleWave.
+ * Triangle wave: 0 at phase 0, amp at 90 degrees, -amp at 270 degrees, straight between.
+ * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param amp amplitude
+ * @param freq cycles per sample
+ * @param phase read and written: degrees, of the first sample; then of the sample behind the last
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc179(int64_t n, double amp, double freq, double* phase, double* out);
+#define QvGenTriangleWave ZemFunc179
+
+/**
+ * GenSawtoothWave.
+ * Sawtooth wave: rises from 0 at phase 0 towards amp at 180 degrees, jumps to -amp and rises back to 0.
+ * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param amp amplitude
+ * @param freq cycles per sample
+ * @param phase read and written: degrees, of the first sample; then of the sample behind the last
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc151(int64_t n, double amp, double freq, double* phase, double* out);
+#define QvGenSawtoothWave ZemFunc151
+
+/**
+ * GenArbitraryWave.
+ * Plays the period stored in a table.
+ * The phase is accumulated from sample to sample in units of table cells.
+ * A size below 1 gives zeros and a phase of 0. Positions beyond 2^53 periods stay within the table.
+ * @param amp factor of the table's values
+ * @param freq cycles per sample
+ * @param phase read and written: degrees, of the first sample; then of the sample behind the last
+ * @param table read, [size]: one period
+ * @param interpolation 1 interpolates linearly, from the last cell towards the first; any other value takes the cell as it is
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20068 phase or freq is infinite or NaN
+ */
+QV_API QvStatus ZemFunc9(int64_t n, double amp, double freq, double* phase, const double* table, int64_t size, int32_t interpolation, double* out);
+#define QvGenArbitraryWave ZemFunc9
+
+/**
+ * GenChirp.
+ * Sine with a linearly changing frequency, out[i] = amp sin((i (f2 - f1) pi / n + 2 pi f1) i).
+ * @param amp amplitude
+ * @param f1 cycles per sample at the first sample
+ * @param f2 cycles per sample at sample n, the one behind the last
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc28(int64_t n, double amp, double f1, double f2, double* out);
+#define QvGenChirp ZemFunc28
+
+/**
+ * GenPulsePattern.
+ * Rectangular pulse: amp at the width samples from delay on, 0 elsewhere.
+ * delay + width may be n; a width of 0 leaves zeros. -20046 follows if delay or width does not fit 32 bits.
+ * @param amp height
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20014 delay or width is negative, or delay + width exceeds n
+ */
+QV_API QvStatus ZemFunc141(int64_t n, double amp, int64_t delay, int64_t width, double* out);
+#define QvGenPulsePattern ZemFunc141
+
+/**
+ * GenImpulsePattern.
+ * Impulse: amp at the sample index, 0 elsewhere. -20046 follows if index does not fit 32 bits.
+ * @param amp height
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20017 index is outside 0 to n - 1
+ */
+QV_API QvStatus ZemFunc93(int64_t n, double amp, int64_t index, double* out);
+#define QvGenImpulsePattern ZemFunc93
+
+/**
+ * GenRampPattern.
+ * Linear ramp, out[i] = first + i (last - first) / (n - 1).
+ * One sample is allowed if first equals last.
+ * @param first value of the first sample
+ * @param last value of the last sample, exactly
+ * @param out written, [n]
+ * @retval -20006 n is below 2
+ */
+QV_API QvStatus ZemFunc145(int64_t n, double first, double last, double* out);
+#define QvGenRampPattern ZemFunc145
+
+/**
+ * GenTrianglePattern.
+ * One isosceles triangle from 0 at the first sample; an odd n ends on 0, an even one just before.
+ * @param amp peak, at sample n / 2
+ * @param out written, [n]
+ * @retval -20006 n is below 2
+ */
+QV_API QvStatus ZemFunc178(int64_t n, double amp, double* out);
+#define QvGenTrianglePattern ZemFunc178
+
+/**
+ * GenSincPattern.
+ * Sinc pulse, out[i] = amp sin(pi t) / (pi t) with t = i dt - delay.
+ * @param amp peak
+ * @param delay time of the peak, in the unit of dt
+ * @param dt time between samples
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is not positive
+ */
+QV_API QvStatus ZemFunc157(int64_t n, double amp, double delay, double dt, double* out);
+#define QvGenSincPattern ZemFunc157
+
+/**
+ * GenPeriodicSincPattern.
+ * Periodic sinc (Dirichlet kernel), out[i] = amp sin(order x) / (order sin x) with x = (i dt - delay) / 2.
+ * Where |sin x| is at most 2.220446049250313e-16 the value is amp, also for an even order where the limit is -amp.
+ * @param amp peak
+ * @param delay time of a peak, in the unit of dt
+ * @param dt time between samples
+ * @param order of the Dirichlet kernel
+ * @param out written, [n]
+ * @retval -20140 order is below 1
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is not positive
+ */
+QV_API QvStatus ZemFunc349(int64_t n, double amp, double delay, double dt, int32_t order, double* out);
+#define QvGenPeriodicSincPattern ZemFunc349
+
+/**
+ * GenGaussianModulatedSine.
+ * Sine under a Gaussian, out[i] = amp exp(a u^2) cos(2 u) with u = pi centre t, a = -5 bandwidth^2 / (attenuation ln 10).
+ * @param amp peak
+ * @param delay time of the peak, in the unit of dt
+ * @param dt time between samples
+ * @param centre frequency of the sine, in 1 / unit of dt
+ * @param bandwidth width of the band as a share of centre
+ * @param attenuation dB, of the spectrum at the edges of the band
+ * @param out written, [n]
+ * @retval -20140 centre, bandwidth or attenuation is not positive
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is not positive
+ */
+QV_API QvStatus ZemFunc348(int64_t n, double amp, double delay, double dt, double centre, double bandwidth, double attenuation, double* out);
+#define QvGenGaussianModulatedSine ZemFunc348
+
+/**
+ * GenGaussianMonopulse.
+ * Gaussian monopulse, out[i] = 2 sqrt(e) amp u exp(-2 u^2) with u = pi centre t.
+ * @param amp extreme values amp and -amp
+ * @param delay time of the zero between them, in the unit of dt
+ * @param dt time between samples
+ * @param centre frequency, in 1 / unit of dt
+ * @param out written, [n]
+ * @retval -20140 centre is not positive
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is not positive
+ */
+QV_API QvStatus ZemFunc347(int64_t n, double amp, double delay, double dt, double centre, double* out);
+#define QvGenGaussianMonopulse ZemFunc347
+
+/**
+ * GenSkewedTrianglePulse.
+ * Triangular pulse: rises from 0 at t = 0 to amp at t = skew width and falls to 0 at t = width; 0 elsewhere.
+ * A skew of 0 starts at amp, a skew of 1 ends at amp.
+ * @param amp height of the apex
+ * @param delay start of the pulse, in the unit of dt
+ * @param dt time between samples
+ * @param width of the pulse, in the unit of dt
+ * @param skew place of the apex as a share of width, 0 to 1
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20140 width is not positive
+ * @retval -20016 dt is not positive
+ * @retval -20053 skew is outside 0 to 1
+ */
+QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, double width, double skew, double* out);
+#define QvGenSkewedTrianglePulse ZemFunc350
+
+/** @} */
+
+/** @defgroup memory Release of memory
+ * A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of complex
+ * data, and arrays whose length only the operation knows. Each is one block of memory, and one entry, known under
+ * three numbers, gives any of them back. All other arrays are the caller's own from the start.
+ * @{
+ */
+
+/**
+ * MemoryRelease.
+ * Frees one block that the library handed out, whatever it holds.
+ * A null pointer is ignored.
+ * @param block handle, may be null: a block that the library handed out and that has not been released yet
+ * @code
+ * double* block = 0;
+ * QvMemoryRelease(block);
+ * @endcode
+ */
+QV_API void ZemFunc234(void* block);
+#define QvMemoryRelease ZemFunc234
+
+/**
+ * IirFilterRelease.
+ * Frees a filter object: the same entry as ZemFunc234.
+ * @param block handle, may be null: a block that the library handed out and that has not been released yet
+ */
+QV_API void ZemFunc238(void* block);
+#define QvIirFilterRelease ZemFunc238
+
+/**
+ * IirStateComplexRelease.
+ * Frees the delay lines for complex data: the same entry as ZemFunc234.
+ * @param block handle, may be null: a block that the library handed out and that has not been released yet
+ */
+QV_API void ZemFunc470(void* block);
+#define QvIirStateComplexRelease ZemFunc470
+
+/** @} */
+
+/** @defgroup spectrum Spectrum measurements
+ * From time records to spectra, and from spectra to numbers. Records have any length n, not only powers of two.
+ * Forward transforms are unscaled, X[k] = sum of x[j] exp(-2 pi i j k / n); inverses carry 1/n; power spectra carry
+ * 1/n^2. Two-sided spectra are split real arrays of n bins with zero frequency at 0. One-sided spectra hold the bins
+ * 0 to n/2 - 1, never the Nyquist bin, and bin 0 also for n = 1; their inner bins carry the power of both sides.
+ * The step between bins is df = 1 / (n dt), with dt the time between samples. Phases are in radians. Outputs may be
+ * the inputs. After an error the outputs are unspecified.
+ * @{
+ */
+
+/**
+ * SpecRealFft.
+ * The two-sided spectrum of a real record, unscaled.
+ * @param x read and written, [n]: the record, then the real part of its spectrum
+ * @param im written, [n]: the imaginary part of the spectrum
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvSpecRealFft(x, im, n);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc147(double* x, double* im, int64_t n);
+#define QvSpecRealFft ZemFunc147
+
+/**
+ * SpecRealInverseFft.
+ * The real record of a two-sided spectrum, with the factor 1/n.
+ * The spectrum is taken as that of a real record: the real part is read up to n/2, the imaginary part behind it.
+ * A single sample is its own spectrum, and nothing is touched.
+ * @param re read and written, [n]: the real part of the spectrum, then the record
+ * @param im read and written, [n]: the imaginary part of the spectrum; its content afterwards is unspecified
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc148(double* re, double* im, int64_t n);
+#define QvSpecRealInverseFft ZemFunc148
+
+/**
+ * SpecComplexInverseFft.
+ * The complex record of a two-sided spectrum, with the factor 1/n.
+ * @param re read and written, [n]: the real part of the spectrum, then of the record
+ * @param im read and written, [n]: the imaginary part of the spectrum, then of the record
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc102(double* re, double* im, int64_t n);
+#define QvSpecComplexInverseFft ZemFunc102
+
+/**
+ * SpecAutoPower.
+ * The two-sided auto power spectrum of a real record, |X[k]|^2 / n^2.
+ * @param x read and written, [n]: the record, then its power spectrum in the unit of x squared
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc161(double* x, int64_t n);
+#define QvSpecAutoPower ZemFunc161
+
+/**
+ * SpecCrossPower.
+ * The two-sided cross power spectrum of two real records, conj(X[k]) Y[k] / n^2.
+ * @param x read, [n]
+ * @param y read, [n]
+ * @param re written, [n]: in the unit of x times that of y
+ * @param im written, [n]: in the unit of x times that of y
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc36(const double* x, const double* y, int64_t n, double* re, double* im);
+#define QvSpecCrossPower ZemFunc36
+
+/**
+ * SpecAmplitudePhase.
+ * The one-sided amplitude and phase spectrum of a real record.
+ * Inner bins give the rms amplitude of a sine component, |X[k]| sqrt(2) / n; bin 0 gives the magnitude of the mean
+ * with the phase 0 or pi. The phase is that of a cosine.
+ * @param x read, [n]
+ * @param unwrap other than 0: the phases are unwrapped as by SpecUnwrapRadians
+ * @param dt time between samples
+ * @param amp written, [max(n / 2, 1)]: root mean square amplitude, in the unit of x
+ * @param phase written, [max(n / 2, 1)]: radians
+ * @param df written: in the unit of 1/dt
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc5(const double* x, int64_t n, int32_t unwrap, double dt, double* amp, double* phase, double* df);
+#define QvSpecAmplitudePhase ZemFunc5
+
+/**
+ * SpecPowerSpectrum.
+ * The one-sided power spectrum of a real record: S[0], then 2 S[k], with S as of SpecAutoPower.
+ * @param x read, [n]
+ * @param dt time between samples
+ * @param power written, [max(n / 2, 1)]: in the unit of x squared
+ * @param df written: in the unit of 1/dt
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc10(const double* x, int64_t n, double dt, double* power, double* df);
+#define QvSpecPowerSpectrum ZemFunc10
+
+/**
+ * SpecCrossPowerPolar.
+ * The one-sided cross power spectrum of two real records: |S[0]|, then 2 |S[k]|, with S as of SpecCrossPower.
+ * @param x read, [n]
+ * @param y read, [n]
+ * @param dt time between samples
+ * @param mag written, [max(n / 2, 1)]: in the unit of x times that of y
+ * @param phase written, [max(n / 2, 1)]: radians, of y against x
+ * @param df written: in the unit of 1/dt
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc37(const double* x, const double* y, int64_t n, double dt, double* mag, double* phase, double* df);
+#define QvSpecCrossPowerPolar ZemFunc37
+
+/**
+ * SpecTransferFunction.
+ * The one-sided transfer function H[k] = Y[k] / X[k] from stimulus X to response Y.
+ * A bin where the stimulus has nothing gives infinities or NaN, without a status.
+ * @param stimulus read, [n]
+ * @param response read, [n]
+ * @param dt time between samples
+ * @param mag written, [max(n / 2, 1)]: in the unit of the response over that of the stimulus
+ * @param phase written, [max(n / 2, 1)]: radians
+ * @param df written: in the unit of 1/dt
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc176(const double* stimulus, const double* response, int64_t n, double dt, double* mag, double* phase, double* df);
+#define QvSpecTransferFunction ZemFunc176
+
+/**
+ * SpecDeconvolve.
+ * Undoes a circular convolution: the record whose spectrum is that of the signal over that of the divisor.
+ * A zero in the divisor's spectrum gives infinities or NaN, without a status.
+ * @param divisor read, [n]
+ * @param signal read, [n]
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc94(const double* divisor, const double* signal, int64_t n, double* out);
+#define QvSpecDeconvolve ZemFunc94
+
+/**
+ * SpecNetworkAnalysis.
+ * Cross power, transfer function, coherence and impulse response of a network, averaged over frames.
+ * With Sxx, Syy and Sxy the sums of the auto and cross power spectra over all frames: the transfer function is
+ * Sxy / Sxx, the impulse response its inverse transform, the coherence |Sxy|^2 / (Sxx Syy), the cross power
+ * |Sxy| / frames with its inner bins doubled. With one frame every coherence is 1. A bin where the stimulus has nothing
+ * gives NaN, and with it a whole impulse response of NaN.
+ * @param stimulus read, [frames * n]: frame after frame
+ * @param response read, [frames * n]: frame after frame
+ * @param n samples in a frame
+ * @param dt time between samples
+ * @param crossMag written, [max(n / 2, 1)]: cross power, in the unit of the stimulus times that of the response
+ * @param crossPhase written, [max(n / 2, 1)]: radians
+ * @param transferMag written, [max(n / 2, 1)]: in the unit of the response over that of the stimulus
+ * @param transferPhase written, [max(n / 2, 1)]: radians
+ * @param coherence written, [max(n / 2, 1)]: from 0 to 1
+ * @param impulse written, [n]: impulse response
+ * @param df written: in the unit of 1/dt
+ * @retval -20003 n is below 1, or frames is
+ * @retval -20046 frames * n does not fit 32 bits
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc129(const double* stimulus, const double* response, int64_t n, int64_t frames, double dt, double* crossMag, double* crossPhase, double* transferMag, double* transferPhase, double* coherence, double* impulse, double* df);
+#define QvSpecNetworkAnalysis ZemFunc129
+
+/**
+ * SpecUnitConvert.
+ * Converts a spectrum into the unit in which it is to be shown, and completes the text of the unit.
+ * An amplitude spectrum is squared first; density divides by df times the noise bandwidth; peak doubles all but
+ * bin 0; then the linear display takes the square root where amplitudes are wanted, decibels are 10 log10. For "V"
+ * the unit becomes "Vrms", "Vpk", "Vrms^2", "Vpk^2", "Vrms/rtHz", "Vpk/rtHz", "Vrms^2/Hz" or "Vpk^2/Hz" by the flags 0
+ * to 7, with "dB" in front for decibels, where the flags 2 and 3 keep "dBVrms" and "dBVpk".
+ * Display 2 ignores the peak flag and replaces the unit by "dBm". A plain magnitude passes with an empty unit, or
+ * becomes 20 log10 in "dB".
+ * @param spectrum read, [n]
+ * @param kind 0 power spectrum, 1 amplitude spectrum, 2 plain magnitude
+ * @param display 0 linear, 1 decibel, 2 decibel to 0.6084 ("dBm")
+ * @param flags 0 to 7: bit 0 peak instead of rms, bit 1 power instead of amplitude, bit 2 density per hertz
+ * @param df step between bins
+ * @param window read: only the equivalent noise bandwidth is read
+ * @param out written, [n]
+ * @param unit read and written, []: the base unit, NUL-terminated, then the full one; with room for the longest: 10 characters more
+ * @retval -20003 n is below 1; nothing is written
+ * @retval -20061 kind is above 2, display is above 2, or flags lies outside 0 to 7; nothing is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc162(const double* spectrum, int64_t n, uint32_t kind, uint32_t display, int32_t flags, double df, const QvWindowProperties* window, double* out, char* unit);
+#define QvSpecUnitConvert ZemFunc162
+
+/**
+ * SpecUnwrapPhase.
+ * Removes the jumps by whole periods from a phase, in place, and converts it where the mode says so.
+ * Every value is moved by a multiple of the period to within half a period of the new value before it; an exact half
+ * period goes down.
+ * @param phase read and written, [n]: in radians or degrees, by mode
+ * @param mode 0 radians; 1 radians to degrees; 2 degrees; 3 degrees to radians; any other is 0
+ * @retval -20008 n is below 1
+ */
+QV_API QvStatus ZemFunc368(double* phase, int64_t n, uint32_t mode);
+#define QvSpecUnwrapPhase ZemFunc368
+
+/**
+ * SpecUnwrapRadians (SpecUnwrapPhase).
+ * Removes the jumps by 2 pi from a phase, in place.
+ * @param phase read and written, [n]: radians
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc183(double* phase, int64_t n);
+#define QvSpecUnwrapRadians ZemFunc183
+
+/**
+ * SpecPeakPowerFrequency.
+ * Power and frequency of a spectral peak, from the bins around it.
+ * The power is their sum over the noise bandwidth of the window, the frequency their centre of mass. Bins outside the
+ * spectrum are left out; a search outside it takes the largest bin. Without a positive sum the frequency is that of
+ * the centre bin.
+ * @param power read, [n]: one-sided power spectrum
+ * @param search the frequency to look at, in the unit of df; negative: the largest bin
+ * @param window read: only the equivalent noise bandwidth is read
+ * @param df step between bins
+ * @param span bins to sum: at least 3, an even number is taken as the next odd one
+ * @param frequency written: in the unit of df
+ * @param peakPower written: in the unit of power
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc139(const double* power, int64_t n, double search, const QvWindowProperties* window, double df, int64_t span, double* frequency, double* peakPower);
+#define QvSpecPeakPowerFrequency ZemFunc139
+
+/**
+ * SpecAcDcEstimate.
+ * Estimates the alternating and the direct part of a signal that need not hold whole periods.
+ * The mean is taken off, the rest multiplied by a Hanning window; of its mean m and variance v,
+ * ac = sqrt((v - m^2 / 2) / 0.375) and dc = 2 m + mean.
+ * @param x read, [n]
+ * @param ac written: root mean square of the alternating part, in the unit of x
+ * @param dc written: mean, in the unit of x
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc2(const double* x, int64_t n, double* ac, double* dc);
+#define QvSpecAcDcEstimate ZemFunc2
+
+/** @} */
+
+/** @defgroup statistics Descriptive statistics
+ * Summaries of a data array. The data are the whole population: variances, deviations and moments divide by n,
+ * never by n - 1. Sums are added in index order. NaN and infinities propagate where nothing else is said.
+ * @{
+ */
+
+/**
+ * StatMean.
+ * The arithmetic mean, sum(x) / n.
+ * @param x read, [n]
+ * @param mean written: in the unit of x
+ * @retval -20003 n is below 1
+ * @code
+ * double mean;
+ * QvStatMean(x, n, &mean);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc122(const double* x, int64_t n, double* mean);
+#define QvStatMean ZemFunc122
+
+/**
+ * StatRms.
+ * The root mean square, sqrt(sum(x^2) / n).
+ * @param x read, [n]
+ * @param rms written: in the unit of x
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc150(const double* x, int64_t n, double* rms);
+#define QvStatRms ZemFunc150
+
+/**
+ * StatRmsComplex.
+ * The root mean square of complex data, sqrt(sum(re^2 + im^2) / n).
+ * @param x read, [n]
+ * @param rms written: in the unit of x
+ * @retval -20003 n is below 1; rms is NaN
+ */
+QV_API QvStatus ZemFunc369(const QvComplex* x, int64_t n, double* rms);
+#define QvStatRmsComplex ZemFunc369
+
+/**
+ * StatMeanVariance.
+ * Mean and variance in one pass, mean = sum(x) / n and variance = sum(x^2) / n - mean^2.
+ * The difference cancels where the mean is large beside the deviation, and rounding can take the variance of a
+ * constant signal a little below 0; StatMeanStdDev takes a second pass instead.
+ * @param x read, [n]
+ * @param mean written: in the unit of x
+ * @param variance written: in the unit of x squared
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc184(const double* x, int64_t n, double* mean, double* variance);
+#define QvStatMeanVariance ZemFunc184
+
+/**
+ * StatMeanStdDev.
+ * Mean and standard deviation in two passes, mean = sum(x) / n, then deviation = sqrt(sum((x - mean)^2) / n).
+ * @param x read, [n]
+ * @param mean written: in the unit of x
+ * @param deviation written: in the unit of x
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc166(const double* x, int64_t n, double* mean, double* deviation);
+#define QvStatMeanStdDev ZemFunc166
+
+/**
+ * StatMoment.
+ * The central moment, sum((x - mean)^order) / n, with each power by repeated multiplication.
+ * @param x read, [n]
+ * @param order taken as a signed number
+ * @param moment written: in the unit of x to the power of order
+ * @retval -20003 n is below 1
+ * @retval -20021 order is below 1
+ */
+QV_API QvStatus ZemFunc125(const double* x, int64_t n, uint32_t order, double* moment);
+#define QvStatMoment ZemFunc125
+
+/**
+ * StatMedian.
+ * The middle of the sorted data; for even n the mean of the two middle elements.
+ * Method: quickselect (Hoare, 1961) on a copy, in linear time on average.
+ * @param x read, [n]
+ * @param median written: in the unit of x
+ * @retval -20003 n is below 1
+ * @retval -20104 an element is NaN; median is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc123(const double* x, int64_t n, double* median);
+#define QvStatMedian ZemFunc123
+
+/**
+ * StatHistogram.
+ * Counts samples over equal bins between base and top.
+ * A bin is closed at its lower end and open at its upper end, the last one also closed at top. Samples outside, and
+ * those that rounding puts behind the last bin, are dropped; so are NaN. With base equal to top the last bin holds
+ * all n samples, whatever their values, and every centre is base.
+ * counts may be null when only the centres are wanted.
+ * @param x read, [n]
+ * @param base lower end of the first bin, in the unit of x
+ * @param top upper end of the last bin, in the unit of x
+ * @param counts written, [intervals], may be null: samples in each bin
+ * @param centres written, [intervals]: the middle of each bin, in the unit of x
+ * @retval -20101 base is above top
+ * @retval -20003 n is below 1, or intervals is
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc90(const double* x, int64_t n, double base, double top, int64_t* counts, double* centres, int64_t intervals);
+#define QvStatHistogram ZemFunc90
+
+/**
+ * StatModeOfHistogram.
+ * The centre of the fullest bin of the histogram of StatHistogram, the first of equally full ones.
+ * When all samples lie outside, the centre of the first bin.
+ * @param x read, [n]
+ * @param base lower end of the first bin, in the unit of x
+ * @param top upper end of the last bin, in the unit of x
+ * @param mode written: in the unit of x
+ * @retval -20003 intervals is below 1, which is tested first, or n is
+ * @retval -20101 base is above top
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc124(const double* x, int64_t n, double base, double top, int64_t intervals, double* mode);
+#define QvStatModeOfHistogram ZemFunc124
+
+/**
+ * StatModes.
+ * All values that occur most often, in ascending order; the first ones that fit are written.
+ * With intervals below 1 values count as equal within a relative 2.2e-16 of the smallest of them, which is the mode;
+ * with intervals at 1 or above the modes are the centres of the fullest bins between the smallest and the largest
+ * value. Nothing that occurs only once is a mode, but data that are all equal have their one value as the mode. A
+ * single sample has no mode. A negative room counts as none.
+ * @param x read, [n]
+ * @param modes written, [count]: in the unit of x
+ * @param count read and written: the room in modes, then the number of modes found, which can be larger
+ * @retval -20003 n is below 1; count is 0
+ * @retval -20001 memory is exhausted; count is 0
+ */
+QV_API QvStatus ZemFunc340(const double* x, int64_t n, int64_t intervals, double* modes, int64_t* count);
+#define QvStatModes ZemFunc340
+
+/** @} */
+
 /** @defgroup status Status codes
  * @{
  */
@@ -59,6 +720,553 @@ QV_API QvStatus ZemFunc4(const double* x, const double* y, int64_t rows, int64_t
  */
 QV_API const char* ZemFunc240(int32_t code);
 #define QvStatusMessage ZemFunc240
+
+/** @} */
+
+/** @defgroup windows Window functions
+ * Windows multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+ * Most are periodic: w[k] = w[n - k], and w[0] would be the first sample of the next period. The symmetric form,
+ * for filter design, is WinApplySymmetric. Codes are the QV_WINDOW_... constants of quorvan/types.h.
+ * The cosine sums take one sine for each coefficient and a rotation for each pair of samples.
+ * After an error the data are unchanged.
+ * @{
+ */
+
+/**
+ * WinHanning.
+ * Multiplies data by the Hanning window, w[i] = 0.5 - 0.5 cos(2 pi i / n).
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ * @code
+ * double x[4] = {1, 1, 1, 1};
+ * QvWinHanning(x, 4);  // 0, 0.5, 1, 0.5
+ * @endcode
+ */
+QV_API QvStatus ZemFunc89(double* x, int64_t n);
+#define QvWinHanning ZemFunc89
+
+/**
+ * WinHanningComplex (WinHanning).
+ * Multiplies complex data by the window of WinHanning: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc430(QvComplex* x, int64_t n);
+#define QvWinHanningComplex ZemFunc430
+
+/**
+ * WinHamming.
+ * Multiplies data by the Hamming window, w[i] = 0.54 - 0.46 cos(2 pi i / n).
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc88(double* x, int64_t n);
+#define QvWinHamming ZemFunc88
+
+/**
+ * WinHammingComplex (WinHamming).
+ * Multiplies complex data by the window of WinHamming: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc431(QvComplex* x, int64_t n);
+#define QvWinHammingComplex ZemFunc431
+
+/**
+ * WinBlackmanHarris3.
+ * Multiplies data by the three-term Blackman-Harris window, the cosine sum of 0.42323, 0.49755, 0.07922.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc15(double* x, int64_t n);
+#define QvWinBlackmanHarris3 ZemFunc15
+
+/**
+ * WinBlackmanHarris3Complex (WinBlackmanHarris3).
+ * Multiplies complex data by the window of WinBlackmanHarris3: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc433(QvComplex* x, int64_t n);
+#define QvWinBlackmanHarris3Complex ZemFunc433
+
+/**
+ * WinExactBlackman.
+ * Multiplies data by the exact Blackman window, the cosine sum of 7938/18608, 9240/18608, 1430/18608.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc72(double* x, int64_t n);
+#define QvWinExactBlackman ZemFunc72
+
+/**
+ * WinExactBlackmanComplex (WinExactBlackman).
+ * Multiplies complex data by the window of WinExactBlackman: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc435(QvComplex* x, int64_t n);
+#define QvWinExactBlackmanComplex ZemFunc435
+
+/**
+ * WinBlackman.
+ * Multiplies data by the Blackman window, the cosine sum of 0.42, 0.5, 0.08.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc14(double* x, int64_t n);
+#define QvWinBlackman ZemFunc14
+
+/**
+ * WinBlackmanComplex (WinBlackman).
+ * Multiplies complex data by the window of WinBlackman: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc432(QvComplex* x, int64_t n);
+#define QvWinBlackmanComplex ZemFunc432
+
+/**
+ * WinFlatTop.
+ * Multiplies data by the flat top window, the cosine sum of 0.215578948, 0.41663158, 0.277263158, 0.083578947, 0.006947368.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc80(double* x, int64_t n);
+#define QvWinFlatTop ZemFunc80
+
+/**
+ * WinFlatTopComplex (WinFlatTop).
+ * Multiplies complex data by the window of WinFlatTop: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc436(QvComplex* x, int64_t n);
+#define QvWinFlatTopComplex ZemFunc436
+
+/**
+ * WinBlackmanNuttall.
+ * Multiplies data by the Blackman-Nuttall window, the cosine sum of 0.3635819, 0.4891775, 0.1365995, 0.0106411.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc336(double* x, int64_t n);
+#define QvWinBlackmanNuttall ZemFunc336
+
+/**
+ * WinBlackmanNuttallComplex (WinBlackmanNuttall).
+ * Multiplies complex data by the window of WinBlackmanNuttall: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc434(QvComplex* x, int64_t n);
+#define QvWinBlackmanNuttallComplex ZemFunc434
+
+/**
+ * WinCosineSum.
+ * Multiplies data by w[i] = sum over k of (-1)^k a[k] cos(2 pi k i / n).
+ * n = 1, and a single coefficient of exactly 1, leave the data unchanged.
+ * @param x read and written, [n]: data
+ * @param a read, [count]: coefficients, all positive for the usual windows
+ * @param count number of coefficients, any
+ * @retval -20003 n is below 1, or count is 0 and n above 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc85(double* x, int64_t n, const double* a, uint32_t count);
+#define QvWinCosineSum ZemFunc85
+
+/**
+ * WinCosineSumComplex (WinCosineSum).
+ * Multiplies complex data by the window of WinCosineSum: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param a read, [count]: coefficients, all positive for the usual windows
+ * @param count number of coefficients, any
+ * @retval -20003 n is below 1, or count is 0 and n above 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc437(QvComplex* x, int64_t n, const double* a, uint32_t count);
+#define QvWinCosineSumComplex ZemFunc437
+
+/**
+ * WinCosineTaper.
+ * Fades the share ratio of the samples, half at each end, by sin^2(pi i / (2 m)), m = ratio n / 2 cut to an integer.
+ * Symmetric: sample i and sample n - 1 - i have one factor; the two outermost become 0. n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @param ratio share of the samples; from 1 on the Hanning window, up to 0 nothing
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory, with a ratio of 1 or more
+ */
+QV_API QvStatus ZemFunc278(double* x, int64_t n, double ratio);
+#define QvWinCosineTaper ZemFunc278
+
+/**
+ * WinCosineTaperComplex (WinCosineTaper).
+ * Multiplies complex data by the window of WinCosineTaper: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param ratio share of the samples; from 1 on the Hanning window, up to 0 nothing
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory, with a ratio of 1 or more
+ */
+QV_API QvStatus ZemFunc438(QvComplex* x, int64_t n, double ratio);
+#define QvWinCosineTaperComplex ZemFunc438
+
+/**
+ * WinCosineTaper20.
+ * Fades a tenth of the samples at each end: WinCosineTaper with the ratio 0.2.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc35(double* x, int64_t n);
+#define QvWinCosineTaper20 ZemFunc35
+
+/**
+ * WinTriangle.
+ * Multiplies data by the triangle window, w[k] = w[n - k] = 2 k / n.
+ * n = 1 makes the sample 0.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc180(double* x, int64_t n);
+#define QvWinTriangle ZemFunc180
+
+/**
+ * WinTriangleComplex (WinTriangle).
+ * Multiplies complex data by the window of WinTriangle: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc439(QvComplex* x, int64_t n);
+#define QvWinTriangleComplex ZemFunc439
+
+/**
+ * WinBartlettHanning.
+ * Multiplies data by the Bartlett-Hanning window, w[k] = 0.62 - 0.48 |k/n - 0.5| - 0.38 cos(2 pi k / n), w[0] = 0.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc343(double* x, int64_t n);
+#define QvWinBartlettHanning ZemFunc343
+
+/**
+ * WinBartlettHanningComplex (WinBartlettHanning).
+ * Multiplies complex data by the window of WinBartlettHanning: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc446(QvComplex* x, int64_t n);
+#define QvWinBartlettHanningComplex ZemFunc446
+
+/**
+ * WinBohman.
+ * Multiplies data by the Bohman window, w[k] = w[n - k] = sin(2 pi k / n) / pi - (2 k / n) cos(2 pi k / n).
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc344(double* x, int64_t n);
+#define QvWinBohman ZemFunc344
+
+/**
+ * WinBohmanComplex (WinBohman).
+ * Multiplies complex data by the window of WinBohman: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc447(QvComplex* x, int64_t n);
+#define QvWinBohmanComplex ZemFunc447
+
+/**
+ * WinParzen.
+ * Multiplies data by the Parzen window; with d = |2 k / n - 1|, w[k] = 2 (1 - d)^3 where d > 0.5, else 1 - 6 d^2 + 6 d^3.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc345(double* x, int64_t n);
+#define QvWinParzen ZemFunc345
+
+/**
+ * WinParzenComplex (WinParzen).
+ * Multiplies complex data by the window of WinParzen: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc448(QvComplex* x, int64_t n);
+#define QvWinParzenComplex ZemFunc448
+
+/**
+ * WinWelch.
+ * Multiplies data by the Welch window, w[k] = 1 - (2 k / n - 1)^2.
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc346(double* x, int64_t n);
+#define QvWinWelch ZemFunc346
+
+/**
+ * WinWelchComplex (WinWelch).
+ * Multiplies complex data by the window of WinWelch: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @retval -20003 n is below 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc449(QvComplex* x, int64_t n);
+#define QvWinWelchComplex ZemFunc449
+
+/**
+ * WinKaiser.
+ * Multiplies data by the Kaiser window, w[k] = I0(beta sqrt(1 - (1 - 2 k / n)^2)) / I0(beta).
+ * I0 is its power series up to the first term of at most 1e-8, at most 25 terms.
+ * n = 1 multiplies by 1 / I0(beta).
+ * @param x read and written, [n]: data
+ * @param beta shape, not checked; about pi times half the main lobe in bins
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc113(double* x, int64_t n, double beta);
+#define QvWinKaiser ZemFunc113
+
+/**
+ * WinKaiserComplex (WinKaiser).
+ * Multiplies complex data by the window of WinKaiser: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param beta shape, not checked; about pi times half the main lobe in bins
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc440(QvComplex* x, int64_t n, double beta);
+#define QvWinKaiserComplex ZemFunc440
+
+/**
+ * WinGaussian.
+ * Multiplies data by the Gaussian window, w[k] = exp(-(k - n/2)^2 / (2 (sigma (n + 1))^2)).
+ * n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @param sigma standard deviation as a share of the length; not positive means 0.2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc280(double* x, int64_t n, double sigma);
+#define QvWinGaussian ZemFunc280
+
+/**
+ * WinGaussianComplex (WinGaussian).
+ * Multiplies complex data by the window of WinGaussian: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param sigma standard deviation as a share of the length; not positive means 0.2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc441(QvComplex* x, int64_t n, double sigma);
+#define QvWinGaussianComplex ZemFunc441
+
+/**
+ * WinChebyshev.
+ * Multiplies data by the Dolph-Chebyshev window: the narrowest main lobe over sidelobes of one height.
+ * Built by a transform of n + 1 samples, of which the last is left off. n = 1 leaves the data unchanged.
+ * @param x read and written, [n]: data
+ * @param attenuation dB, of the sidelobes below the main lobe; negative means 0
+ * @retval -20003 n is below 1
+ * @retval -20046 n is 2^31 - 1, where the n + 1 samples of the window exceed 32 bits
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc279(double* x, int64_t n, double attenuation);
+#define QvWinChebyshev ZemFunc279
+
+/**
+ * WinChebyshevComplex (WinChebyshev).
+ * Multiplies complex data by the window of WinChebyshev: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param attenuation dB, of the sidelobes below the main lobe; negative means 0
+ * @retval -20003 n is below 1
+ * @retval -20046 n is 2^31 - 1, where the n + 1 samples of the window exceed 32 bits
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc442(QvComplex* x, int64_t n, double attenuation);
+#define QvWinChebyshevComplex ZemFunc442
+
+/**
+ * WinExponential.
+ * Multiplies data by a factor that falls from 1 to final by equal ratios, exp(i ln(final) / (n - 1)).
+ * @param x read and written, [n]: data
+ * @param final factor of the last sample
+ * @retval -20006 n is below 2
+ * @retval -20027 final is not positive
+ */
+QV_API QvStatus ZemFunc74(double* x, int64_t n, double final);
+#define QvWinExponential ZemFunc74
+
+/**
+ * WinExponentialComplex (WinExponential).
+ * Multiplies complex data by the window of WinExponential: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param final factor of the last sample
+ * @retval -20006 n is below 2
+ * @retval -20027 final is not positive
+ */
+QV_API QvStatus ZemFunc444(QvComplex* x, int64_t n, double final);
+#define QvWinExponentialComplex ZemFunc444
+
+/**
+ * WinForce.
+ * Keeps the first duty percent of the samples, duty n / 100 cut to an integer, and clears the others.
+ * @param x read and written, [n]: data
+ * @param duty percent; below 0 clears all, above 100 nothing
+ * @retval -20006 n is below 2
+ */
+QV_API QvStatus ZemFunc81(double* x, int64_t n, double duty);
+#define QvWinForce ZemFunc81
+
+/**
+ * WinForceComplex (WinForce).
+ * Multiplies complex data by the window of WinForce: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param duty percent; below 0 clears all, above 100 nothing
+ * @retval -20006 n is below 2
+ */
+QV_API QvStatus ZemFunc443(QvComplex* x, int64_t n, double duty);
+#define QvWinForceComplex ZemFunc443
+
+/**
+ * WinApplySymmetric.
+ * Multiplies data by the symmetric form of a window, whose last sample equals its first.
+ * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
+ * n = 1 leaves the data unchanged, whatever the code.
+ * @param x read and written, [n]: data
+ * @param window QV_WINDOW_...
+ * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
+ * @retval -20003 n is below 1
+ * @retval -20061 the window code is unknown and n above 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc281(double* x, int64_t n, int32_t window, double parameter);
+#define QvWinApplySymmetric ZemFunc281
+
+/**
+ * WinApplySymmetricComplex (WinApplySymmetric).
+ * Multiplies complex data by the window of WinApplySymmetric: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param window QV_WINDOW_...
+ * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
+ * @retval -20003 n is below 1
+ * @retval -20061 the window code is unknown and n above 1
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc429(QvComplex* x, int64_t n, int32_t window, double parameter);
+#define QvWinApplySymmetricComplex ZemFunc429
+
+/**
+ * WinApplyScaled.
+ * Multiplies data by a window divided by its coherent gain, so that a sine keeps its amplitude in the spectrum.
+ * The properties of the rectangle and the cosine sums are printed ones, the others are measured on the window.
+ * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
+ * After -20046 the properties are untouched.
+ * @param x read and written, [n]: data
+ * @param window QV_WINDOW_...
+ * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
+ * @param properties written: of the window, not of the data; both NaN after an error
+ * @retval -20004 n is negative
+ * @retval -20061 the window code is unknown
+ * @retval -20003 n is 0 and the window is neither the rectangle nor a cosine sum
+ * @retval -20001 out of memory
+ * @code
+ * QvWindowProperties properties;
+ * QvWinApplyScaled(x, n, QV_WINDOW_KAISER, 8.6, &properties);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc337(double* x, int64_t n, int32_t window, double parameter, QvWindowProperties* properties);
+#define QvWinApplyScaled ZemFunc337
+
+/**
+ * WinApplyScaledComplex (WinApplyScaled).
+ * Multiplies complex data by the window of WinApplyScaled: one factor for both parts.
+ * @param x read and written, [n]: data
+ * @param window QV_WINDOW_...
+ * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
+ * @param properties written: of the window, not of the data; both NaN after an error
+ * @retval -20004 n is negative
+ * @retval -20061 the window code is unknown
+ * @retval -20003 n is 0 and the window is neither the rectangle nor a cosine sum
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc428(QvComplex* x, int64_t n, int32_t window, double parameter, QvWindowProperties* properties);
+#define QvWinApplyScaledComplex ZemFunc428
+
+/**
+ * WinApplyScaledPlain.
+ * Multiplies data by a window divided by its coherent gain: WinApplyScaled with the parameter 0.
+ * @param x read and written, [n]: data
+ * @param window QV_WINDOW_...
+ * @param properties written: of the window, not of the data; both NaN after an error
+ * @retval -20004 n is negative
+ * @retval -20061 the window code is unknown
+ * @retval -20003 n is 0 and the window is neither the rectangle nor a cosine sum
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc152(double* x, int64_t n, int32_t window, QvWindowProperties* properties);
+#define QvWinApplyScaledPlain ZemFunc152
+
+/**
+ * WinPropertiesOf.
+ * The properties of a window of n samples in its periodic form, as WinApplyScaled tells them.
+ * Those of the rectangle and the cosine sums are printed ones and do not depend on n, the others are measured.
+ * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
+ * @param window QV_WINDOW_...
+ * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
+ * @param properties written: both NaN after an error
+ * @retval -20003 n is below 1
+ * @retval -20061 the window code is unknown
+ * @retval -20001 out of memory
+ */
+QV_API QvStatus ZemFunc445(int64_t n, int32_t window, double parameter, QvWindowProperties* properties);
+#define QvWinPropertiesOf ZemFunc445
+
+/**
+ * WinPropertiesFixed.
+ * The printed properties of a window: the rectangle, the cosine sums, Bartlett-Hanning, Bohman, Parzen, Welch.
+ * @param window QV_WINDOW_...
+ * @param properties written: untouched after an error
+ * @retval -20061 the window has no printed properties
+ */
+QV_API QvStatus ZemFunc282(uint32_t window, QvWindowProperties* properties);
+#define QvWinPropertiesFixed ZemFunc282
+
+/**
+ * WinPropertiesMeasure.
+ * Measures a window: coherent_gain is its mean, enbw is n times the sum of squares over the squared sum, in bins.
+ * @param w read, [n]: a window
+ * @param n number of samples, all 32 bits of it
+ * @param properties written: both NaN after an error
+ * @retval -20003 n is 0
+ */
+QV_API QvStatus ZemFunc283(const double* w, uint32_t n, QvWindowProperties* properties);
+#define QvWinPropertiesMeasure ZemFunc283
 
 /** @} */
 

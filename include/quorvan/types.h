@@ -37,6 +37,29 @@ typedef struct QvWindowProperties {
     double coherent_gain; /**< mean of the window */
 } QvWindowProperties;
 
+/** Window codes, for every argument called `window`. All other values are refused with -20061. */
+enum {
+    QV_WINDOW_RECTANGULAR = 0,       /**< leaves the data as they are */
+    QV_WINDOW_HANNING = 1,           /**< two-term cosine sum that falls to 0 */
+    QV_WINDOW_HAMMING = 2,           /**< two-term cosine sum on a pedestal */
+    QV_WINDOW_BLACKMAN_HARRIS3 = 3,  /**< three-term Blackman-Harris */
+    QV_WINDOW_EXACT_BLACKMAN = 4,    /**< Blackman with exact zeros at the third and fourth sidelobe */
+    QV_WINDOW_BLACKMAN = 5,          /**< Blackman with rounded coefficients */
+    QV_WINDOW_FLAT_TOP = 6,          /**< five-term flat top, for amplitudes */
+    QV_WINDOW_BLACKMAN_HARRIS4 = 7,  /**< four-term Blackman-Harris */
+    QV_WINDOW_BLACKMAN_HARRIS7 = 8,  /**< seven-term Blackman-Harris */
+    QV_WINDOW_LOW_SIDELOBE = 9,      /**< five-term cosine sum with low sidelobes */
+    QV_WINDOW_BLACKMAN_NUTTALL = 11, /**< four-term Blackman-Nuttall */
+    QV_WINDOW_TRIANGLE = 30,         /**< straight edges */
+    QV_WINDOW_BARTLETT_HANNING = 31, /**< weighted sum of triangle and Hanning */
+    QV_WINDOW_BOHMAN = 32,           /**< half cosine convolved with itself */
+    QV_WINDOW_PARZEN = 33,           /**< piecewise cubic */
+    QV_WINDOW_WELCH = 34,            /**< parabola */
+    QV_WINDOW_KAISER = 60,           /**< parameter: beta */
+    QV_WINDOW_CHEBYSHEV = 61,        /**< Dolph-Chebyshev; parameter: sidelobe attenuation in dB, negative for 60 dB */
+    QV_WINDOW_GAUSSIAN = 62          /**< parameter: standard deviation as a share of the length, not positive for 0.2 */
+};
+
 /** One band of a multiband filter. */
 typedef struct QvBand {
     double desired; /**< gain in the band */
