@@ -31,7 +31,7 @@ The table is one text file for each family. Its grammar, line by line:
 TYPE is one of double, complex, int32, uint32, int64, text, window (properties), band (of a filter), model (function),
 or a handle's name: TYPE Name is the record QvName of quorvan/types.h, `block` is any block that the library allocated.
 SHAPE is an integer expression over the integer arguments of the same export, by value or by address, in Python's
-notation: + - * / % == min max and "a if condition else b"; the quotient truncates.
+notation: + - * / % == min max and "a if condition else b"; the quotient truncates. Empty: the meaning tells the room.
 """
 
 import ast
@@ -214,7 +214,7 @@ def check_shapes(export):
     """Every shape is made of integer arguments of its own export."""
     integers = {a.name for a in export.arguments if a.type in INTEGERS and a.shape is None}
     for argument in export.arguments:
-        if argument.shape is None:
+        if not argument.shape:
             continue
         try:
             unknown = argument.shape_names - integers
