@@ -43,6 +43,11 @@ class Address:
         return ctypes.c_void_p(value.ctypes.data)
 
 
+def text_buffer(text, room):
+    """A text that the library reads and writes over, with room for so many more characters."""
+    return ctypes.create_string_buffer(text.encode(), len(text) + room + 1)
+
+
 def argument_type(argument):
     if argument.direction == "size":
         return ctypes.c_int64
