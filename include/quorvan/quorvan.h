@@ -775,6 +775,319 @@ QV_API QvStatus ZemFunc43(double* re, double* im, int64_t n, double aRe, double 
 
 /** @} */
 
+/** @defgroup convolution Convolution and correlation
+ * Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is the
+ * convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
+ * Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions without
+ * a method use transforms. Outputs must not overlap inputs.
+ * Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2 biased (all
+ * divided by the longer length).
+ * @{
+ */
+
+/**
+ * ConvolveReal.
+ * The linear convolution, out[l] = sum over i of x[i] y[l - i].
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param out written, [n + m - 1]: the convolution
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvConvolveReal(signal, 1000, taps, 21, filtered);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc32(const double* x, int64_t n, const double* y, int64_t m, double* out);
+#define QvConvolveReal ZemFunc32
+
+/**
+ * ConvolveRealBy (ConvolveReal).
+ * The linear convolution, out[l] = sum over i of x[i] y[l - i].
+ * A method other than 0 and 1 does nothing and succeeds.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the convolution
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc372(const double* x, int64_t n, const double* y, int64_t m, int32_t method, double* out);
+#define QvConvolveRealBy ZemFunc372
+
+/**
+ * ConvolveComplex.
+ * The linear convolution, out[l] = sum over i of x[i] y[l - i].
+ * Nothing is conjugated.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the convolution
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20061 the method is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc391(const QvComplex* x, int64_t n, const QvComplex* y, int64_t m, uint32_t method, QvComplex* out);
+#define QvConvolveComplex ZemFunc391
+
+/**
+ * CorrelateReal.
+ * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
+ * If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc33(const double* x, int64_t n, const double* y, int64_t m, double* out);
+#define QvCorrelateReal ZemFunc33
+
+/**
+ * CorrelateRealBy (CorrelateReal).
+ * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
+ * A method other than 0 and 1 does nothing and succeeds.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc373(const double* x, int64_t n, const double* y, int64_t m, int32_t method, double* out);
+#define QvCorrelateRealBy ZemFunc373
+
+/**
+ * CorrelateRealNormalised (CorrelateReal).
+ * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
+ * A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a failure.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out read and written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @retval -20061 the normalisation is above 2; the raw result is written
+ */
+QV_API QvStatus ZemFunc376(const double* x, int64_t n, const double* y, int64_t m, int32_t method, uint32_t normalisation, double* out);
+#define QvCorrelateRealNormalised ZemFunc376
+
+/**
+ * AutoCorrelateReal (CorrelateReal).
+ * The autocorrelation, out[n - 1 + l] = sum over i of x[i] x[i + l].
+ * @param x read, [n]: the sequence
+ * @param n its length
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out written, [2 * n - 1]: the autocorrelation
+ * @retval -20003 n is below 1
+ * @retval -20046 2n - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @retval -20061 the normalisation is unknown; the raw result is written
+ */
+QV_API QvStatus ZemFunc424(const double* x, int64_t n, int32_t normalisation, double* out);
+#define QvAutoCorrelateReal ZemFunc424
+
+/**
+ * CorrelateComplex.
+ * The cross-correlation, out[n - 1 + l] = sum over i of conj(x[i]) y[i + l].
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20061 the method is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc421(const QvComplex* x, int64_t n, const QvComplex* y, int64_t m, uint32_t method, QvComplex* out);
+#define QvCorrelateComplex ZemFunc421
+
+/**
+ * CorrelateComplexNormalised (CorrelateComplex).
+ * The cross-correlation, out[n - 1 + l] = sum over i of conj(x[i]) y[i + l].
+ * @param x read, [n]: the first sequence
+ * @param n its length
+ * @param y read, [m]: the second sequence
+ * @param m its length
+ * @param method 0: direct; 1: by transforms
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out written, [n + m - 1]: the correlation
+ * @retval -20003 n or m is below 1
+ * @retval -20046 n + m - 1 exceeds 2^31 - 1
+ * @retval -20061 the method is above 1; or the normalisation is above 2, and the raw result is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc490(const QvComplex* x, int64_t n, const QvComplex* y, int64_t m, uint32_t method, uint32_t normalisation, QvComplex* out);
+#define QvCorrelateComplexNormalised ZemFunc490
+
+/**
+ * AutoCorrelateComplex (CorrelateComplex).
+ * The autocorrelation, out[n - 1 + l] = sum over i of conj(x[i]) x[i + l].
+ * @param x read, [n]: the sequence
+ * @param n its length
+ * @param normalisation 0 none, 1 unbiased, 2 biased
+ * @param out written, [2 * n - 1]: the autocorrelation
+ * @retval -20003 n is below 1
+ * @retval -20046 2n - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @retval -20061 the normalisation is unknown; the raw result is written
+ */
+QV_API QvStatus ZemFunc425(const QvComplex* x, int64_t n, int32_t normalisation, QvComplex* out);
+#define QvAutoCorrelateComplex ZemFunc425
+
+/**
+ * Deconvolve.
+ * Finds the sequence whose convolution with x is y, by dividing spectra; by long division where the spectrum of x comes too near to zero.
+ * @param y read, [n]: the product of the convolution
+ * @param n its length
+ * @param x read, [m]: the known factor
+ * @param m its length
+ * @param out written, [n - m + 1]: the other factor
+ * @retval -20003 n or m is below 1
+ * @retval -20008 m is above n
+ * @retval -20046 n exceeds 2^30
+ * @retval -20060 all elements of x are 0; nothing is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc54(const double* y, int64_t n, const double* x, int64_t m, double* out);
+#define QvDeconvolve ZemFunc54
+
+/**
+ * Convolve2DReal.
+ * The linear convolution of two arrays, out(r, c) = sum over i, j of x(i, j) y(r - i, c - j).
+ * Shape 2 has (rows1 - rows2 + 1) x (cols1 - cols2 + 1) elements.
+ * Checked in the order of the statuses.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param shape 0: all; 1: rows1 x cols1, from row rows2 / 2 and column cols2 / 2; 2: what no padding has touched
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the convolution, row-major, as much of it as the shape has
+ * @retval -20003 a size is below 1
+ * @retval -20061 the shape is above 2, or the method above 1
+ * @retval -20008 shape 2, and y has more rows or columns than x
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc392(const double* x, int64_t rows1, int64_t cols1, const double* y, int64_t rows2, int64_t cols2, uint32_t shape, uint32_t method, double* out);
+#define QvConvolve2DReal ZemFunc392
+
+/**
+ * Convolve2DComplex.
+ * The linear convolution of two arrays, out(r, c) = sum over i, j of x(i, j) y(r - i, c - j).
+ * Shape 2 has (rows1 - rows2 + 1) x (cols1 - cols2 + 1) elements.
+ * Checked in the order of the statuses.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param shape 0: all; 1: rows1 x cols1, from row rows2 / 2 and column cols2 / 2; 2: what no padding has touched
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the convolution, row-major, as much of it as the shape has
+ * @retval -20003 a size is below 1
+ * @retval -20061 the shape is above 2, or the method above 1
+ * @retval -20008 shape 2, and y has more rows or columns than x
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc393(const QvComplex* x, int64_t rows1, int64_t cols1, const QvComplex* y, int64_t rows2, int64_t cols2, uint32_t shape, uint32_t method, QvComplex* out);
+#define QvConvolve2DComplex ZemFunc393
+
+/**
+ * Correlate2DReal.
+ * The cross-correlation of two arrays, sum over i, j of x(i, j) y(i + r, j + c), with lag (0, 0) at row rows1 - 1 and column cols1 - 1.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the correlation, row-major
+ * @retval -20003 a size is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc422(const double* x, int64_t rows1, int64_t cols1, const double* y, int64_t rows2, int64_t cols2, uint32_t method, double* out);
+#define QvCorrelate2DReal ZemFunc422
+
+/**
+ * Correlate2DComplex.
+ * The cross-correlation of two arrays, sum over i, j of conj(x(i, j)) y(i + r, j + c), with lag (0, 0) at row rows1 - 1 and column cols1 - 1.
+ * @param x read, [rows1 * cols1]: the first array, row-major
+ * @param rows1 its rows
+ * @param cols1 its columns
+ * @param y read, [rows2 * cols2]: the second array, row-major
+ * @param rows2 its rows
+ * @param cols2 its columns
+ * @param method 0: direct; 1: by transforms
+ * @param out written, [(rows1 + rows2 - 1) * (cols1 + cols2 - 1)]: the correlation, row-major
+ * @retval -20003 a size is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc423(const QvComplex* x, int64_t rows1, int64_t cols1, const QvComplex* y, int64_t rows2, int64_t cols2, uint32_t method, QvComplex* out);
+#define QvCorrelate2DComplex ZemFunc423
+
+/**
+ * AutoCorrelate2DReal (Correlate2DReal).
+ * The autocorrelation of an array, sum over i, j of x(i, j) x(i + r, j + c), with lag (0, 0) in the middle.
+ * @param x read, [rows * cols]: the array, row-major
+ * @param rows its rows
+ * @param cols its columns
+ * @param out written, [(2 * rows - 1) * (2 * cols - 1)]: the autocorrelation, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc426(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvAutoCorrelate2DReal ZemFunc426
+
+/**
+ * AutoCorrelate2DComplex (Correlate2DComplex).
+ * The autocorrelation of an array, sum over i, j of conj(x(i, j)) x(i + r, j + c), with lag (0, 0) in the middle.
+ * @param x read, [rows * cols]: the array, row-major
+ * @param rows its rows
+ * @param cols its columns
+ * @param out written, [(2 * rows - 1) * (2 * cols - 1)]: the autocorrelation, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the full result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvComplex* out);
+#define QvAutoCorrelate2DComplex ZemFunc427
+
+/** @} */
+
 /** @defgroup generators Waveform generators
  * Each fills an array of n samples with a deterministic signal and keeps no state of its own.
  * The periodic waves take their phase in degrees by address and leave there the phase of the sample behind the
@@ -1043,6 +1356,39 @@ QV_API void ZemFunc238(void* block);
  */
 QV_API void ZemFunc470(void* block);
 #define QvIirStateComplexRelease ZemFunc470
+
+/** @} */
+
+/** @defgroup plans FFT plans
+ * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
+ * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the
+ * building of its tables. Any length from 1 up has a plan; those whose prime factors are all small run fastest.
+ * A plan is never changed, so any number of threads may use it at once.
+ * @{
+ */
+
+/**
+ * FftPlanCreate.
+ * A plan for transforms of this length, to be given back with FftPlanRelease.
+ * Two calls with one length return the same plan; each needs its own release.
+ * Null if the size does not fit 32 bits, is below 1, or memory ran out.
+ * @param size the length of the transforms in points
+ * @code
+ * QvFftPlan* plan = QvFftPlanCreate(1024);
+ * QvTransformRealFft(x, 1024, 0, plan, 0, spectrum);
+ * QvFftPlanRelease(plan);
+ * @endcode
+ */
+QV_API QvFftPlan* ZemFunc260(int64_t size);
+#define QvFftPlanCreate ZemFunc260
+
+/**
+ * FftPlanRelease.
+ * Gives a plan back; the last release frees it.
+ * @param plan handle, may be null: the plan; null is ignored
+ */
+QV_API void ZemFunc261(QvFftPlan* plan);
+#define QvFftPlanRelease ZemFunc261
 
 /** @} */
 
@@ -1456,6 +1802,415 @@ QV_API QvStatus ZemFunc340(const double* x, int64_t n, int64_t intervals, double
  */
 QV_API const char* ZemFunc240(int32_t code);
 #define QvStatusMessage ZemFunc240
+
+/** @} */
+
+/** @defgroup transforms Transforms
+ * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
+ * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
+ * In shifted order of N bins X[0] stands at index N / 2 (integer division), X[k] at N / 2 + k, X[-k] at N / 2 - k; of
+ * an even N, index 0 holds X[N / 2].
+ * Outputs must not overlap inputs, except where a function says so.
+ * @{
+ */
+
+/**
+ * TransformRealFft.
+ * The full spectrum of real data, X[k] = sum over j of x[j] exp(-2 pi i j k / L).
+ * The output is the only workspace.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @retval -20003 n is below 1
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvTransformRealFft(x, 1024, 0, NULL, 0, spectrum);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc262(const double* x, int64_t n, int64_t fftSize, QvFftPlan* plan, int32_t shift, QvComplex* out);
+#define QvTransformRealFft ZemFunc262
+
+/**
+ * TransformComplexFft.
+ * The spectrum of complex data, X[k] = sum over j of x[j] exp(-2 pi i j k / L).
+ * If memory for reordering runs out, the spectrum is left in natural order.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @retval -20003 n is below 1
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc263(const QvComplex* x, int64_t n, int64_t fftSize, QvFftPlan* plan, int32_t shift, QvComplex* out);
+#define QvTransformComplexFft ZemFunc263
+
+/**
+ * TransformRealIfft.
+ * The real data of a spectrum, the inverse of TransformRealFft.
+ * Only the bins from frequency 0 to n / 2 are read; of bin 0, and of bin n / 2 of an even n, only the real part.
+ * @param X read, [n]: the spectrum of real data
+ * @param n how many bins and samples there are
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [n]: the samples
+ * @retval -20003 n is below 0
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted, or n is 0 and no plan is given
+ */
+QV_API QvStatus ZemFunc264(const QvComplex* X, int64_t n, QvFftPlan* plan, int32_t shift, double* out);
+#define QvTransformRealIfft ZemFunc264
+
+/**
+ * TransformComplexIfft.
+ * The inverse of TransformComplexFft, x[j] = (1/n) sum over k of X[k] exp(2 pi i j k / n).
+ * @param X read, [n]: the spectrum
+ * @param n how many bins and samples there are
+ * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+ * @param out written, [n]: the samples
+ * @retval -20003 n is below 0
+ * @retval -20070 the plan is of another length
+ * @retval -20001 memory is exhausted, or n is 0 and no plan is given
+ */
+QV_API QvStatus ZemFunc265(const QvComplex* X, int64_t n, QvFftPlan* plan, int32_t shift, QvComplex* out);
+#define QvTransformComplexIfft ZemFunc265
+
+/**
+ * TransformRealFft2D.
+ * The two-dimensional spectrum of real data; each dimension is padded with zeros or cut to its length.
+ * The output is the only large workspace.
+ * @param x read, [rows * cols]: the samples, row-major
+ * @param rows rows of the input
+ * @param cols columns of the input
+ * @param fftRows rows of the transform; below 1: rows
+ * @param fftCols columns of the transform; below 1: cols
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc266(const double* x, int64_t rows, int64_t cols, int64_t fftRows, int64_t fftCols, int32_t shift, QvComplex* out);
+#define QvTransformRealFft2D ZemFunc266
+
+/**
+ * TransformComplexFft2D.
+ * The two-dimensional spectrum of complex data; each dimension is padded with zeros or cut to its length.
+ * The output is the only large workspace.
+ * @param x read, [rows * cols]: the samples, row-major
+ * @param rows rows of the input
+ * @param cols columns of the input
+ * @param fftRows rows of the transform; below 1: rows
+ * @param fftCols columns of the transform; below 1: cols
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 the result has more than 2^31 - 1 elements
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc267(const QvComplex* x, int64_t rows, int64_t cols, int64_t fftRows, int64_t fftCols, int32_t shift, QvComplex* out);
+#define QvTransformComplexFft2D ZemFunc267
+
+/**
+ * TransformRealIfft2D.
+ * The real data of a two-dimensional spectrum; only the rows from frequency 0 to rows / 2 are read.
+ * @param X read, [rows * cols]: the spectrum, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [rows * cols]: the samples, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc268(const QvComplex* X, int64_t rows, int64_t cols, int32_t shift, double* out);
+#define QvTransformRealIfft2D ZemFunc268
+
+/**
+ * TransformComplexIfft2D.
+ * The inverse of TransformComplexFft2D.
+ * @param X read, [rows * cols]: the spectrum, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+ * @param out written, [rows * cols]: the samples, row-major
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc269(const QvComplex* X, int64_t rows, int64_t cols, int32_t shift, QvComplex* out);
+#define QvTransformComplexIfft2D ZemFunc269
+
+/**
+ * TransformSplitFft.
+ * The forward transform of split complex data, in place and unscaled.
+ * @param re read and written, [n]: real parts
+ * @param im read and written, [n]: imaginary parts
+ * @param n the length of the transform
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc77(double* re, double* im, int64_t n);
+#define QvTransformSplitFft ZemFunc77
+
+/**
+ * TransformDct.
+ * The orthonormal cosine transform of type II,
+ * out[k] = c(k) sqrt(2/L) sum over j of x[j] cos(pi k (2j + 1) / (2L)), c(0) = 1/sqrt(2), else 1.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @retval -20046 2 L does not fit 32 bits, with L the length of the transform
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc270(const double* x, int64_t n, int64_t fftSize, double* out);
+#define QvTransformDct ZemFunc270
+
+/**
+ * TransformIdct.
+ * The exact inverse of TransformDct (the orthonormal cosine transform of type III).
+ * @param x read, [n]: the transform
+ * @param n its length
+ * @param out written, [n]: the samples; it may be x
+ * @retval -20046 2 n does not fit 32 bits
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc271(const double* x, int64_t n, double* out);
+#define QvTransformIdct ZemFunc271
+
+/**
+ * TransformDst.
+ * The sine transform of type I, unnormalised,
+ * out[k-1] = sum over j of x[j] sin(pi k (j + 1) / (L + 1)), k = 1 to L.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
+ * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @retval -20046 2 L + 2 does not fit 32 bits, with L the length of the transform
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc272(const double* x, int64_t n, int64_t fftSize, double* out);
+#define QvTransformDst ZemFunc272
+
+/**
+ * TransformIdst.
+ * The exact inverse of TransformDst, which carries the whole factor 2/(n + 1).
+ * @param x read, [n]: the transform
+ * @param n its length
+ * @param out written, [n]: the samples; it may be x
+ * @retval -20046 2 n + 2 does not fit 32 bits
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc273(const double* x, int64_t n, double* out);
+#define QvTransformIdst ZemFunc273
+
+/**
+ * TransformDct2D.
+ * TransformDct of all rows, then columns.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows or 2 cols does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc274(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformDct2D ZemFunc274
+
+/**
+ * TransformIdct2D.
+ * TransformIdct of all columns, then rows.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows or 2 cols does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc275(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformIdct2D ZemFunc275
+
+/**
+ * TransformDst2D.
+ * TransformDst of all rows, then columns.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows + 2 or 2 cols + 2 does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc276(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformDst2D ZemFunc276
+
+/**
+ * TransformIdst2D.
+ * TransformIdst of all rows, then columns.
+ * @param x read, [rows * cols]: the input, row-major
+ * @param rows rows of both arrays
+ * @param cols columns of both arrays
+ * @param out written, [rows * cols]: the result; it may be x
+ * @retval -20046 2 rows + 2 or 2 cols + 2 does not fit 32 bits
+ * @retval -20003 rows or cols is below 1
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc277(const double* x, int64_t rows, int64_t cols, double* out);
+#define QvTransformIdst2D ZemFunc277
+
+/**
+ * TransformHartley.
+ * The Hartley transform in place, X[k] = sum over j of x[j] (cos + sin)(2 pi j k / n), unnormalised.
+ * Applied twice it gives n times the input.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc78(double* x, int64_t n);
+#define QvTransformHartley ZemFunc78
+
+/**
+ * TransformInverseHartley.
+ * TransformHartley times 1/n: its inverse.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc103(double* x, int64_t n);
+#define QvTransformInverseHartley ZemFunc103
+
+/**
+ * TransformHilbert.
+ * The Hilbert transform in place: positive frequencies are multiplied by -i, so that a cosine becomes a sine.
+ * The mean, and of an even n the component at n / 2, vanish; n = 1 gives 0.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc75(double* x, int64_t n);
+#define QvTransformHilbert ZemFunc75
+
+/**
+ * TransformInverseHilbert.
+ * TransformHilbert with its sign changed: the inverse for data without the components that vanish.
+ * @param x read and written, [n]: the data
+ * @param n how many elements there are
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc76(double* x, int64_t n);
+#define QvTransformInverseHilbert ZemFunc76
+
+/**
+ * TransformChirpZReal.
+ * The z-transform of real data along a spiral, X[j] = sum over k of x[k] a^-k w^(j k).
+ * The sum itself costs n * m powers; Bluestein's algorithm (1970) is fast, and loses accuracy where |w| is far from 1.
+ * Checked in the order of the statuses, a before w.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param a where the spiral starts
+ * @param w the ratio of neighbouring points
+ * @param method 0: the sum itself; 1: Bluestein's algorithm
+ * @param m how many points of the spiral; below 1: n
+ * @param out written, [m]: the transform; n records for an m below 1
+ * @retval -20003 n is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20068 a or w is not finite
+ * @retval -20141 |a|^2 or |w|^2 is 0
+ * @retval -20046 method 1 and 2n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc341(const double* x, int64_t n, QvComplex a, QvComplex w, uint32_t method, int64_t m, QvComplex* out);
+#define QvTransformChirpZReal ZemFunc341
+
+/**
+ * TransformChirpZComplex.
+ * The z-transform of complex data along a spiral, X[j] = sum over k of x[k] a^-k w^(j k).
+ * The sum itself costs n * m powers; Bluestein's algorithm (1970) is fast, and loses accuracy where |w| is far from 1.
+ * Checked in the order of the statuses, a before w.
+ * @param x read, [n]: the samples
+ * @param n how many samples there are
+ * @param a where the spiral starts
+ * @param w the ratio of neighbouring points
+ * @param method 0: the sum itself; 1: Bluestein's algorithm
+ * @param m how many points of the spiral; below 1: n
+ * @param out written, [m]: the transform; n records for an m below 1
+ * @retval -20003 n is below 1
+ * @retval -20061 the method is above 1
+ * @retval -20068 a or w is not finite
+ * @retval -20141 |a|^2 or |w|^2 is 0
+ * @retval -20046 method 1 and 2n + m - 1 exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc342(const QvComplex* x, int64_t n, QvComplex a, QvComplex w, uint32_t method, int64_t m, QvComplex* out);
+#define QvTransformChirpZComplex ZemFunc342
+
+/**
+ * TransformInverseChirpZ.
+ * Recovers x from X[j] = sum over k of x[k] a^-k w^(j k), in closed form.
+ * With more points than samples, those whose nodes lie nearest to the unit circle are used.
+ * @param X read and written, [n]: points of a chirp-Z transform; the first m are overwritten if out is null
+ * @param n how many points there are
+ * @param a where the spiral starts
+ * @param w the ratio of neighbouring points
+ * @param out written, [m], may be null: the samples; n records for an m below 1
+ * @param m how many samples; below 1: n
+ * @retval -20003 n is below 1
+ * @retval -20068 a or w is not finite
+ * @retval -20141 |a|^2 or |w|^2 is 0
+ * @retval -20008 m is above n
+ * @retval -20046 2m - 1 exceeds 2^31 - 1
+ * @retval -20116 two of the nodes w^0 to w^(m-1) coincide; nothing is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc351(QvComplex* X, int64_t n, QvComplex a, QvComplex w, QvComplex* out, int64_t m);
+#define QvTransformInverseChirpZ ZemFunc351
+
+/**
+ * PowerSpectrumComplex.
+ * The two-sided power spectrum of complex data, out[k] = |X[k]|^2 / n^2.
+ * @param x read, [n]: the samples
+ * @param n how many there are
+ * @param out written, [n]: the power of each bin, natural order
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc467(const QvComplex* x, int64_t n, double* out);
+#define QvPowerSpectrumComplex ZemFunc467
+
+/**
+ * CrossPowerComplex.
+ * The two-sided cross power spectrum of complex data, out[k] = conj(X[k]) Y[k] / n^2.
+ * @param x read, [n]: the first samples
+ * @param y read, [n]: the second samples
+ * @param n how many there are
+ * @param out written, [n]: the cross power of each bin, natural order
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, QvComplex* out);
+#define QvCrossPowerComplex ZemFunc468
 
 /** @} */
 
