@@ -15,7 +15,7 @@ RATE = 360.0
 
 
 def tour(*arguments):
-    return subprocess.run([os.environ["QUORVAN_TOUR"], *map(str, arguments)], capture_output=True, text=True, timeout=60)
+    return subprocess.run([os.environ["QUORVAN_TOUR"], *map(str, arguments)], capture_output=True, text=True, timeout=240)
 
 
 def numbers(text):
