@@ -33,7 +33,8 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
 endif()
 set(QUORVAN_FLAGS_baseline)
 set(QUORVAN_FLAGS_avx2 -mavx2 -mfma)
-set(QUORVAN_FLAGS_avx512 -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
+# GCC 12 takes the don't-care operand of its own intrinsics for an uninitialised variable.
+set(QUORVAN_FLAGS_avx512 -Wno-maybe-uninitialized -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
 
 add_library(quorvan_core OBJECT ${QUORVAN_UNITS})
 target_link_libraries(quorvan_core PRIVATE quorvan_options)

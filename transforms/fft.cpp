@@ -1,85 +1,176 @@
 #include "transforms/fft.h"
 
-#include <cmath>
-#include <initializer_list>
-
-#include "frame/memory.h"
 #include "frame/status.h"
+#include "transforms/fft_loops.h"
+#include "transforms/fft_plan_record.h"
+#include "transforms/rader.h"
 
 namespace quorvan {
+namespace {
 
-struct FftPlan {
-    Count size;
+// Adjacent leaf transforms that go through the levels together: a whole vector of the widest instruction set.
+constexpr Count kGroup = 8;
+
+struct ComplexRun {
+    const FftPlan& plan;
+    const double *inRe, *inIm;
+    double *outRe, *outIm;
+    Size inStride, outStride;
+
+    Status Leaves(Count first, Count count, Count leaves) const noexcept {
+        const Count last = plan.factorCount - 1;
+        const FftStage& stage = *plan.stages[last];
+        const double *re = inRe + first * inStride, *im = inIm + first * inStride;
+        if (plan.kinds[last] == kLargePrime)
+            return RaderComplexLeaf(re, im, outRe, outIm, inStride, outStride, count, leaves * inStride,
+                                    plan.leafPositions + first, stage, plan.factors[last]);
+        plan.leafKernels[last](re, im, outRe, outIm, inStride, outStride, count, leaves * inStride,
+                               plan.leafPositions + first, stage);
+        return status::kSuccess;
+    }
+    Status Stage(Count level, Size position, Count m) const noexcept {
+        double *re = outRe + position * outStride, *im = outIm + position * outStride;
+        if (plan.kinds[level] == kLargePrime)
+            return RaderComplexStage(re, im, outStride, m, *plan.stages[level], plan.factors[level]);
+        plan.stageKernels[level](re, im, outStride, m, *plan.stages[level]);
+        return status::kSuccess;
+    }
 };
 
-FftPlan* FftPlanCreate(Count size) noexcept {
-    if (size < 1) return nullptr;
-    Block<FftPlan> plan(1);
-    if (plan) plan.get()->size = size;
-    return plan.release();
-}
-void FftPlanRelease(FftPlan* plan) noexcept { HeapFree(plan); }
-Count FftPlanSize(const FftPlan* plan) noexcept { return plan->size; }
+struct RealRun {
+    const FftPlan& plan;
+    const double* in;
+    double* out;
+    Size inStride, outStride;
 
-Count FftFastSize(Count n) noexcept {
-    for (; n > 1; ++n) {
-        Count rest = n;
-        for (Count p : {2, 3, 5, 7, 11, 13, 17, 19, 29, 31, 37, 41, 43})
-            while (rest % p == 0) rest /= p;
-        if (rest == 1) break;
+    Status Leaves(Count first, Count count, Count leaves) const noexcept {
+        const Count last = plan.factorCount - 1;
+        const FftStage& stage = *plan.stages[last];
+        if (plan.kinds[last] == kLargePrime)
+            return RaderRealLeaf(in + first * inStride, out, inStride, outStride, count, leaves * inStride,
+                                 plan.leafPositions + first, stage, plan.factors[last]);
+        plan.realLeafKernels[last](in + first * inStride, out, inStride, outStride, count, leaves * inStride,
+                                   plan.leafPositions + first, stage);
+        return status::kSuccess;
     }
-    return n;
-}
+    Status Stage(Count level, Size position, Count m) const noexcept {
+        double* data = out + position * outStride;
+        if (plan.kinds[level] == kLargePrime)
+            return RaderRealStage(data, outStride, m, *plan.stages[level], plan.factors[level]);
+        plan.realStageKernels[level](data, outStride, m, *plan.stages[level]);
+        return status::kSuccess;
+    }
+};
 
-Status FftComplex(const FftPlan*, const double* inRe, const double* inIm, double* outRe, double* outIm,
-                  Count inStride, Count outStride, Count n) noexcept {
-    for (Size k = 0; k < n; ++k) {
-        double re = 0, im = 0;
-        for (Size j = 0; j < n; ++j) {
-            const double angle = -kTwoPi * double(j * k % n) / n, c = std::cos(angle), s = std::sin(angle);
-            re += inRe[j * inStride] * c - inIm[j * inStride] * s;
-            im += inRe[j * inStride] * s + inIm[j * inStride] * c;
+// The decimation in time of one plan. A sub-transform is known by the input `first` at which it begins; at a level
+// above which the factors multiply to `stride`, its input stands at first + stride * k.
+template <class Run>
+class Decimation {
+public:
+    Decimation(const Run& run) noexcept : run_(run), plan_(run.plan) {
+        Count m = plan_.size;
+        for (Count i = 0; i < plan_.factorCount; ++i) columns_[i] = m /= plan_.factors[i];
+        leaves_ = plan_.size / plan_.factors[plan_.factorCount - 1];
+    }
+
+    // The first levels are taken breadth first, until they part the input into enough adjacent sub-transforms to fill
+    // vectors; below them a group of adjacent ones goes depth first, so that its data stays in the cache.
+    Status Transform() const noexcept {
+        const Count last = plan_.factorCount - 1;
+        Count level = 0, stride = 1;
+        while (level < last && (stride < kGroup || (stride % kGroup && stride < 4 * kGroup)))
+            stride *= plan_.factors[level++];
+        for (Count first = 0; first < stride; first += kGroup) {
+            const Count count = level == last ? stride : stride - first < kGroup ? stride - first : kGroup;
+            if (const Status status = Descend(level, first, count, stride); status < 0) return status;
+            if (level == last) break;
         }
-        outRe[k * outStride] = re;
-        outIm[k * outStride] = im;
+        while (level-- > 0)
+            for (Size position = 0; position < plan_.size; position += Size(columns_[level]) * plan_.factors[level])
+                if (const Status status = run_.Stage(level, position, columns_[level]); status < 0) return status;
+        return status::kSuccess;
     }
-    return status::kSuccess;
+
+private:
+    Status Descend(Count level, Count first, Count count, Count stride) const noexcept {
+        if (level == plan_.factorCount - 1) return run_.Leaves(first, count, leaves_);
+        for (Count t = 0; t < plan_.factors[level]; ++t)
+            if (const Status status = Descend(level + 1, first + stride * t, count, stride * plan_.factors[level]);
+                status < 0)
+                return status;
+        for (Count c = first; c < first + count; ++c)
+            if (const Status status = run_.Stage(level, plan_.leafPositions[c], columns_[level]); status < 0)
+                return status;
+        return status::kSuccess;
+    }
+
+    const Run& run_;
+    const FftPlan& plan_;
+    Count columns_[kMaxFactors];
+    Count leaves_;
+};
+
+}  // namespace
+
+Status FftComplex(const FftPlan* plan, const double* inRe, const double* inIm, double* outRe, double* outIm,
+                  Count inStride, Count outStride, Count n) noexcept {
+    if (n != plan->size) return -1;
+    if (n == 1) {
+        *outRe = *inRe;
+        *outIm = *inIm;
+        return status::kSuccess;
+    }
+    return Decimation(ComplexRun{*plan, inRe, inIm, outRe, outIm, inStride, outStride}).Transform();
 }
+
 Status FftComplexInverse(const FftPlan* plan, const double* inRe, const double* inIm, double* outRe, double* outIm,
                          Count inStride, Count outStride, Count n) noexcept {
-    FftComplex(plan, inIm, inRe, outIm, outRe, inStride, outStride, n);
-    for (Size k = 0; k < n; ++k) {
-        outRe[k * outStride] /= n;
-        outIm[k * outStride] /= n;
+    if (const Status status = FftComplex(plan, inRe, inIm, outRe, outIm, inStride, outStride, n); status < 0)
+        return status;
+    const double scale = 1.0 / n;
+    if (outIm == outRe + 1 && outStride == 2) {
+        kFftLoops().mirrorRecords(outRe, n, scale);
+        return status::kSuccess;
     }
-    return status::kSuccess;
-}
-Status FftReal(const FftPlan*, const double* in, double* out, Count inStride, Count outStride, Count n) noexcept {
-    for (Size k = 0; k <= n / 2; ++k) {
-        double re = 0, im = 0;
-        for (Size j = 0; j < n; ++j) {
-            const double angle = -kTwoPi * double(j * k % n) / n;
-            re += in[j * inStride] * std::cos(angle);
-            im += in[j * inStride] * std::sin(angle);
+    const auto mirror = [n, scale, stride = Size(outStride)](double* part) {
+        part[0] *= scale;
+        if (n % 2 == 0) part[n / 2 * stride] *= scale;
+        for (Size k = 1; k <= (n - 1) / 2; ++k) {
+            const double low = part[k * stride];
+            part[k * stride] = part[(n - k) * stride] * scale;
+            part[(n - k) * stride] = low * scale;
         }
-        out[k * outStride] = re;
-        if (k > 0 && 2 * k < n) out[(n - k) * outStride] = im;
-    }
+    };
+    mirror(outRe);
+    mirror(outIm);
     return status::kSuccess;
 }
-Status FftRealInverse(const FftPlan* plan, double* in, double* out, Count inStride, Count outStride,
-                      Count n) noexcept {
-    for (Size k = 0; k < n; ++k) in[k * inStride] *= 1.0 / n;
-    const auto hartley = [n](double* h, Size stride) {
+
+Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStride, Count outStride, Count n) noexcept {
+    if (n != plan->size) return status::kAlgorithmFailure;
+    if (n == 1) {
+        *out = *in;
+        return status::kSuccess;
+    }
+    return Decimation(RealRun{*plan, in, out, inStride, outStride}).Transform();
+}
+
+// By the Hartley transform, which is its own inverse: only forward kernels exist.
+Status FftRealInverse(const FftPlan* plan, double* in, double* out, Count inStride, Count outStride, Count n) noexcept {
+    if (n != plan->size) return status::kAlgorithmFailure;
+    const auto hartley = [n](double* h, Size stride, double scale) {
+        if (stride == 1) return kFftLoops().hartley(h, n, scale);
+        h[0] *= scale;
+        if (n % 2 == 0) h[n / 2 * stride] *= scale;
         for (Size k = 1; k < (Size(n) + 1) / 2; ++k) {
-            const double a = h[k * stride], b = h[(n - k) * stride];
+            const double a = h[k * stride] * scale, b = h[(n - k) * stride] * scale;
             h[k * stride] = a - b;
             h[(n - k) * stride] = a + b;
         }
     };
-    hartley(in, inStride);
-    FftReal(plan, in, out, inStride, outStride, n);
-    hartley(out, outStride);
+    hartley(in, inStride, 1.0 / n);
+    if (const Status status = FftReal(plan, in, out, inStride, outStride, n); status < 0) return status;
+    hartley(out, outStride, 1);
     return status::kSuccess;
 }
 

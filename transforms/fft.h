@@ -23,7 +23,6 @@ Status FftComplexInverse(const FftPlan* plan, const double* inRe, const double* 
 Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStride, Count outStride, Count n) noexcept;
 
 // HalfComplex into n reals. The input is destroyed.
-Status FftRealInverse(const FftPlan* plan, double* in, double* out, Count inStride, Count outStride,
-                      Count n) noexcept;
+Status FftRealInverse(const FftPlan* plan, double* in, double* out, Count inStride, Count outStride, Count n) noexcept;
 
 }  // namespace quorvan

@@ -1,9 +1,8 @@
 // The heap of the test build: counts blocks, and fails the k-th allocation from now on request.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 
 #include "frame/status.h"
 #include "frame/types.h"
@@ -18,8 +17,7 @@ long LiveBlocks();
 
 // Runs the call once in peace, then once for each allocation that it made, with that one failing. Every failed run
 // must give `expected` and keep no block; a last run must work again. `call` returns its status and keeps nothing.
-inline void ExpectEveryAllocationFails(const std::function<Status()>& call,
-                                       Status expected = status::kOutOfMemory) {
+inline void ExpectEveryAllocationFails(const std::function<Status()>& call, Status expected = status::kOutOfMemory) {
     FailAllocation(-1);
     const long live = LiveBlocks();
     const Status peaceful = call();

@@ -1,12 +1,11 @@
 // A caller's array with guard zones on both sides, checked when it goes.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <gtest/gtest.h>
 #include <initializer_list>
 #include <limits>
 #include <random>
@@ -28,8 +27,12 @@ public:
     explicit Guarded(std::size_t count, T fill = T{}) : count_(count), bytes_(kZone * 2 + count * sizeof(T), kMark) {
         std::fill(begin(), end(), fill);
     }
-    Guarded(std::initializer_list<T> values) : Guarded(values.size()) { std::copy(values.begin(), values.end(), begin()); }
-    explicit Guarded(const std::vector<T>& values) : Guarded(values.size()) { std::copy(values.begin(), values.end(), begin()); }
+    Guarded(std::initializer_list<T> values) : Guarded(values.size()) {
+        std::copy(values.begin(), values.end(), begin());
+    }
+    explicit Guarded(const std::vector<T>& values) : Guarded(values.size()) {
+        std::copy(values.begin(), values.end(), begin());
+    }
     Guarded(const Guarded&) = default;
     Guarded& operator=(const Guarded&) = default;
     ~Guarded() {

@@ -1,0 +1,49 @@
+#include "transforms/fft_loops.h"
+
+namespace quorvan::QV_TARGET {
+namespace {
+
+void MirrorRecords(double* records, Count n, double scale) {
+    records[0] *= scale;
+    records[1] *= scale;
+    const Count pairs = (n - 1) / 2;
+    for (Count k = 1; k <= pairs; ++k) {
+        double* low = records + 2 * Size(k);
+        double* high = records + 2 * Size(n - k);
+        const double re = low[0], im = low[1];
+        low[0] = high[0] * scale;
+        low[1] = high[1] * scale;
+        high[0] = re * scale;
+        high[1] = im * scale;
+    }
+    if (n % 2 == 0) {
+        records[n] *= scale;
+        records[n + 1] *= scale;
+    }
+}
+
+void Hartley(double* h, Count n, double scale) {
+    h[0] *= scale;
+    if (n % 2 == 0) h[n / 2] *= scale;
+    double* __restrict low = h + 1;
+    double* __restrict high = h + n - 1;
+    for (Count k = 0, pairs = (n - 1) / 2; k < pairs; ++k) {
+        const double a = low[k] * scale, b = high[-k] * scale;
+        low[k] = a - b;
+        high[-k] = a + b;
+    }
+}
+
+void ConjugateProduct(double* __restrict records, const double* __restrict re, const double* __restrict im, Count n) {
+    for (Count k = 0; k < n; ++k) {
+        const double x = records[2 * Size(k)], y = records[2 * Size(k) + 1];
+        records[2 * Size(k)] = x * re[k] - y * im[k];
+        records[2 * Size(k) + 1] = -(x * im[k] + y * re[k]);
+    }
+}
+
+}  // namespace
+
+const FftLoops kFftLoops = {MirrorRecords, Hartley, ConjugateProduct};
+
+}  // namespace quorvan::QV_TARGET

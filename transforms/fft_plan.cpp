@@ -1,0 +1,275 @@
+#include "transforms/fft_plan.h"
+
+#include <cstring>
+#include <utility>
+
+#include "frame/memory.h"
+#include "frame/platform.h"
+#include "frame/status.h"
+#include "transforms/fft.h"
+#include "transforms/fft_plan_record.h"
+#include "transforms/twiddles.h"
+
+namespace quorvan {
+namespace {
+
+// The live plans, newest first. Guarded by the plan mutex, like every refCount.
+FftPlan* plan_list = nullptr;
+
+// 10 stands first on purpose: it keeps decimal sizes on one kernel.
+constexpr Count kKernelSizes[] = {10, 43, 41, 37, 32, 31, 29, 19, 18, 17, 16, 14, 13, 11, 9, 8, 7, 5, 4, 3, 2};
+constexpr Count kFirstLargePrime = 50;
+
+FftPlan* CreateUnlocked(Count size) noexcept;
+void ReleaseUnlocked(FftPlan* plan) noexcept;
+
+template <class T>
+bool Allocate(T*& block, Size count) noexcept {
+    block = Block<T>(static_cast<std::size_t>(count)).release();
+    return block != nullptr;
+}
+
+void Append(FftPlan& plan, Count factor, FactorKind kind) noexcept {
+    plan.factors[plan.factorCount] = factor;
+    plan.kinds[plan.factorCount++] = kind;
+}
+
+void Factorise(FftPlan& plan) noexcept {
+    Count rest = plan.size;
+    for (Count kernel : kKernelSizes)
+        for (; rest > 1 && rest % kernel == 0; rest /= kernel) Append(plan, kernel, kKernelFactor);
+    if (rest >= 9) {
+        for (Size divisor = 3; divisor * divisor <= rest; divisor += 2)
+            for (; rest % divisor == 0; rest /= static_cast<Count>(divisor))
+                Append(plan, static_cast<Count>(divisor), divisor < kFirstLargePrime ? kGenericPrime : kLargePrime);
+    }
+    if (rest > 1) Append(plan, rest, rest < kFirstLargePrime ? kGenericPrime : kLargePrime);
+
+    for (Count i = 0; i < plan.factorCount; ++i)
+        for (Count j = i + 1; j < plan.factorCount; ++j)
+            if (plan.factors[j] < plan.factors[i]) {
+                std::swap(plan.factors[i], plan.factors[j]);
+                std::swap(plan.kinds[i], plan.kinds[j]);
+            }
+}
+
+void ChooseKernels(FftPlan& plan) noexcept {
+    for (Count i = 0; i < plan.factorCount; ++i) {
+        const FftKernel* kernel = kFftKernels().kernel(plan.factors[i]);
+        if (!kernel) continue;
+        plan.realLeafKernels[i] = kernel->realLeaf;
+        plan.realStageKernels[i] = kernel->realStage;
+        plan.leafKernels[i] = kernel->leaf;
+        plan.stageKernels[i] = kernel->stage;
+    }
+}
+
+Status MakeStages(FftPlan& plan) noexcept {
+    for (Count i = 0; i < plan.factorCount; ++i) {
+        if (!Allocate(plan.stages[i], 1)) return status::kOutOfMemory;
+        std::memset(static_cast<void*>(plan.stages[i]), 0, sizeof(FftStage));
+    }
+    return status::kSuccess;
+}
+
+// The twiddles once more, in the order in which the stage kernels read them.
+Status MakeBlockedTwiddles(FftStage& stage, Count f, Count m) noexcept {
+    const FftKernelTable& kernels = kFftKernels();
+    Size length = 0;
+    for (Count j = 0; j < m; j += kernels.blockWidth(m - j)) length += 2 * Size(f - 1) * kernels.blockWidth(m - j);
+    if (!Allocate(stage.blockedTwiddles, length)) return status::kOutOfMemory;
+    double* out = stage.blockedTwiddles;
+    for (Count j = 0; j < m;) {
+        const Count width = kernels.blockWidth(m - j);
+        for (Count lane = 0; lane < width; ++lane) {
+            const Count column = j + kernels.laneColumn(width, lane);
+            const Size row = Size(column - 1) * (f - 1);
+            for (Count r = 0; r < f - 1; ++r) {
+                const bool turned = column > 0 && column < m;
+                out[2 * width * r + lane] = turned ? stage.twiddleCos[row + r] : 1;
+                out[2 * width * r + width + lane] = turned ? stage.twiddleSin[row + r] : 0;
+            }
+        }
+        out += 2 * Size(f - 1) * width;
+        j += width;
+    }
+    return status::kSuccess;
+}
+
+Status MakeTwiddles(FftPlan& plan) noexcept {
+    Count length = plan.size;
+    for (Count i = 0; i + 1 < plan.factorCount; ++i) {
+        FftStage& stage = *plan.stages[i];
+        const Count f = plan.factors[i], m = length / f;
+        const Size entries = Size(f - 1) * (m - 1);
+        if (!Allocate(stage.twiddleCos, entries) || !Allocate(stage.twiddleSin, entries)) return status::kOutOfMemory;
+        StageTwiddles(kTwoPi / length, f, m - 1, stage.twiddleCos, stage.twiddleSin);
+        if (plan.kinds[i] != kLargePrime)
+            if (const Status status = MakeBlockedTwiddles(stage, f, m); status < 0) return status;
+        length = m;
+    }
+    return status::kSuccess;
+}
+
+Status MakePrimeTables(FftPlan& plan) noexcept {
+    for (Count i = 0; i < plan.factorCount; ++i) {
+        if (plan.kinds[i] != kGenericPrime) continue;
+        FftStage& stage = *plan.stages[i];
+        const Count f = plan.factors[i];
+        if (!Allocate(stage.primeCos, f) || !Allocate(stage.primeSin, f)) return status::kOutOfMemory;
+        UnitCircle(kTwoPi / f, false, f, stage.primeCos, stage.primeSin);
+    }
+    return status::kSuccess;
+}
+
+// The smallest g whose powers run through 1 to p - 1.
+Count PrimitiveRoot(Count p) noexcept {
+    for (Count g = 2; g < p; ++g) {
+        Size x = 1;
+        Count exponent = 0;
+        do {
+            x = x * g % p;
+            ++exponent;
+        } while (x != 1 && exponent < p - 1);
+        if (x == 1 && exponent == p - 1) return g;
+    }
+    return 1;
+}
+
+// Rader (1968): the DFT of a prime length p as a cyclic convolution of length p - 1 over the powers of a primitive
+// root.
+Status MakeLargePrime(FftStage& stage, Count p) noexcept {
+    const Count n = p - 1;
+    if (!Allocate(stage.raderGather, p) || !Allocate(stage.raderScatter, p) || !Allocate(stage.raderSpectrumRe, n) ||
+        !Allocate(stage.raderSpectrumIm, n))
+        return status::kOutOfMemory;
+    Count *gather = stage.raderGather, *scatter = stage.raderScatter;
+    gather[0] = scatter[0] = 0;
+    gather[1] = scatter[1] = 1;
+    Size power = 1;
+    for (Count k = 1, g = PrimitiveRoot(p); k < n; ++k) {
+        power = power * g % p;
+        scatter[k + 1] = gather[p - k] = static_cast<Count>(power);
+    }
+
+    stage.raderPlan = CreateUnlocked(n);
+    if (!stage.raderPlan) return status::kOutOfMemory;
+    Block<double> circle(2 * std::size_t(n)), sequence(2 * std::size_t(n));
+    if (!circle || !sequence) return status::kOutOfMemory;
+    UnitCircle(kTwoPi / p, true, n, circle, circle + n);
+    for (Count k = 0; k < n; ++k) {
+        sequence[k] = circle[scatter[k + 1] - 1] / n;
+        sequence[n + k] = circle[n + scatter[k + 1] - 1] / n;
+    }
+    return FftComplex(stage.raderPlan, sequence, sequence + n, stage.raderSpectrumRe, stage.raderSpectrumIm, 1, 1, n);
+}
+
+Status MakeLargePrimes(FftPlan& plan) noexcept {
+    for (Count i = 0; i < plan.factorCount; ++i)
+        if (plan.kinds[i] == kLargePrime)
+            if (const Status status = MakeLargePrime(*plan.stages[i], plan.factors[i]); status < 0) return status;
+    return status::kSuccess;
+}
+
+// Input t = t0 + f0 t1 + f0 f1 t2 + ... starts the leaf that stands at t0 n1 + t1 n2 + t2 n3 + ...
+Status MakeLeafPositions(FftPlan& plan) noexcept {
+    const Count last = plan.factorCount - 1;
+    if (last < 0) return status::kSuccess;
+    const Count leaves = plan.size / plan.factors[last];
+    if (!Allocate(plan.leafPositions, leaves)) return status::kOutOfMemory;
+    plan.leafPositions[0] = 0;
+    Count length = plan.size, made = 1;
+    for (Count i = 0; i < last; ++i) {
+        length /= plan.factors[i];
+        for (Count t = made; t < made * plan.factors[i]; ++t)
+            plan.leafPositions[t] = plan.leafPositions[t % made] + t / made * length;
+        made *= plan.factors[i];
+    }
+    return status::kSuccess;
+}
+
+void Free(FftPlan* plan) noexcept {
+    for (Count i = 0; i < plan->factorCount; ++i) {
+        FftStage* stage = plan->stages[i];
+        if (!stage) continue;
+        ReleaseUnlocked(stage->raderPlan);
+        HeapFree(stage->primeCos);
+        HeapFree(stage->primeSin);
+        HeapFree(stage->twiddleCos);
+        HeapFree(stage->twiddleSin);
+        HeapFree(stage->raderSpectrumRe);
+        HeapFree(stage->raderSpectrumIm);
+        HeapFree(stage->raderGather);
+        HeapFree(stage->raderScatter);
+        HeapFree(stage->blockedTwiddles);
+        HeapFree(stage);
+    }
+    HeapFree(plan->leafPositions);
+    HeapFree(plan);
+}
+
+Status Build(FftPlan& plan) noexcept {
+    using Step = Status (*)(FftPlan&) noexcept;
+    for (Step step : {MakeStages, MakeTwiddles, MakePrimeTables, MakeLargePrimes, MakeLeafPositions})
+        if (const Status status = step(plan); status < 0) return status;
+    return status::kSuccess;
+}
+
+FftPlan* CreateUnlocked(Count size) noexcept {
+    if (size < 1) return nullptr;
+    for (FftPlan* plan = plan_list; plan; plan = plan->next)
+        if (plan->size == size) {
+            ++plan->refCount;
+            return plan;
+        }
+    FftPlan* plan;
+    if (!Allocate(plan, 1)) return nullptr;
+    *plan = {};
+    plan->size = size;
+    Factorise(*plan);
+    ChooseKernels(*plan);
+    if (Build(*plan) < 0) {
+        Free(plan);
+        return nullptr;
+    }
+    plan->refCount = 1;
+    plan->next = plan_list;
+    if (plan_list) plan_list->prev = plan;
+    plan_list = plan;
+    return plan;
+}
+
+void ReleaseUnlocked(FftPlan* plan) noexcept {
+    if (!plan || --plan->refCount > 0) return;
+    (plan->prev ? plan->prev->next : plan_list) = plan->next;
+    if (plan->next) plan->next->prev = plan->prev;
+    Free(plan);
+}
+
+}  // namespace
+
+FftPlan* FftPlanCreate(Count size) noexcept {
+    const std::lock_guard lock(PlanMutex());
+    return CreateUnlocked(size);
+}
+
+void FftPlanRelease(FftPlan* plan) noexcept {
+    const std::lock_guard lock(PlanMutex());
+    ReleaseUnlocked(plan);
+}
+
+Count FftPlanSize(const FftPlan* plan) noexcept { return plan->size; }
+
+Count FftFastSize(Count n) noexcept {
+    if (n < 2) return n;
+    constexpr Count kLargest = 0x7FFFFFFF;
+    for (Count size = n;; ++size) {
+        Count rest = size;
+        for (Count prime : {2, 3, 5, 7, 11, 13, 17, 19, 29, 31, 37, 41, 43})
+            while (rest % prime == 0) rest /= prime;
+        if (rest == 1) return size;
+        if (size == kLargest) return n;  // no fast size fits: any size transforms
+    }
+}
+
+}  // namespace quorvan

@@ -1,0 +1,50 @@
+// The plan of one transform size, as the plan cache builds it and the cores and kernels read it.
+#pragma once
+
+#include "transforms/fft_plan.h"
+#include "transforms/kernels/kernels.h"
+
+namespace quorvan {
+
+// What one factor of a size needs; null where its kind does not.
+struct FftStage {
+    // Generic primes: cos(2 pi k / f) and -sin(2 pi k / f).
+    double* primeCos;
+    double* primeSin;
+    // All stages but the last: W(r, j) = exp(-2 pi i r j / n[i]) at (j - 1)(f - 1) + (r - 1), r = 1 to f - 1, j = 1 to
+    // m - 1.
+    double* twiddleCos;
+    double* twiddleSin;
+    // Large primes: the plan of f - 1, the transformed sequence of the convolution, and the index tables.
+    FftPlan* raderPlan;
+    double* raderSpectrumRe;
+    double* raderSpectrumIm;
+    Count* raderGather;
+    Count* raderScatter;
+    // A copy of the twiddles in the order in which the stage kernels take their blocks of columns, column 0 included:
+    // for each block, for each r, the cosines of its lanes and then the sines.
+    double* blockedTwiddles;
+};
+
+inline constexpr int kMaxFactors = 20;
+
+enum FactorKind : Count { kKernelFactor = 0, kGenericPrime = 1, kLargePrime = 2 };
+
+struct FftPlan {
+    Count size;
+    Count refCount;
+    Count factors[kMaxFactors];  // ascending
+    Count kinds[kMaxFactors];
+    Count factorCount;  // 0 for size 1
+    FftStage* stages[kMaxFactors];
+    RealLeafKernel realLeafKernels[kMaxFactors];
+    RealStageKernel realStageKernels[kMaxFactors];
+    ComplexLeafKernel leafKernels[kMaxFactors];
+    ComplexStageKernel stageKernels[kMaxFactors];
+    FftPlan* prev;
+    FftPlan* next;
+    // Where the leaf transform that starts at input t stands in the output.
+    Count* leafPositions;
+};
+
+}  // namespace quorvan

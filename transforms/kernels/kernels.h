@@ -1,0 +1,43 @@
+// The kernel tables of a plan: for each kernel size four entries, chosen for the instruction set when a plan is made.
+#pragma once
+
+#include "frame/targets.h"
+#include "frame/types.h"
+
+namespace quorvan {
+
+struct FftStage;
+
+// `count` transforms of the factor's length. Element k of transform t is read at t * inStride + k * elementStride;
+// the transform is written from positions[t] * outStride on with stride outStride.
+using ComplexLeafKernel = void (*)(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride,
+                                   Size outStride, Count count, Size elementStride, const Count* positions,
+                                   const FftStage& stage);
+
+// Merges f adjacent transforms of length m into one, in place: column j of m takes its twiddles and an f-point DFT.
+using ComplexStageKernel = void (*)(double* re, double* im, Size stride, Count m, const FftStage& stage);
+
+// The same on real data and HalfComplex blocks.
+using RealLeafKernel = void (*)(const double* in, double* out, Size inStride, Size outStride, Count count,
+                                Size elementStride, const Count* positions, const FftStage& stage);
+using RealStageKernel = void (*)(double* data, Size stride, Count m, const FftStage& stage);
+
+struct FftKernel {
+    ComplexLeafKernel leaf;
+    ComplexStageKernel stage;
+    RealLeafKernel realLeaf;
+    RealStageKernel realStage;
+};
+
+// The kernels of one instruction set.
+struct FftKernelTable {
+    // Null for a factor without a kernel.
+    const FftKernel* (*kernel)(Count factor);
+    // How many adjacent columns the stage kernels take at once when `left` are left of a row.
+    Count (*blockWidth)(Count left);
+    // The column that stands in this lane of a block.
+    Count (*laneColumn)(Count width, Count lane);
+};
+QV_DECLARE_TARGETS(FftKernelTable, kFftKernels)
+
+}  // namespace quorvan

@@ -1,0 +1,261 @@
+// Vectors of W doubles for the kernels: one set of operations, for each width that the instruction set has.
+//
+// A block of W adjacent complex numbers becomes one vector of real and one of imaginary parts. Its lanes stand in the
+// order that a single unpack leaves, column (lane % 2) * W/2 + lane / 2, so that taking records apart and putting them
+// together costs one shuffle a vector. Split and real data, which stand in natural order, pay one permutation instead.
+//
+// Operations on lanes [first, last) touch no memory outside them.
+#pragma once
+
+#include "frame/types.h"
+
+#if defined(__SSE2__)
+#include <immintrin.h>
+#endif
+
+#define QV_INLINE inline __attribute__((always_inline))
+#define QV_INLINE_LAMBDA __attribute__((always_inline))
+
+namespace quorvan::QV_TARGET {
+namespace {
+
+template <int W>
+struct Lanes;
+
+constexpr Count LaneColumn(Count width, Count lane) { return width == 1 ? 0 : (lane % 2) * (width / 2) + lane / 2; }
+
+#if defined(__SSE2__)
+
+template <>
+struct Lanes<2> {
+    using V = __m128d;
+
+    QV_INLINE static void LoadRecords(const double* p, V& re, V& im) {
+        const V a = _mm_loadu_pd(p), b = _mm_loadu_pd(p + 2);
+        re = _mm_unpacklo_pd(a, b);
+        im = _mm_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void LoadRecords(const double* p, int count, V& re, V& im) {
+        const V a = _mm_loadu_pd(p), b = count > 1 ? _mm_loadu_pd(p + 2) : V{};
+        re = _mm_unpacklo_pd(a, b);
+        im = _mm_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void StoreRecords(double* p, V re, V im) {
+        _mm_storeu_pd(p, _mm_unpacklo_pd(re, im));
+        _mm_storeu_pd(p + 2, _mm_unpackhi_pd(re, im));
+    }
+    QV_INLINE static void StoreRecords(double* p, int count, V re, V im) {
+        _mm_storeu_pd(p, _mm_unpacklo_pd(re, im));
+        if (count > 1) _mm_storeu_pd(p + 2, _mm_unpackhi_pd(re, im));
+    }
+    QV_INLINE static V Load(const double* p) { return _mm_loadu_pd(p); }
+    QV_INLINE static V Load(const double* p, int first, int last) {
+        return _mm_set_pd(last > 1 ? p[1] : 0.0, first < 1 ? p[0] : 0.0);
+    }
+    QV_INLINE static void Store(double* p, V v) { _mm_storeu_pd(p, v); }
+    QV_INLINE static void Store(double* p, int first, int last, V v) {
+        if (first < 1) _mm_storel_pd(p, v);
+        if (last > 1) _mm_storeh_pd(p + 1, v);
+    }
+    QV_INLINE static V ToLanes(V v) { return v; }
+    QV_INLINE static V FromLanes(V v) { return v; }
+    QV_INLINE static V Reverse(V v) { return _mm_shuffle_pd(v, v, 1); }
+
+    // From the lanes of a block of transforms to the records of each of them.
+    QV_INLINE static void TransposeRecords(const V* re, const V* im, V* rows) {
+        rows[0] = _mm_unpacklo_pd(re[0], im[0]);
+        rows[1] = _mm_unpackhi_pd(re[0], im[0]);
+    }
+    QV_INLINE static void Transpose(V* v) {
+        const V a = _mm_unpacklo_pd(v[0], v[1]);
+        v[1] = _mm_unpackhi_pd(v[0], v[1]);
+        v[0] = a;
+    }
+};
+
+#else
+
+template <>
+struct Lanes<1> {
+    using V = double;
+
+    QV_INLINE static void LoadRecords(const double* p, V& re, V& im) { re = p[0], im = p[1]; }
+    QV_INLINE static void LoadRecords(const double* p, int, V& re, V& im) { re = p[0], im = p[1]; }
+    QV_INLINE static void StoreRecords(double* p, V re, V im) { p[0] = re, p[1] = im; }
+    QV_INLINE static void StoreRecords(double* p, int, V re, V im) { p[0] = re, p[1] = im; }
+    QV_INLINE static V Load(const double* p) { return *p; }
+    QV_INLINE static V Load(const double* p, int first, int last) { return first < last ? *p : 0.0; }
+    QV_INLINE static void Store(double* p, V v) { *p = v; }
+    QV_INLINE static void Store(double* p, int first, int last, V v) {
+        if (first < last) *p = v;
+    }
+    QV_INLINE static V ToLanes(V v) { return v; }
+    QV_INLINE static V FromLanes(V v) { return v; }
+    QV_INLINE static V Reverse(V v) { return v; }
+    QV_INLINE static void Transpose(V*) {}
+};
+
+#endif
+
+#if defined(__AVX2__)
+
+template <>
+struct Lanes<4> {
+    using V = __m256d;
+
+    // All bits set in the lanes [first, last).
+    QV_INLINE static __m256i Mask(int first, int last) {
+        const __m256i lane = _mm256_set_epi64x(3, 2, 1, 0);
+        return _mm256_andnot_si256(_mm256_cmpgt_epi64(_mm256_set1_epi64x(first), lane),
+                                   _mm256_cmpgt_epi64(_mm256_set1_epi64x(last), lane));
+    }
+    QV_INLINE static void LoadRecords(const double* p, V& re, V& im) {
+        const V a = _mm256_loadu_pd(p), b = _mm256_loadu_pd(p + 4);
+        re = _mm256_unpacklo_pd(a, b);
+        im = _mm256_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void LoadRecords(const double* p, int count, V& re, V& im) {
+        const V a = _mm256_maskload_pd(p, Mask(0, 2 * count)), b = _mm256_maskload_pd(p + 4, Mask(0, 2 * count - 4));
+        re = _mm256_unpacklo_pd(a, b);
+        im = _mm256_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void StoreRecords(double* p, V re, V im) {
+        _mm256_storeu_pd(p, _mm256_unpacklo_pd(re, im));
+        _mm256_storeu_pd(p + 4, _mm256_unpackhi_pd(re, im));
+    }
+    QV_INLINE static void StoreRecords(double* p, int count, V re, V im) {
+        _mm256_maskstore_pd(p, Mask(0, 2 * count), _mm256_unpacklo_pd(re, im));
+        _mm256_maskstore_pd(p + 4, Mask(0, 2 * count - 4), _mm256_unpackhi_pd(re, im));
+    }
+    QV_INLINE static V Load(const double* p) { return _mm256_loadu_pd(p); }
+    QV_INLINE static V Load(const double* p, int first, int last) { return _mm256_maskload_pd(p, Mask(first, last)); }
+    QV_INLINE static void Store(double* p, V v) { _mm256_storeu_pd(p, v); }
+    QV_INLINE static void Store(double* p, int first, int last, V v) { _mm256_maskstore_pd(p, Mask(first, last), v); }
+    QV_INLINE static V ToLanes(V v) { return _mm256_permute4x64_pd(v, 0b11'01'10'00); }
+    QV_INLINE static V FromLanes(V v) { return _mm256_permute4x64_pd(v, 0b11'01'10'00); }
+    QV_INLINE static V Reverse(V v) { return _mm256_permute4x64_pd(v, 0b00'01'10'11); }
+
+    QV_INLINE static void TransposeRecords(const V* re, const V* im, V* rows) {
+        const V a = _mm256_unpacklo_pd(re[0], im[0]), b = _mm256_unpacklo_pd(re[1], im[1]);
+        const V c = _mm256_unpackhi_pd(re[0], im[0]), d = _mm256_unpackhi_pd(re[1], im[1]);
+        rows[0] = _mm256_permute2f128_pd(a, b, 0x20);
+        rows[1] = _mm256_permute2f128_pd(a, b, 0x31);
+        rows[2] = _mm256_permute2f128_pd(c, d, 0x20);
+        rows[3] = _mm256_permute2f128_pd(c, d, 0x31);
+    }
+    QV_INLINE static void Transpose(V* v) {
+        const V a = _mm256_unpacklo_pd(v[0], v[1]), b = _mm256_unpackhi_pd(v[0], v[1]);
+        const V c = _mm256_unpacklo_pd(v[2], v[3]), d = _mm256_unpackhi_pd(v[2], v[3]);
+        v[0] = _mm256_permute2f128_pd(a, c, 0x20);
+        v[1] = _mm256_permute2f128_pd(b, d, 0x20);
+        v[2] = _mm256_permute2f128_pd(a, c, 0x31);
+        v[3] = _mm256_permute2f128_pd(b, d, 0x31);
+    }
+};
+
+#endif
+
+#if defined(__AVX512F__)
+
+template <>
+struct Lanes<8> {
+    using V = __m512d;
+
+    QV_INLINE static __mmask8 Mask(int first, int last) {
+        const unsigned below = last <= 0 ? 0u : last >= 8 ? 0xFFu : (1u << last) - 1;
+        return static_cast<__mmask8>(below & (0xFFu << first));
+    }
+    QV_INLINE static void LoadRecords(const double* p, V& re, V& im) {
+        const V a = _mm512_loadu_pd(p), b = _mm512_loadu_pd(p + 8);
+        re = _mm512_unpacklo_pd(a, b);
+        im = _mm512_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void LoadRecords(const double* p, int count, V& re, V& im) {
+        const V a = _mm512_maskz_loadu_pd(Mask(0, 2 * count), p);
+        const V b = _mm512_maskz_loadu_pd(Mask(0, 2 * count - 8), p + 8);
+        re = _mm512_unpacklo_pd(a, b);
+        im = _mm512_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void StoreRecords(double* p, V re, V im) {
+        _mm512_storeu_pd(p, _mm512_unpacklo_pd(re, im));
+        _mm512_storeu_pd(p + 8, _mm512_unpackhi_pd(re, im));
+    }
+    QV_INLINE static void StoreRecords(double* p, int count, V re, V im) {
+        _mm512_mask_storeu_pd(p, Mask(0, 2 * count), _mm512_unpacklo_pd(re, im));
+        _mm512_mask_storeu_pd(p + 8, Mask(0, 2 * count - 8), _mm512_unpackhi_pd(re, im));
+    }
+    QV_INLINE static V Load(const double* p) { return _mm512_loadu_pd(p); }
+    QV_INLINE static V Load(const double* p, int first, int last) {
+        return _mm512_maskz_loadu_pd(Mask(first, last), p);
+    }
+    QV_INLINE static void Store(double* p, V v) { _mm512_storeu_pd(p, v); }
+    QV_INLINE static void Store(double* p, int first, int last, V v) { _mm512_mask_storeu_pd(p, Mask(first, last), v); }
+    QV_INLINE static V ToLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 3, 6, 2, 5, 1, 4, 0), v); }
+    QV_INLINE static V FromLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 5, 3, 1, 6, 4, 2, 0), v); }
+    QV_INLINE static V Reverse(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(0, 1, 2, 3, 4, 5, 6, 7), v); }
+
+    QV_INLINE static void TransposePairs(V a, V b, V c, V d, V* rows) {
+        const V ab0 = _mm512_shuffle_f64x2(a, b, 0b01'00'01'00), ab1 = _mm512_shuffle_f64x2(a, b, 0b11'10'11'10);
+        const V cd0 = _mm512_shuffle_f64x2(c, d, 0b01'00'01'00), cd1 = _mm512_shuffle_f64x2(c, d, 0b11'10'11'10);
+        rows[0] = _mm512_shuffle_f64x2(ab0, cd0, 0b10'00'10'00);
+        rows[1] = _mm512_shuffle_f64x2(ab0, cd0, 0b11'01'11'01);
+        rows[2] = _mm512_shuffle_f64x2(ab1, cd1, 0b10'00'10'00);
+        rows[3] = _mm512_shuffle_f64x2(ab1, cd1, 0b11'01'11'01);
+    }
+    QV_INLINE static void TransposeRecords(const V* re, const V* im, V* rows) {
+        TransposePairs(_mm512_unpacklo_pd(re[0], im[0]), _mm512_unpacklo_pd(re[1], im[1]),
+                       _mm512_unpacklo_pd(re[2], im[2]), _mm512_unpacklo_pd(re[3], im[3]), rows);
+        TransposePairs(_mm512_unpackhi_pd(re[0], im[0]), _mm512_unpackhi_pd(re[1], im[1]),
+                       _mm512_unpackhi_pd(re[2], im[2]), _mm512_unpackhi_pd(re[3], im[3]), rows + 4);
+    }
+    QV_INLINE static void Transpose(V* v) {
+        V even[4], odd[4], low[4], high[4];
+        for (int i = 0; i < 4; ++i) {
+            even[i] = _mm512_unpacklo_pd(v[2 * i], v[2 * i + 1]);
+            odd[i] = _mm512_unpackhi_pd(v[2 * i], v[2 * i + 1]);
+        }
+        TransposePairs(even[0], even[1], even[2], even[3], low);
+        TransposePairs(odd[0], odd[1], odd[2], odd[3], high);
+        for (int i = 0; i < 4; ++i) {
+            v[2 * i] = low[i];
+            v[2 * i + 1] = high[i];
+        }
+    }
+};
+
+inline constexpr Count kMaxWidth = 8;
+#elif defined(__AVX2__)
+inline constexpr Count kMaxWidth = 4;
+#elif defined(__SSE2__)
+inline constexpr Count kMaxWidth = 2;
+#else
+inline constexpr Count kMaxWidth = 1;
+#endif
+
+// The narrowest vector that takes all that is left, or the widest one.
+constexpr Count BlockWidth(Count left) {
+    if (kMaxWidth == 8 && left > 4) return 8;
+    if (kMaxWidth >= 4 && left > 2) return 4;
+    return kMaxWidth == 1 ? 1 : 2;
+}
+
+// Calls body.template operator()<W>() with the W that BlockWidth gives.
+template <class Body>
+QV_INLINE void WithBlockWidth(Count left, const Body& body) {
+    switch (BlockWidth(left)) {
+#if defined(__AVX512F__)
+        case 8: body.template operator()<8>(); break;
+#endif
+#if defined(__AVX2__)
+        case 4: body.template operator()<4>(); break;
+#endif
+#if defined(__SSE2__)
+        default: body.template operator()<2>();
+#else
+        default: body.template operator()<1>();
+#endif
+    }
+}
+
+}  // namespace
+}  // namespace quorvan::QV_TARGET
