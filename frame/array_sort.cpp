@@ -1,5 +1,6 @@
 #include "frame/array_sort.h"
 
+#include <bit>
 #include <cstring>
 #include <limits>
 
@@ -32,7 +33,8 @@ Status ArrSort(double* x, Count n, std::uint32_t direction, double* out) noexcep
     if (n == 1) return status::kSuccess;
     const Count front = GatherNaN(out, n), rest = n - front;
     if (rest < 2) return status::kSuccess;
-    kArraySort().ascending(out + front, rest);
+    const int halvings = std::bit_width(static_cast<std::uint32_t>(rest));
+    kArraySort().ascending(out + front, rest, 2 * halvings);
     if (direction != 0) kArrayLoops().reverse(out + front, rest, out + front);
     return status::kSuccess;
 }

@@ -7,7 +7,8 @@
 namespace quorvan {
 
 struct ArraySort {
-    void (*ascending)(double* x, Count n);
+    // `levels` bounds the depth of division; what is still long then is left to heapsort.
+    void (*ascending)(double* x, Count n, int levels);
 };
 QV_DECLARE_TARGETS(ArraySort, kArraySort)
 

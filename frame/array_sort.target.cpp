@@ -232,14 +232,14 @@ void HeapSort(double* x, std::ptrdiff_t n) {
     }
 }
 
-// Recurses into the left part and goes on with the right one; `depth` bounds both.
-void SortRange(double* x, std::ptrdiff_t n, int depth) {
+// Recurses into the left part and goes on with the right one.
+void SortRange(double* x, std::ptrdiff_t n, int levels) {
     while (n > kShort) {
-        if (depth-- == 0) return HeapSort(x, n);
+        if (levels-- == 0) return HeapSort(x, n);
         const double pivot = ChoosePivot(x, n);
         std::ptrdiff_t left = Partition(x, n, Below{pivot});
         if (left > 0)
-            SortRange(x, left, depth);
+            SortRange(x, left, levels);
         else
             left = Partition(x, n, NotAbove{pivot});  // the pivot is the smallest: all that equal it are in place now
         x += left;
@@ -248,10 +248,7 @@ void SortRange(double* x, std::ptrdiff_t n, int depth) {
     if (n > 1) SortShort(x, n);
 }
 
-void SortAscending(double* x, Count n) {
-    const int levels = 32 - __builtin_clz(static_cast<unsigned>(n) | 1);
-    SortRange(x, n, 2 * levels);
-}
+void SortAscending(double* x, Count n, int levels) { SortRange(x, n, levels); }
 
 }  // namespace
 
