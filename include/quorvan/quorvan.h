@@ -1088,6 +1088,112 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup gamma Gamma, beta and related functions
+ * Scalar functions of real arguments, returned as the value itself: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
+ * Where an argument goes by address, a null pointer selects the complete function; the address of 0.0 does not.
+ * @{
+ */
+
+/**
+ * SpecBeta.
+ * Null x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). At poles NaN or +Inf, as the Gammas give.
+ * Otherwise the regularised incomplete beta function I_x(a, b), the integral of t^(a-1) (1-t)^(b-1) from 0 to x over B(a, b).
+ * I_x(a, b) is NaN for a <= 0, b <= 0 or x outside [0, 1]; it is 0 at x = 0 and 1 at x = 1.
+ * @param a first parameter; above 0 for the incomplete function
+ * @param b second parameter; above 0 for the incomplete function
+ * @param x read, may be null: upper limit of the integral, 0 to 1; null selects the complete function
+ */
+QV_API double ZemFunc307(double a, double b, const double* x);
+#define QvSpecBeta ZemFunc307
+
+/**
+ * SpecFactorial.
+ * n! = 1 * 2 * ... * n; NaN below 0, +Inf above 170.
+ * n is a number, not a size: it is not narrowed.
+ * @param n any integer
+ */
+QV_API double ZemFunc308(int64_t n);
+#define QvSpecFactorial ZemFunc308
+
+/**
+ * SpecGamma.
+ * Null x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725.
+ * Otherwise the regularised incomplete gamma function P(a, x), the integral of t^(a-1) e^-t from 0 to x over Gamma(a).
+ * P(a, x) is NaN for a <= 0 or x < 0; it is 0 at x = 0 and 1 at x = +Inf.
+ * Gamma at 1 - 2^-52 and at 2 - 2^-52 is given as 0.5; callers rely on the loops that lead there.
+ * @param a the argument; above 0 for the incomplete function
+ * @param x read, may be null: upper limit of the integral, at least 0; null selects the complete function
+ * @code
+ * double x = 1.5, gamma = QvSpecGamma(0.5, NULL), p = QvSpecGamma(0.5, &x);
+ * @endcode
+ */
+QV_API double ZemFunc309(double a, const double* x);
+#define QvSpecGamma ZemFunc309
+
+/**
+ * SpecIncompleteGammaComplement.
+ * Q(a, x) = 1 - P(a, x), the integral of t^(a-1) e^-t from x to infinity over Gamma(a).
+ * NaN for a <= 0 or x < 0; 1 at x = 0 and 0 at x = +Inf.
+ * @param a above 0
+ * @param x lower limit of the integral, at least 0
+ */
+QV_API double ZemFunc310(double a, double x);
+#define QvSpecIncompleteGammaComplement ZemFunc310
+
+/**
+ * SpecLnFactorial.
+ * ln n!
+ * @param n any
+ */
+QV_API double ZemFunc311(uint32_t n);
+#define QvSpecLnFactorial ZemFunc311
+
+/**
+ * SpecLnGamma.
+ * ln |Gamma(x)|. 0, negative integers, and x above 2.556348e305 give +Inf.
+ * @param x any
+ */
+QV_API double ZemFunc312(double x);
+#define QvSpecLnGamma ZemFunc312
+
+/**
+ * SpecDigamma.
+ * psi(x), the derivative of ln Gamma(x). 0, negative integers and -Inf give NaN.
+ * @param x any
+ */
+QV_API double ZemFunc313(double x);
+#define QvSpecDigamma ZemFunc313
+
+/**
+ * SpecGammaStirling.
+ * sqrt(2 pi) x^(x - 1/2) e^-x (1 + 1/(12 x) + ...), Stirling's formula for Gamma(x) with five terms.
+ * +Inf above 709.7827128933. Nothing is refused: below 33 the five terms are simply too few.
+ * @param x above 0; the formula is meant for x > 33
+ */
+QV_API double ZemFunc314(double x);
+#define QvSpecGammaStirling ZemFunc314
+
+/**
+ * SpecDilogarithm.
+ * Spence's integral, the integral of -ln t / (t - 1) from 1 to x, which is Li2(1 - x).
+ * NaN below 0; pi^2/6 at 0, 0 at 1.
+ * @param x at least 0
+ */
+QV_API double ZemFunc326(double x);
+#define QvSpecDilogarithm ZemFunc326
+
+/**
+ * SpecZeta.
+ * The Riemann zeta function minus 1: the 1 is left out because it would hide the rest for large x.
+ * +Inf at 1, 0 from 127 on, NaN below -30.8148.
+ * @param x any
+ */
+QV_API double ZemFunc329(double x);
+#define QvSpecZeta ZemFunc329
+
+/** @} */
+
 /** @defgroup generators Waveform generators
  * Each fills an array of n samples with a deterministic signal and keeps no state of its own.
  * The periodic waves take their phase in degrees by address and leave there the phase of the sample behind the
