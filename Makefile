@@ -1,6 +1,8 @@
 # The front door. Each target installs what is missing (tools/packages.sh), configures its preset, builds and runs.
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
+# Debian's own, which the packages of tools/packages.sh belong to.
+PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 
 .PHONY: help demo check check-sanitizers check-all bench picture format tidy install clean
 
@@ -44,12 +46,12 @@ check-all: check-sanitizers
 bench:
 	@tools/packages.sh build bench
 	$(call built,bench)
-	/usr/bin/env python3 bench/run.py
+	$(PYTHON) bench/run.py
 
 picture:
 	@tools/packages.sh build picture
 	$(call built,demo)
-	/usr/bin/env python3 tools/picture.py --library build/demo/libquorvan.so
+	$(PYTHON) tools/picture.py --library build/demo/libquorvan.so
 
 format:
 	@tools/packages.sh format
