@@ -14,6 +14,7 @@ std::vector<double> WithoutMean(const Recording& recording) {
     std::vector<double> centred(x.size());
     double mean;
     Check(QvStatMean(x.data(), Size(x), &mean));
+    // With an output of its own the call only reads its input.
     Check(QvArrLinearEval(const_cast<double*>(x.data()), Size(x), 1.0, -mean, centred.data()));
     return centred;
 }

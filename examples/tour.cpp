@@ -2,11 +2,14 @@
 //
 //     tour                 the recording that comes with the examples, then the tones
 //     tour FILE [RATE]     the same readings from your own CSV file; RATE in samples per second, 1 if not given
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "analysis.h"
 #include "picture.h"
