@@ -1,6 +1,6 @@
 #include "frame/array_loops.h"
 
-#include "frame/lanes.h"
+#include "frame/wide.h"
 
 namespace quorvan::QV_TARGET {
 namespace {
@@ -8,8 +8,8 @@ namespace {
 void Fill(double value, Count n, double* out) {
     const bool far = Far(n, RealSink{out});
     std::ptrdiff_t i = 0;
-    for (; i < n && !LaneAligned(out + i); ++i) out[i] = value;
-    const Lanes values = Like(Lanes{}, value);
+    for (; i < n && !WideAligned(out + i); ++i) out[i] = value;
+    const Wide values = Like(Wide{}, value);
     if (far) {
         for (; i + kLanes <= n; i += kLanes) Stream(out + i, values);
         StreamEnd();
@@ -45,7 +45,7 @@ void Multiply(const double* x, const double* y, Count n, double* out) {
 }
 
 bool HasZero(const double* y, std::ptrdiff_t first, std::ptrdiff_t last) {
-    LaneBits zeros{};
+    WideBits zeros{};
     for (; first + kLanes <= last; first += kLanes) zeros |= Load(y + first) == 0;
     bool rest = false;
     for (; first < last; ++first) rest |= y[first] == 0;

@@ -16,7 +16,7 @@ namespace {
 Count GatherNaN(double* x, Count n) noexcept {
     Count front = 0;
     while (front < n && x[front] != x[front]) ++front;
-    for (Count i = front + 1; i < n; ++i) {
+    for (Size i = Size{front} + 1; i < n; ++i) {
         if (x[i] == x[i]) continue;
         x[i] = x[front];
         x[front++] = std::numeric_limits<double>::quiet_NaN();

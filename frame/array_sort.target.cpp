@@ -4,7 +4,7 @@
 // heapsort (D. R. Musser, Introspective sorting, 1997), so that no input takes quadratic time.
 #include "frame/array_sort.h"
 
-#include "frame/lanes.h"
+#include "frame/wide.h"
 
 namespace quorvan::QV_TARGET {
 namespace {
@@ -16,8 +16,8 @@ constexpr int TopBit(int v) { return 1 << (31 - __builtin_clz(static_cast<unsign
 
 // The register with the element of lane i ^ flip in lane i.
 template <int flip>
-QV_INLINE Lanes Flipped(Lanes v) {
-    LaneBits from;
+QV_INLINE Wide Flipped(Wide v) {
+    WideBits from;
     for (int i = 0; i < kLanes; ++i) from[i] = i ^ flip;
     return flip ? __builtin_shuffle(v, from) : v;
 }
@@ -25,21 +25,21 @@ QV_INLINE Lanes Flipped(Lanes v) {
 // Compares each element e with element e ^ flip; the smaller one goes to the lower place. Min and Max each keep their
 // second argument on equality, so that zeros of different sign change places, and neither is lost.
 template <int registers, int flip>
-QV_INLINE void CompareExchange(Lanes (&v)[registers]) {
+QV_INLINE void CompareExchange(Wide (&v)[registers]) {
     constexpr int kLaneFlip = flip % kLanes, kRegisterFlip = flip / kLanes;
     if constexpr (kRegisterFlip == 0) {
         constexpr int kTop = TopBit(kLaneFlip);
-        LaneBits upper;
+        WideBits upper;
         for (int i = 0; i < kLanes; ++i) upper[i] = i & kTop ? -1 : 0;
         for (int r = 0; r < registers; ++r) {
-            const Lanes partner = Flipped<kLaneFlip>(v[r]);
+            const Wide partner = Flipped<kLaneFlip>(v[r]);
             v[r] = upper ? Max(v[r], partner) : Min(v[r], partner);
         }
     } else {
         constexpr int kTop = TopBit(kRegisterFlip);
         for (int r = 0; r < registers; ++r) {
             if (r & kTop) continue;
-            const Lanes low = v[r], high = Flipped<kLaneFlip>(v[r ^ kRegisterFlip]);
+            const Wide low = v[r], high = Flipped<kLaneFlip>(v[r ^ kRegisterFlip]);
             v[r] = Min(low, high);
             v[r ^ kRegisterFlip] = Flipped<kLaneFlip>(Max(high, low));
         }
@@ -48,7 +48,7 @@ QV_INLINE void CompareExchange(Lanes (&v)[registers]) {
 
 // From bitonic runs of 2 * distance elements to sorted ones.
 template <int registers, int distance>
-QV_INLINE void MergeRuns(Lanes (&v)[registers]) {
+QV_INLINE void MergeRuns(Wide (&v)[registers]) {
     if constexpr (distance > 0) {
         CompareExchange<registers, distance>(v);
         MergeRuns<registers, distance / 2>(v);
@@ -58,7 +58,7 @@ QV_INLINE void MergeRuns(Lanes (&v)[registers]) {
 // Sorted runs of `run` elements become sorted runs of twice the length, until one is left. The first step meets the
 // second run from its end: this makes two ascending runs bitonic.
 template <int registers, int run = 1>
-QV_INLINE void SortRegisters(Lanes (&v)[registers]) {
+QV_INLINE void SortRegisters(Wide (&v)[registers]) {
     if constexpr (run < registers * kLanes) {
         CompareExchange<registers, 2 * run - 1>(v);
         MergeRuns<registers, run / 2>(v);
@@ -69,9 +69,9 @@ QV_INLINE void SortRegisters(Lanes (&v)[registers]) {
 // Sorts up to registers * kLanes elements; infinities fill up the registers.
 template <int registers>
 void SortPadded(double* x, std::ptrdiff_t n) {
-    Lanes v[registers];
+    Wide v[registers];
     double padded[registers * kLanes];
-    for (int r = 0; r < registers; ++r) Store(padded + r * kLanes, Like(Lanes{}, __builtin_inf()));
+    for (int r = 0; r < registers; ++r) Store(padded + r * kLanes, Like(Wide{}, __builtin_inf()));
     __builtin_memcpy(padded, x, static_cast<std::size_t>(n) * sizeof(double));
     for (int r = 0; r < registers; ++r) v[r] = Load(padded + r * kLanes);
     SortRegisters<registers>(v);
@@ -98,12 +98,12 @@ double ChoosePivot(const double* x, std::ptrdiff_t n) {
 struct Below {
     double pivot;
     bool operator()(double v) const { return v < pivot; }
-    QV_INLINE LaneBits operator()(Lanes v) const { return v < pivot; }
+    QV_INLINE WideBits operator()(Wide v) const { return v < pivot; }
 };
 struct NotAbove {
     double pivot;
     bool operator()(double v) const { return v <= pivot; }
-    QV_INLINE LaneBits operator()(Lanes v) const { return v <= pivot; }
+    QV_INLINE WideBits operator()(Wide v) const { return v <= pivot; }
 };
 
 // Lomuto's partition of the elements first to last - 1, `boundary` being where the left ones end so far.
@@ -122,16 +122,16 @@ std::ptrdiff_t PartitionRest(double* x, std::ptrdiff_t boundary, std::ptrdiff_t 
 #if defined(QV_TARGET_avx512) || defined(QV_TARGET_avx2)
 
 #if defined(QV_TARGET_avx512)
-QV_INLINE unsigned Mask(LaneBits bits) { return _mm512_movepi64_mask(__m512i(bits)); }
+QV_INLINE unsigned Mask(WideBits bits) { return _mm512_movepi64_mask(__m512i(bits)); }
 
 // The lanes of the mask first, then the others.
-QV_INLINE Lanes Parted(Lanes v, unsigned mask, int left) {
+QV_INLINE Wide Parted(Wide v, unsigned mask, int left) {
     const __m512d lower = _mm512_maskz_compress_pd(static_cast<__mmask8>(mask), v);
     const __m512d upper = _mm512_maskz_compress_pd(static_cast<__mmask8>(~mask), v);
     return _mm512_mask_expand_pd(lower, static_cast<__mmask8>(0xFF << left), upper);
 }
 #else
-QV_INLINE unsigned Mask(LaneBits bits) { return static_cast<unsigned>(_mm256_movemask_pd(__m256d(bits))); }
+QV_INLINE unsigned Mask(WideBits bits) { return static_cast<unsigned>(_mm256_movemask_pd(__m256d(bits))); }
 
 struct PartingTable {
     alignas(32) std::int32_t halves[16][8];
@@ -149,9 +149,9 @@ struct PartingTable {
 };
 constexpr PartingTable kParting;
 
-QV_INLINE Lanes Parted(Lanes v, unsigned mask, int) {
+QV_INLINE Wide Parted(Wide v, unsigned mask, int) {
     const __m256i order = _mm256_load_si256(reinterpret_cast<const __m256i*>(kParting.halves[mask]));
-    return Lanes(_mm256_castsi256_pd(_mm256_permutevar8x32_epi32(_mm256_castpd_si256(v), order)));
+    return Wide(_mm256_castsi256_pd(_mm256_permutevar8x32_epi32(_mm256_castpd_si256(v), order)));
 }
 #endif
 
@@ -162,10 +162,10 @@ struct Gap {
     double* upper;
 
     template <class GoesLeft>
-    QV_INLINE void put(Lanes v, GoesLeft goes_left) {
+    QV_INLINE void put(Wide v, GoesLeft goes_left) {
         const unsigned mask = Mask(goes_left(v));
         const int left = __builtin_popcount(mask);
-        const Lanes parted = Parted(v, mask, left);
+        const Wide parted = Parted(v, mask, left);
         Store(lower, parted);
         Store(upper - kLanes, parted);
         lower += left;
@@ -183,7 +183,7 @@ std::ptrdiff_t Partition(double* x, std::ptrdiff_t n, GoesLeft goes_left) {
     const std::ptrdiff_t whole = n - n % kChunk;
     double* read_lower = x + kChunk;
     double* read_upper = x + whole - kChunk;
-    Lanes first[kTurns], last[kTurns];
+    Wide first[kTurns], last[kTurns];
     for (int t = 0; t < kTurns; ++t) {
         first[t] = Load(x + t * kLanes);
         last[t] = Load(read_upper + t * kLanes);
@@ -194,7 +194,7 @@ std::ptrdiff_t Partition(double* x, std::ptrdiff_t n, GoesLeft goes_left) {
         read_upper -= from_lower ? 0 : kChunk;
         const double* chunk = from_lower ? read_lower : read_upper;
         read_lower += from_lower ? kChunk : 0;
-        Lanes v[kTurns];
+        Wide v[kTurns];
         for (int t = 0; t < kTurns; ++t) v[t] = Load(chunk + t * kLanes);
         for (int t = 0; t < kTurns; ++t) gap.put(v[t], goes_left);
     }

@@ -1,7 +1,7 @@
 #include "frame/complex_loops.h"
 
 #include "frame/complex.h"
-#include "frame/lanes.h"
+#include "frame/wide.h"
 
 namespace quorvan::QV_TARGET {
 namespace {

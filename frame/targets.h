@@ -13,7 +13,7 @@
 
 // For a small function in a header that such units include too: it belongs to the instruction set of its caller, and no
 // copy of its own ever reaches the linker.
-#define QV_INLINE [[gnu::always_inline]] inline
+#define QV_INLINE inline __attribute__((always_inline))
 
 namespace quorvan {
 

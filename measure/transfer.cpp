@@ -2,9 +2,9 @@
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 #include "frame/complex.h"
-#include "frame/entry.h"
 #include "frame/memory.h"
 #include "frame/status.h"
 #include "measure/bin_power.h"
@@ -107,7 +107,7 @@ private:
 Status SpecNetworkAnalysis(const double* stimulus, const double* response, Count n, Count frames, double dt,
                            const NetworkResult& result) noexcept {
     if (n < 1 || frames < 1) return status::kSamplesNotPositive;
-    if (!SizeNarrow(static_cast<Size>(n) * frames)) return status::kOverflow;
+    if (frames > std::numeric_limits<Count>::max() / n) return status::kOverflow;
     Block<double> work(6 * static_cast<std::size_t>(n));
     if (!work) return status::kOutOfMemory;
     double* const spectrumX = work;

@@ -1,7 +1,7 @@
 // The Dolph-Chebyshev window: all sidelobes at one height, built from its spectrum.
 //
 // W[k] = T_{N-1}(x0 cos(pi k / N)) with x0 = cosh(acosh(R) / (N - 1)), where T is the Chebyshev polynomial and R the
-// ratio of main lobe to sidelobes. C. L. Dolph, Proc. IRE 34 (1946); R. L. Streit, IEEE Trans. ASSP 32 (1984).
+// ratio of main lobe to sidelobes. C. L. Dolph, Proc. IRE 34 (1946).
 #include <cmath>
 
 #include "frame/entry.h"

@@ -57,7 +57,7 @@ Status WinBartlettHanning(T* x, Count n) noexcept {
     });
 }
 
-// sin(2 pi k / n) / pi - (2 k / n) cos(2 pi k / n), k up to n / 2. Harris 1978, equation 39.
+// sin(2 pi k / n) / pi - (2 k / n) cos(2 pi k / n), k up to n / 2. F. J. Harris, Proc. IEEE 66 (1978).
 template <class T>
 Status WinBohman(T* x, Count n) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
@@ -68,8 +68,8 @@ Status WinBohman(T* x, Count n) noexcept {
     });
 }
 
-// With h = n / 2 and d = |k - h|: 2 (1 - d/h)^3 beyond h / 2, 1 - 6 d^2/h^2 + 6 d^3/h^3 within. Harris 1978,
-// equation 37.
+// With h = n / 2 and d = |k - h|: 2 (1 - d/h)^3 beyond h / 2, 1 - 6 d^2/h^2 + 6 d^3/h^3 within. F. J. Harris,
+// Proc. IEEE 66 (1978).
 template <class T>
 Status WinParzen(T* x, Count n) noexcept {
     if (n < 1) return status::kSamplesNotPositive;

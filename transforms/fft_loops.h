@@ -13,6 +13,8 @@ struct FftLoops {
     void (*hartley)(double* h, Count n, double scale);
     // records[k] = conj(records[k] * (re[k], im[k])).
     void (*conjugateProduct)(double* records, const double* re, const double* im, Count n);
+    // records[k] = conj(records[k] * factors[k]).
+    void (*conjugateRecordProduct)(double* records, const double* factors, Count n);
 };
 QV_DECLARE_TARGETS(FftLoops, kFftLoops)
 

@@ -42,8 +42,16 @@ void ConjugateProduct(double* __restrict records, const double* __restrict re, c
     }
 }
 
+void ConjugateRecordProduct(double* __restrict records, const double* __restrict factors, Count n) {
+    for (Size k = 0; k < 2 * Size(n); k += 2) {
+        const double x = records[k], y = records[k + 1];
+        records[k] = x * factors[k] - y * factors[k + 1];
+        records[k + 1] = -(x * factors[k + 1] + y * factors[k]);
+    }
+}
+
 }  // namespace
 
-const FftLoops kFftLoops = {MirrorRecords, Hartley, ConjugateProduct};
+const FftLoops kFftLoops = {MirrorRecords, Hartley, ConjugateProduct, ConjugateRecordProduct};
 
 }  // namespace quorvan::QV_TARGET

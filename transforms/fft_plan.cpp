@@ -1,5 +1,6 @@
 #include "transforms/fft_plan.h"
 
+#include <cmath>
 #include <cstring>
 #include <utility>
 
@@ -136,6 +137,50 @@ Count PrimitiveRoot(Count p) noexcept {
     return 1;
 }
 
+// What a pass of one factor costs a point, roughly, in nanoseconds of a wide machine.
+double PassCost(Count factor) noexcept { return factor == 32 ? 0.8 : factor <= 18 ? 0.6 : 0.02 * factor + 0.5; }
+
+// A size from `wanted` up, not much above it, on which the kernels are fast: few passes, few large odd factors.
+Count PaddedSize(Count wanted) noexcept {
+    constexpr Count kStep = 64, kMostCandidates = 4096;
+    Count best = FftFastSize(wanted);
+    double bestCost = HUGE_VAL;
+    Size size = (Size(wanted) + kStep - 1) / kStep * kStep;
+    for (Count i = 0; i < kMostCandidates && size <= 0x7FFFFFFF && size <= wanted + Size(wanted) / 4 + kStep;
+         ++i, size += kStep) {
+        FftPlan candidate = {};
+        candidate.size = static_cast<Count>(size);
+        Factorise(candidate);
+        double cost = 0;
+        for (Count k = 0; k < candidate.factorCount; ++k)
+            cost += candidate.kinds[k] == kKernelFactor ? PassCost(candidate.factors[k]) : HUGE_VAL;
+        if (cost * double(size) < bestCost) {
+            best = candidate.size;
+            bestCost = cost * double(size);
+        }
+    }
+    return best;
+}
+
+// Where the plan of n would recur into further large primes, the cyclic convolution of length n is done on a fast size
+// M: with the sequence repeated backwards behind 0, so that its linear convolution holds the cyclic one in 0 to n - 1.
+Status MakePaddedConvolution(FftStage& stage, Count n, const double* sequence) noexcept {
+    const Size wanted = 2 * Size(n) - 1;
+    if (wanted > 0x7FFFFFFF) return status::kSuccess;  // the recursion does it
+    const Count size = PaddedSize(static_cast<Count>(wanted));
+    stage.paddedPlan = CreateUnlocked(size);
+    Block<double> padded(2 * std::size_t(size));
+    if (!stage.paddedPlan || !Allocate(stage.paddedSpectrum, 2 * Size(size)) || !padded) return status::kOutOfMemory;
+    // The sequence carries 1/n for the inverse of length n; here the inverse is of length `size`.
+    const double scale = double(n) / size;
+    for (Size k = 0; k < size; ++k) {
+        const Size from = k < n ? k : k > size - n ? k - (size - n) : -1;
+        padded[2 * k] = from < 0 ? 0 : sequence[from] * scale;
+        padded[2 * k + 1] = from < 0 ? 0 : sequence[n + from] * scale;
+    }
+    return FftComplex(stage.paddedPlan, padded, padded + 1, stage.paddedSpectrum, stage.paddedSpectrum + 1, 2, 2, size);
+}
+
 // Rader (1968): the DFT of a prime length p as a cyclic convolution of length p - 1 over the powers of a primitive
 // root.
 Status MakeLargePrime(FftStage& stage, Count p) noexcept {
@@ -161,7 +206,12 @@ Status MakeLargePrime(FftStage& stage, Count p) noexcept {
         sequence[k] = circle[scatter[k + 1] - 1] / n;
         sequence[n + k] = circle[n + scatter[k + 1] - 1] / n;
     }
-    return FftComplex(stage.raderPlan, sequence, sequence + n, stage.raderSpectrumRe, stage.raderSpectrumIm, 1, 1, n);
+    if (const Status status =
+            FftComplex(stage.raderPlan, sequence, sequence + n, stage.raderSpectrumRe, stage.raderSpectrumIm, 1, 1, n);
+        status < 0)
+        return status;
+    if (stage.raderPlan->kinds[stage.raderPlan->factorCount - 1] != kLargePrime) return status::kSuccess;
+    return MakePaddedConvolution(stage, n, sequence);
 }
 
 Status MakeLargePrimes(FftPlan& plan) noexcept {
@@ -193,6 +243,8 @@ void Free(FftPlan* plan) noexcept {
         FftStage* stage = plan->stages[i];
         if (!stage) continue;
         ReleaseUnlocked(stage->raderPlan);
+        ReleaseUnlocked(stage->paddedPlan);
+        HeapFree(stage->paddedSpectrum);
         HeapFree(stage->primeCos);
         HeapFree(stage->primeSin);
         HeapFree(stage->twiddleCos);

@@ -21,6 +21,10 @@ struct FftStage {
     double* raderSpectrumIm;
     Count* raderGather;
     Count* raderScatter;
+    // Large primes whose f - 1 has a large prime factor itself: the plan of a fast size of at least 2 (f - 1) - 1, on
+    // which the convolution runs zero-padded, and the spectrum of its sequence there, as records.
+    FftPlan* paddedPlan;
+    double* paddedSpectrum;
     // A copy of the twiddles in the order in which the stage kernels take their blocks of columns, column 0 included:
     // for each block, for each r, the cosines of its lanes and then the sines.
     double* blockedTwiddles;

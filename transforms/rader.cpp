@@ -1,5 +1,7 @@
 #include "transforms/rader.h"
 
+#include <cstring>
+
 #include "frame/memory.h"
 #include "frame/status.h"
 #include "transforms/fft.h"
@@ -8,32 +10,39 @@
 namespace quorvan {
 namespace {
 
-// The workspace of one prime: two record arrays of n = p - 1, and the column that a stage gathers.
+// The workspace of one prime: two record arrays as long as the convolution, and the column that a stage gathers.
 class Workspace {
 public:
-    Workspace(Count p, bool withColumn) noexcept
-        : n_(p - 1), block_((withColumn ? 6 : 4) * static_cast<std::size_t>(p)) {}
+    Workspace(const FftStage& stage, Count p, bool withColumn) noexcept
+        : length_(stage.paddedPlan ? stage.paddedPlan->size : p - 1),
+          block_(4 * static_cast<std::size_t>(length_) + (withColumn ? 2 * static_cast<std::size_t>(p) : 0)) {}
     explicit operator bool() const noexcept { return static_cast<bool>(block_); }
     double* sequence() const noexcept { return block_; }
-    double* spectrum() const noexcept { return block_ + 2 * Size(n_); }
-    double* column() const noexcept { return block_ + 4 * Size(n_ + 1); }
+    double* spectrum() const noexcept { return block_ + 2 * Size(length_); }
+    double* column() const noexcept { return block_ + 4 * Size(length_); }
 
 private:
-    Count n_;
+    Count length_;
     Block<double> block_;
 };
 
-// From the gathered records in work.sequence() to the cyclic convolution, conjugated, in work.spectrum().
-Status Convolve(const FftStage& stage, Count n, const Workspace& work) noexcept {
+// From the n gathered records in work.sequence() to their cyclic convolution, conjugated, in the same place, and to
+// their sum, which is the spectrum at 0.
+Status Convolve(const FftStage& stage, Count n, const Workspace& work, ComplexRecord& sum) noexcept {
     double *sequence = work.sequence(), *spectrum = work.spectrum();
-    if (const Status status = FftComplex(stage.raderPlan, sequence, sequence + 1, spectrum, spectrum + 1, 2, 2, n);
+    const FftPlan* plan = stage.paddedPlan ? stage.paddedPlan : stage.raderPlan;
+    const Count length = plan->size;
+    if (length > n) std::memset(sequence + 2 * Size(n), 0, 2 * sizeof(double) * static_cast<std::size_t>(length - n));
+    if (const Status status = FftComplex(plan, sequence, sequence + 1, spectrum, spectrum + 1, 2, 2, length);
         status < 0)
         return status;
-    kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, n);
-    if (const Status status = FftComplex(stage.raderPlan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, n);
-        status < 0)
-        return status;
-    return status::kSuccess;
+    sum = {spectrum[0], spectrum[1]};
+    if (stage.paddedPlan) {
+        kFftLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum, length);
+    } else {
+        kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, length);
+    }
+    return FftComplex(plan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, length);
 }
 
 // One complex DFT of length p. The input may be the output.
@@ -41,16 +50,16 @@ Status Transform(const double* inRe, const double* inIm, double* outRe, double* 
                  const FftStage& stage, Count p, const Workspace& work) noexcept {
     const Count n = p - 1;
     const double firstRe = inRe[0], firstIm = inIm[0];
-    double totalRe = firstRe, totalIm = firstIm;
     double* sequence = work.sequence();
     for (Count q = 0; q < n; ++q) {
         const Size from = stage.raderGather[q + 1] * inStride;
-        totalRe += sequence[2 * Size(q)] = inRe[from];
-        totalIm += sequence[2 * Size(q) + 1] = inIm[from];
+        sequence[2 * Size(q)] = inRe[from];
+        sequence[2 * Size(q) + 1] = inIm[from];
     }
-    if (const Status status = Convolve(stage, n, work); status < 0) return status;
-    outRe[0] = totalRe;
-    outIm[0] = totalIm;
+    ComplexRecord sum;
+    if (const Status status = Convolve(stage, n, work, sum); status < 0) return status;
+    outRe[0] = firstRe + sum.re;
+    outIm[0] = firstIm + sum.im;
     for (Count q = 0; q < n; ++q) {
         const Size to = stage.raderScatter[q + 1] * outStride;
         outRe[to] = firstRe + sequence[2 * Size(q)];
@@ -62,25 +71,31 @@ Status Transform(const double* inRe, const double* inIm, double* outRe, double* 
 // One real DFT of length p into HalfComplex: the first transform of the convolution is real too.
 Status TransformReal(const double* in, double* out, Size inStride, Size outStride, const FftStage& stage, Count p,
                      const Workspace& work) noexcept {
-    const Count n = p - 1, half = n / 2;  // n is even
+    const Count n = p - 1;
+    const FftPlan* plan = stage.paddedPlan ? stage.paddedPlan : stage.raderPlan;
+    const Count length = plan->size;
     const double first = in[0];
-    double total = first;
     double *sequence = work.sequence(), *spectrum = work.spectrum();
-    for (Count q = 0; q < n; ++q) total += sequence[q] = in[stage.raderGather[q + 1] * inStride];
-    if (const Status status = FftReal(stage.raderPlan, sequence, sequence + n, 1, 1, n); status < 0) return status;
-    const double* h = sequence + n;
+    for (Count q = 0; q < n; ++q) sequence[q] = in[stage.raderGather[q + 1] * inStride];
+    for (Count q = n; q < length; ++q) sequence[q] = 0;
+    double* h = sequence + length;
+    if (const Status status = FftReal(plan, sequence, h, 1, 1, length); status < 0) return status;
     spectrum[0] = h[0], spectrum[1] = 0;
-    spectrum[n] = h[half], spectrum[n + 1] = 0;
-    for (Count k = 1; k < half; ++k) {
-        spectrum[2 * Size(k)] = spectrum[2 * Size(n - k)] = h[k];
-        spectrum[2 * Size(k) + 1] = h[n - k];
-        spectrum[2 * Size(n - k) + 1] = -h[n - k];
+    for (Size k = 1; 2 * k <= length; ++k) {
+        const Size mirror = length - k;
+        spectrum[2 * k] = spectrum[2 * mirror] = h[k];
+        spectrum[2 * k + 1] = k < mirror ? h[mirror] : 0;
+        spectrum[2 * mirror + 1] = -spectrum[2 * k + 1];
     }
-    kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, n);
-    if (const Status status = FftComplex(stage.raderPlan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, n);
+    out[0] = first + h[0];
+    if (stage.paddedPlan) {
+        kFftLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum, length);
+    } else {
+        kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, length);
+    }
+    if (const Status status = FftComplex(plan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, length);
         status < 0)
         return status;
-    out[0] = total;
     for (Count q = 0; q < n; ++q) {
         const Count t = stage.raderScatter[q + 1];
         if (t > p / 2) continue;
@@ -107,7 +122,7 @@ void TurnColumn(double* column, const FftStage& stage, Size j, Count p) noexcept
 Status RaderComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride,
                         Size outStride, Count count, Size elementStride, const Count* positions, const FftStage& stage,
                         Count p) noexcept {
-    const Workspace work(p, false);
+    const Workspace work(stage, p, false);
     if (!work) return status::kOutOfMemory;
     for (Count t = 0; t < count; ++t) {
         const Size out = positions[t] * outStride;
@@ -121,7 +136,7 @@ Status RaderComplexLeaf(const double* inRe, const double* inIm, double* outRe, d
 
 Status RaderRealLeaf(const double* in, double* out, Size inStride, Size outStride, Count count, Size elementStride,
                      const Count* positions, const FftStage& stage, Count p) noexcept {
-    const Workspace work(p, false);
+    const Workspace work(stage, p, false);
     if (!work) return status::kOutOfMemory;
     for (Count t = 0; t < count; ++t)
         if (const Status status = TransformReal(in + t * inStride, out + positions[t] * outStride, elementStride,
@@ -132,7 +147,7 @@ Status RaderRealLeaf(const double* in, double* out, Size inStride, Size outStrid
 }
 
 Status RaderComplexStage(double* re, double* im, Size stride, Count m, const FftStage& stage, Count p) noexcept {
-    const Workspace work(p, true);
+    const Workspace work(stage, p, true);
     if (!work) return status::kOutOfMemory;
     double* column = work.column();
     for (Size j = 0; j < m; ++j) {
@@ -150,7 +165,7 @@ Status RaderComplexStage(double* re, double* im, Size stride, Count m, const Fft
 }
 
 Status RaderRealStage(double* data, Size stride, Count m, const FftStage& stage, Count p) noexcept {
-    const Workspace work(p, true);
+    const Workspace work(stage, p, true);
     if (!work) return status::kOutOfMemory;
     double* column = work.column();
     const Size length = Size(p) * m;

@@ -1207,6 +1207,7 @@ QV_API double ZemFunc329(double x);
  * GenSineWave.
  * Sine wave, out[i] = amp sin(2 pi freq i + phase).
  * The samples come from a coupled recurrence of sine and cosine; sines are held within [-|amp|, |amp|].
+ * @param n samples
  * @param amp amplitude
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -1223,6 +1224,7 @@ QV_API QvStatus ZemFunc159(int64_t n, double amp, double freq, double* phase, do
 /**
  * GenSinePattern.
  * Sine of a number of cycles over the array: GenSineWave with the frequency cycles / n.
+ * @param n samples
  * @param amp amplitude
  * @param phase degrees, of the first sample
  * @param cycles cycles in the array, any number
@@ -1236,6 +1238,7 @@ QV_API QvStatus ZemFunc158(int64_t n, double amp, double phase, double cycles, d
  * GenSquareWave.
  * Square wave: amp while the phase is below 3.6 duty degrees, then -amp.
  * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param n samples
  * @param amp the high level; the low one is -amp
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -1250,6 +1253,7 @@ QV_API QvStatus ZemFunc165(int64_t n, double amp, double freq, double* phase, do
  * GenTriangleWave.
  * Triangle wave: 0 at phase 0, amp at 90 degrees, -amp at 270 degrees, straight between.
  * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param n samples
  * @param amp amplitude
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -1263,6 +1267,7 @@ QV_API QvStatus ZemFunc179(int64_t n, double amp, double freq, double* phase, do
  * GenSawtoothWave.
  * Sawtooth wave: rises from 0 at phase 0 towards amp at 180 degrees, jumps to -amp and rises back to 0.
  * The phase of sample i is i 360 freq + phase, computed afresh for each sample.
+ * @param n samples
  * @param amp amplitude
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
@@ -1277,11 +1282,13 @@ QV_API QvStatus ZemFunc151(int64_t n, double amp, double freq, double* phase, do
  * Plays the period stored in a table.
  * The phase is accumulated from sample to sample in units of table cells.
  * A size below 1 gives zeros and a phase of 0. Positions beyond 2^53 periods stay within the table.
+ * @param n samples
  * @param amp factor of the table's values
  * @param freq cycles per sample
  * @param phase read and written: degrees, of the first sample; then of the sample behind the last
  * @param table read, [size]: one period
- * @param interpolation 1 interpolates linearly, from the last cell towards the first; any other value takes the cell as it is
+ * @param size of the table
+ * @param interpolation 1 interpolates linearly, from the last cell towards the first; else the cell as it is
  * @param out written, [n]
  * @retval -20003 n is below 1
  * @retval -20068 phase or freq is infinite or NaN
@@ -1292,6 +1299,7 @@ QV_API QvStatus ZemFunc9(int64_t n, double amp, double freq, double* phase, cons
 /**
  * GenChirp.
  * Sine with a linearly changing frequency, out[i] = amp sin((i (f2 - f1) pi / n + 2 pi f1) i).
+ * @param n samples
  * @param amp amplitude
  * @param f1 cycles per sample at the first sample
  * @param f2 cycles per sample at sample n, the one behind the last
@@ -1305,7 +1313,10 @@ QV_API QvStatus ZemFunc28(int64_t n, double amp, double f1, double f2, double* o
  * GenPulsePattern.
  * Rectangular pulse: amp at the width samples from delay on, 0 elsewhere.
  * delay + width may be n; a width of 0 leaves zeros. -20046 follows if delay or width does not fit 32 bits.
+ * @param n samples
  * @param amp height
+ * @param delay first sample of the pulse
+ * @param width samples in the pulse
  * @param out written, [n]
  * @retval -20003 n is below 1
  * @retval -20014 delay or width is negative, or delay + width exceeds n
@@ -1316,7 +1327,9 @@ QV_API QvStatus ZemFunc141(int64_t n, double amp, int64_t delay, int64_t width, 
 /**
  * GenImpulsePattern.
  * Impulse: amp at the sample index, 0 elsewhere. -20046 follows if index does not fit 32 bits.
+ * @param n samples
  * @param amp height
+ * @param index sample of the impulse
  * @param out written, [n]
  * @retval -20003 n is below 1
  * @retval -20017 index is outside 0 to n - 1
@@ -1328,6 +1341,7 @@ QV_API QvStatus ZemFunc93(int64_t n, double amp, int64_t index, double* out);
  * GenRampPattern.
  * Linear ramp, out[i] = first + i (last - first) / (n - 1).
  * One sample is allowed if first equals last.
+ * @param n samples
  * @param first value of the first sample
  * @param last value of the last sample, exactly
  * @param out written, [n]
@@ -1339,6 +1353,7 @@ QV_API QvStatus ZemFunc145(int64_t n, double first, double last, double* out);
 /**
  * GenTrianglePattern.
  * One isosceles triangle from 0 at the first sample; an odd n ends on 0, an even one just before.
+ * @param n samples
  * @param amp peak, at sample n / 2
  * @param out written, [n]
  * @retval -20006 n is below 2
@@ -1349,6 +1364,7 @@ QV_API QvStatus ZemFunc178(int64_t n, double amp, double* out);
 /**
  * GenSincPattern.
  * Sinc pulse, out[i] = amp sin(pi t) / (pi t) with t = i dt - delay.
+ * @param n samples
  * @param amp peak
  * @param delay time of the peak, in the unit of dt
  * @param dt time between samples
@@ -1363,6 +1379,7 @@ QV_API QvStatus ZemFunc157(int64_t n, double amp, double delay, double dt, doubl
  * GenPeriodicSincPattern.
  * Periodic sinc (Dirichlet kernel), out[i] = amp sin(order x) / (order sin x) with x = (i dt - delay) / 2.
  * Where |sin x| is at most 2.220446049250313e-16 the value is amp, also for an even order where the limit is -amp.
+ * @param n samples
  * @param amp peak
  * @param delay time of a peak, in the unit of dt
  * @param dt time between samples
@@ -1377,7 +1394,9 @@ QV_API QvStatus ZemFunc349(int64_t n, double amp, double delay, double dt, int32
 
 /**
  * GenGaussianModulatedSine.
- * Sine under a Gaussian, out[i] = amp exp(a u^2) cos(2 u) with u = pi centre t, a = -5 bandwidth^2 / (attenuation ln 10).
+ * Sine under a Gaussian, out[i] = amp exp(a u^2) cos(2 u) with u = pi centre t.
+ * The width follows from a = -5 bandwidth^2 / (attenuation ln 10).
+ * @param n samples
  * @param amp peak
  * @param delay time of the peak, in the unit of dt
  * @param dt time between samples
@@ -1395,6 +1414,7 @@ QV_API QvStatus ZemFunc348(int64_t n, double amp, double delay, double dt, doubl
 /**
  * GenGaussianMonopulse.
  * Gaussian monopulse, out[i] = 2 sqrt(e) amp u exp(-2 u^2) with u = pi centre t.
+ * @param n samples
  * @param amp extreme values amp and -amp
  * @param delay time of the zero between them, in the unit of dt
  * @param dt time between samples
@@ -1411,6 +1431,7 @@ QV_API QvStatus ZemFunc347(int64_t n, double amp, double delay, double dt, doubl
  * GenSkewedTrianglePulse.
  * Triangular pulse: rises from 0 at t = 0 to amp at t = skew width and falls to 0 at t = width; 0 elsewhere.
  * A skew of 0 starts at amp, a skew of 1 ends at amp.
+ * @param n samples
  * @param amp height of the apex
  * @param delay start of the pulse, in the unit of dt
  * @param dt time between samples
@@ -2334,6 +2355,7 @@ QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, Qv
  * Multiplies data by the Hanning window, w[i] = 0.5 - 0.5 cos(2 pi i / n).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  * @code
@@ -2348,6 +2370,7 @@ QV_API QvStatus ZemFunc89(double* x, int64_t n);
  * WinHanningComplex (WinHanning).
  * Multiplies complex data by the window of WinHanning: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2359,6 +2382,7 @@ QV_API QvStatus ZemFunc430(QvComplex* x, int64_t n);
  * Multiplies data by the Hamming window, w[i] = 0.54 - 0.46 cos(2 pi i / n).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2369,6 +2393,7 @@ QV_API QvStatus ZemFunc88(double* x, int64_t n);
  * WinHammingComplex (WinHamming).
  * Multiplies complex data by the window of WinHamming: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2380,6 +2405,7 @@ QV_API QvStatus ZemFunc431(QvComplex* x, int64_t n);
  * Multiplies data by the three-term Blackman-Harris window, the cosine sum of 0.42323, 0.49755, 0.07922.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2390,6 +2416,7 @@ QV_API QvStatus ZemFunc15(double* x, int64_t n);
  * WinBlackmanHarris3Complex (WinBlackmanHarris3).
  * Multiplies complex data by the window of WinBlackmanHarris3: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2401,6 +2428,7 @@ QV_API QvStatus ZemFunc433(QvComplex* x, int64_t n);
  * Multiplies data by the exact Blackman window, the cosine sum of 7938/18608, 9240/18608, 1430/18608.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2411,6 +2439,7 @@ QV_API QvStatus ZemFunc72(double* x, int64_t n);
  * WinExactBlackmanComplex (WinExactBlackman).
  * Multiplies complex data by the window of WinExactBlackman: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2422,6 +2451,7 @@ QV_API QvStatus ZemFunc435(QvComplex* x, int64_t n);
  * Multiplies data by the Blackman window, the cosine sum of 0.42, 0.5, 0.08.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2432,6 +2462,7 @@ QV_API QvStatus ZemFunc14(double* x, int64_t n);
  * WinBlackmanComplex (WinBlackman).
  * Multiplies complex data by the window of WinBlackman: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2440,9 +2471,11 @@ QV_API QvStatus ZemFunc432(QvComplex* x, int64_t n);
 
 /**
  * WinFlatTop.
- * Multiplies data by the flat top window, the cosine sum of 0.215578948, 0.41663158, 0.277263158, 0.083578947, 0.006947368.
+ * Multiplies data by the flat top window, the cosine sum of 0.215578948, 0.41663158, 0.277263158,
+ * 0.083578947, 0.006947368.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2453,6 +2486,7 @@ QV_API QvStatus ZemFunc80(double* x, int64_t n);
  * WinFlatTopComplex (WinFlatTop).
  * Multiplies complex data by the window of WinFlatTop: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2464,6 +2498,7 @@ QV_API QvStatus ZemFunc436(QvComplex* x, int64_t n);
  * Multiplies data by the Blackman-Nuttall window, the cosine sum of 0.3635819, 0.4891775, 0.1365995, 0.0106411.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2474,6 +2509,7 @@ QV_API QvStatus ZemFunc336(double* x, int64_t n);
  * WinBlackmanNuttallComplex (WinBlackmanNuttall).
  * Multiplies complex data by the window of WinBlackmanNuttall: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2485,6 +2521,7 @@ QV_API QvStatus ZemFunc434(QvComplex* x, int64_t n);
  * Multiplies data by w[i] = sum over k of (-1)^k a[k] cos(2 pi k i / n).
  * n = 1, and a single coefficient of exactly 1, leave the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param a read, [count]: coefficients, all positive for the usual windows
  * @param count number of coefficients, any
  * @retval -20003 n is below 1, or count is 0 and n above 1
@@ -2497,6 +2534,7 @@ QV_API QvStatus ZemFunc85(double* x, int64_t n, const double* a, uint32_t count)
  * WinCosineSumComplex (WinCosineSum).
  * Multiplies complex data by the window of WinCosineSum: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param a read, [count]: coefficients, all positive for the usual windows
  * @param count number of coefficients, any
  * @retval -20003 n is below 1, or count is 0 and n above 1
@@ -2508,8 +2546,10 @@ QV_API QvStatus ZemFunc437(QvComplex* x, int64_t n, const double* a, uint32_t co
 /**
  * WinCosineTaper.
  * Fades the share ratio of the samples, half at each end, by sin^2(pi i / (2 m)), m = ratio n / 2 cut to an integer.
- * Symmetric: sample i and sample n - 1 - i have one factor; the two outermost become 0. n = 1 leaves the data unchanged.
+ * Symmetric: sample i and sample n - 1 - i have one factor; the two outermost become 0.
+ * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param ratio share of the samples; from 1 on the Hanning window, up to 0 nothing
  * @retval -20003 n is below 1
  * @retval -20001 out of memory, with a ratio of 1 or more
@@ -2521,6 +2561,7 @@ QV_API QvStatus ZemFunc278(double* x, int64_t n, double ratio);
  * WinCosineTaperComplex (WinCosineTaper).
  * Multiplies complex data by the window of WinCosineTaper: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param ratio share of the samples; from 1 on the Hanning window, up to 0 nothing
  * @retval -20003 n is below 1
  * @retval -20001 out of memory, with a ratio of 1 or more
@@ -2532,6 +2573,7 @@ QV_API QvStatus ZemFunc438(QvComplex* x, int64_t n, double ratio);
  * WinCosineTaper20.
  * Fades a tenth of the samples at each end: WinCosineTaper with the ratio 0.2.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  */
 QV_API QvStatus ZemFunc35(double* x, int64_t n);
@@ -2542,6 +2584,7 @@ QV_API QvStatus ZemFunc35(double* x, int64_t n);
  * Multiplies data by the triangle window, w[k] = w[n - k] = 2 k / n.
  * n = 1 makes the sample 0.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  */
 QV_API QvStatus ZemFunc180(double* x, int64_t n);
@@ -2551,6 +2594,7 @@ QV_API QvStatus ZemFunc180(double* x, int64_t n);
  * WinTriangleComplex (WinTriangle).
  * Multiplies complex data by the window of WinTriangle: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  */
 QV_API QvStatus ZemFunc439(QvComplex* x, int64_t n);
@@ -2561,6 +2605,7 @@ QV_API QvStatus ZemFunc439(QvComplex* x, int64_t n);
  * Multiplies data by the Bartlett-Hanning window, w[k] = 0.62 - 0.48 |k/n - 0.5| - 0.38 cos(2 pi k / n), w[0] = 0.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2571,6 +2616,7 @@ QV_API QvStatus ZemFunc343(double* x, int64_t n);
  * WinBartlettHanningComplex (WinBartlettHanning).
  * Multiplies complex data by the window of WinBartlettHanning: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2582,6 +2628,7 @@ QV_API QvStatus ZemFunc446(QvComplex* x, int64_t n);
  * Multiplies data by the Bohman window, w[k] = w[n - k] = sin(2 pi k / n) / pi - (2 k / n) cos(2 pi k / n).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2592,6 +2639,7 @@ QV_API QvStatus ZemFunc344(double* x, int64_t n);
  * WinBohmanComplex (WinBohman).
  * Multiplies complex data by the window of WinBohman: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2600,9 +2648,11 @@ QV_API QvStatus ZemFunc447(QvComplex* x, int64_t n);
 
 /**
  * WinParzen.
- * Multiplies data by the Parzen window; with d = |2 k / n - 1|, w[k] = 2 (1 - d)^3 where d > 0.5, else 1 - 6 d^2 + 6 d^3.
+ * Multiplies data by the Parzen window; with d = |2 k / n - 1|,
+ * w[k] = 2 (1 - d)^3 where d > 0.5, else 1 - 6 d^2 + 6 d^3.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2613,6 +2663,7 @@ QV_API QvStatus ZemFunc345(double* x, int64_t n);
  * WinParzenComplex (WinParzen).
  * Multiplies complex data by the window of WinParzen: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2624,6 +2675,7 @@ QV_API QvStatus ZemFunc448(QvComplex* x, int64_t n);
  * Multiplies data by the Welch window, w[k] = 1 - (2 k / n - 1)^2.
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2634,6 +2686,7 @@ QV_API QvStatus ZemFunc346(double* x, int64_t n);
  * WinWelchComplex (WinWelch).
  * Multiplies complex data by the window of WinWelch: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @retval -20003 n is below 1
  * @retval -20001 out of memory
  */
@@ -2646,6 +2699,7 @@ QV_API QvStatus ZemFunc449(QvComplex* x, int64_t n);
  * I0 is its power series up to the first term of at most 1e-8, at most 25 terms.
  * n = 1 multiplies by 1 / I0(beta).
  * @param x read and written, [n]: data
+ * @param n samples
  * @param beta shape, not checked; about pi times half the main lobe in bins
  * @retval -20003 n is below 1
  */
@@ -2656,6 +2710,7 @@ QV_API QvStatus ZemFunc113(double* x, int64_t n, double beta);
  * WinKaiserComplex (WinKaiser).
  * Multiplies complex data by the window of WinKaiser: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param beta shape, not checked; about pi times half the main lobe in bins
  * @retval -20003 n is below 1
  */
@@ -2667,6 +2722,7 @@ QV_API QvStatus ZemFunc440(QvComplex* x, int64_t n, double beta);
  * Multiplies data by the Gaussian window, w[k] = exp(-(k - n/2)^2 / (2 (sigma (n + 1))^2)).
  * n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param sigma standard deviation as a share of the length; not positive means 0.2
  * @retval -20003 n is below 1
  */
@@ -2677,6 +2733,7 @@ QV_API QvStatus ZemFunc280(double* x, int64_t n, double sigma);
  * WinGaussianComplex (WinGaussian).
  * Multiplies complex data by the window of WinGaussian: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param sigma standard deviation as a share of the length; not positive means 0.2
  * @retval -20003 n is below 1
  */
@@ -2688,6 +2745,7 @@ QV_API QvStatus ZemFunc441(QvComplex* x, int64_t n, double sigma);
  * Multiplies data by the Dolph-Chebyshev window: the narrowest main lobe over sidelobes of one height.
  * Built by a transform of n + 1 samples, of which the last is left off. n = 1 leaves the data unchanged.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param attenuation dB, of the sidelobes below the main lobe; negative means 0
  * @retval -20003 n is below 1
  * @retval -20046 n is 2^31 - 1, where the n + 1 samples of the window exceed 32 bits
@@ -2700,6 +2758,7 @@ QV_API QvStatus ZemFunc279(double* x, int64_t n, double attenuation);
  * WinChebyshevComplex (WinChebyshev).
  * Multiplies complex data by the window of WinChebyshev: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param attenuation dB, of the sidelobes below the main lobe; negative means 0
  * @retval -20003 n is below 1
  * @retval -20046 n is 2^31 - 1, where the n + 1 samples of the window exceed 32 bits
@@ -2712,6 +2771,7 @@ QV_API QvStatus ZemFunc442(QvComplex* x, int64_t n, double attenuation);
  * WinExponential.
  * Multiplies data by a factor that falls from 1 to final by equal ratios, exp(i ln(final) / (n - 1)).
  * @param x read and written, [n]: data
+ * @param n samples
  * @param final factor of the last sample
  * @retval -20006 n is below 2
  * @retval -20027 final is not positive
@@ -2723,6 +2783,7 @@ QV_API QvStatus ZemFunc74(double* x, int64_t n, double final);
  * WinExponentialComplex (WinExponential).
  * Multiplies complex data by the window of WinExponential: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param final factor of the last sample
  * @retval -20006 n is below 2
  * @retval -20027 final is not positive
@@ -2734,6 +2795,7 @@ QV_API QvStatus ZemFunc444(QvComplex* x, int64_t n, double final);
  * WinForce.
  * Keeps the first duty percent of the samples, duty n / 100 cut to an integer, and clears the others.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param duty percent; below 0 clears all, above 100 nothing
  * @retval -20006 n is below 2
  */
@@ -2744,6 +2806,7 @@ QV_API QvStatus ZemFunc81(double* x, int64_t n, double duty);
  * WinForceComplex (WinForce).
  * Multiplies complex data by the window of WinForce: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param duty percent; below 0 clears all, above 100 nothing
  * @retval -20006 n is below 2
  */
@@ -2756,6 +2819,7 @@ QV_API QvStatus ZemFunc443(QvComplex* x, int64_t n, double duty);
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
  * n = 1 leaves the data unchanged, whatever the code.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @retval -20003 n is below 1
@@ -2769,6 +2833,7 @@ QV_API QvStatus ZemFunc281(double* x, int64_t n, int32_t window, double paramete
  * WinApplySymmetricComplex (WinApplySymmetric).
  * Multiplies complex data by the window of WinApplySymmetric: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @retval -20003 n is below 1
@@ -2785,6 +2850,7 @@ QV_API QvStatus ZemFunc429(QvComplex* x, int64_t n, int32_t window, double param
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
  * After -20046 the properties are untouched.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @param properties written: of the window, not of the data; both NaN after an error
@@ -2804,6 +2870,7 @@ QV_API QvStatus ZemFunc337(double* x, int64_t n, int32_t window, double paramete
  * WinApplyScaledComplex (WinApplyScaled).
  * Multiplies complex data by the window of WinApplyScaled: one factor for both parts.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @param properties written: of the window, not of the data; both NaN after an error
@@ -2819,6 +2886,7 @@ QV_API QvStatus ZemFunc428(QvComplex* x, int64_t n, int32_t window, double param
  * WinApplyScaledPlain.
  * Multiplies data by a window divided by its coherent gain: WinApplyScaled with the parameter 0.
  * @param x read and written, [n]: data
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param properties written: of the window, not of the data; both NaN after an error
  * @retval -20004 n is negative
@@ -2834,6 +2902,7 @@ QV_API QvStatus ZemFunc152(double* x, int64_t n, int32_t window, QvWindowPropert
  * The properties of a window of n samples in its periodic form, as WinApplyScaled tells them.
  * Those of the rectangle and the cosine sums are printed ones and do not depend on n, the others are measured.
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
+ * @param n samples
  * @param window QV_WINDOW_...
  * @param parameter beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
  * @param properties written: both NaN after an error

@@ -1,8 +1,6 @@
 #include "stats/special/beta.h"
 
 #include <cmath>
-#include <limits>
-#include <utility>
 
 #include "frame/types.h"
 #include "stats/special/digamma.h"
@@ -24,6 +22,11 @@ bool Moderate(double x) noexcept { return std::fabs(x) <= 170 && (std::fabs(x) >
 double LnGammaRatio(double p, double q) noexcept {
     const double ratio = p / q;
     return q * LogRemainder(ratio) - 0.5 * std::log1p(ratio) + LnGammaCorrection(p + q) - LnGammaCorrection(q);
+}
+
+// ln(1 + mu) - mu with 1 + mu = x (1 + ratio); far below the peak of x itself, as little is left of 1 + mu.
+double PartBesidePeak(double mu, double x, double ratio) noexcept {
+    return mu > -0.7 ? LogRemainder(mu) : std::log(x * (1 + ratio)) - mu;
 }
 
 double PeakCorrection(double a, double b) noexcept {
@@ -77,7 +80,7 @@ double BetaBesidePeak(double a, double b, double x) noexcept {
     // With d = b x - a (1-x): x (a+b)/a = 1 + d/a and (1-x) (a+b)/b = 1 - d/b, and the linear terms of the two
     // logarithms cancel.
     const double d = BetaAboveMean(a, b, x);
-    return a * LogRemainder(d / a) + b * LogRemainder(-d / b);
+    return a * PartBesidePeak(d / a, x, b / a) + b * PartBesidePeak(-d / b, 1 - x, a / b);
 }
 
 double BetaDensity(double a, double b, double x) noexcept {

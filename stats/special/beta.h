@@ -4,6 +4,9 @@
 namespace quorvan {
 
 // B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b); at poles +Inf or NaN, as the Gammas give.
+//   |a|, |b|, |a+b| <= 170   Gammas, with the rounding of a + b put back through psi             peak 1.1e-15
+//   a, b > 0 beyond          exp of the logarithms of the Gammas taken together                  peak 1.3e-13
+//   negative beyond          exp of ln|Gamma| one by one, times the signs                        peak 2.6e-12
 double SpecBeta(double a, double b) noexcept;
 
 // x^a (1 - x)^b / B(a, b) for a, b > 0 and 0 < x < 1. Neither power nor Gamma is formed where it would overflow, and no

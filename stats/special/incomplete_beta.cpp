@@ -146,7 +146,9 @@ double SpecIncompleteBeta(double a, double b, double x) noexcept {
     if (density != 0 && b * x <= 1 && x <= 0.95) return by_series(a, b, x);
 
     const double above_mean = BetaAboveMean(a, b, x);
-    const bool exchanged = above_mean > 0;
+    // Below the mean too, where b < 1 would make the contracted fraction's terms cancel and the complement has a short
+    // series.
+    const bool exchanged = above_mean > 0 || (a > kContractedOrder && b < 1 && b > kEpsilon && a * y <= 1);
     if (exchanged) {
         std::swap(a, b);
         std::swap(x, y);

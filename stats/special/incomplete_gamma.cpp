@@ -24,7 +24,7 @@ constexpr double kLargeOrder = 1e5;
 // a (ln(x/a) - (x - a)/a): the exponent of x^a e^-x beside its peak a^a e^-a.
 double BesidePeak(double a, double x) noexcept {
     const double mu = (x - a) / a;
-    return a * (mu < -0.4 ? std::log(x / a) - mu : LogRemainder(mu));
+    return a * (mu < -0.7 ? std::log(x / a) - mu : LogRemainder(mu));
 }
 
 // x^a e^-x / Gamma(a + 1). From a = 13 on against the peak, so that no large logarithms cancel.

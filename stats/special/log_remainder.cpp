@@ -7,10 +7,10 @@
 namespace quorvan {
 
 double LogRemainder(double x) noexcept {
-    if (!(std::fabs(x) < 0.4)) return std::log1p(x) - x;
+    if (!(x > -0.7 && x < 1.5)) return std::log1p(x) - x;
     const double r = x / (2 + x), r2 = r * r;
     double power = 1, sum = 1.0 / 3;
-    for (int odd = 5; odd < 35; odd += 2) {
+    for (int odd = 5; odd < 81; odd += 2) {
         power *= r2;
         const double term = power / odd;
         sum += term;

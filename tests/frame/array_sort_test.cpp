@@ -96,6 +96,18 @@ TEST(ArrSort, SortsEveryLength) {
     });
 }
 
+TEST(ArrSort, LosesNoZeroOfEitherSign) {
+    ForEachTarget([] {
+        std::mt19937_64 engine(4);
+        constexpr double kValues[] = {-1, -0.0, 0.0, 1};
+        for (std::size_t n = 1; n < 200; ++n) {
+            std::vector<double> x(n);
+            for (double& v : x) v = kValues[engine() % 4];
+            ExpectSorts(x);
+        }
+    });
+}
+
 TEST(ArrSort, SortsEveryOrderOfZerosAndOnes) {
     // What sorts all of these by comparing and exchanging sorts everything (the zero-one principle).
     ForEachTarget([] {

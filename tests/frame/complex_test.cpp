@@ -81,6 +81,10 @@ TEST(CxDivide, NeitherOverflowsNorUnderflowsWhereThePlainFormulaWould) {
     EXPECT_TRUE(HasParts(Call(ZemFunc40, 1e-200, 0, 0, 1e-200), 0.0, -1.0));
 }
 
+TEST(CxDivide, CountsEqualMagnitudesOfTheDivisorAsTheFirstCase) {
+    EXPECT_TRUE(HasParts(Call(ZemFunc40, 1, 1, 1, -1), 0.0, 1.0)) << "the second case gives -0.0";
+}
+
 TEST(CxDivide, ByZeroIsNaNWithSuccess) {
     for (double zero : {0.0, -0.0}) {
         const Result r = Call(ZemFunc40, 1, 2, zero, zero);
@@ -405,7 +409,7 @@ TEST(CxLaws, RootsSquareLogarithmsExpandAndPowersMultiply) {
     }
 }
 
-TEST(CxHelpers, NegateConjugateAndScale) {
+TEST(CxValues, NegateConjugateAndScale) {
     const ComplexRecord z{1.5, -0.0};
     EXPECT_TRUE(SameBits(CxNegate(z).re, -1.5) && SameBits(CxNegate(z).im, 0.0));
     EXPECT_TRUE(SameBits(CxConj(z).re, 1.5) && SameBits(CxConj(z).im, 0.0));

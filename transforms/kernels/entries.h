@@ -22,6 +22,7 @@ struct BlockOf {
     static constexpr int f = D::kSize;
     // Larger sizes are worth one copy of the code only.
     static constexpr bool kDirect = f <= 18 || f == 32;
+    static constexpr int kHalf = (f + 1) / 2;
 
     struct Buffer {
         V re[f], im[f];
@@ -47,64 +48,26 @@ struct BlockOf {
 
     // --- leaves -----------------------------------------------------------------------------------------------------
 
+    // In any layout; records go by PairsOf.
     QV_INLINE static void ComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm,
                                       Size inStride, Size outStride, int count, Size elementStride,
                                       const Count* positions, const FftStage& stage) {
-        Buffer out;
-        const bool records = AreRecords(inRe, inIm, inStride);
-        if (kDirect && records && count == W) {
-            D::template Complex<V>(
-                stage, [&](int k, V& re, V& im) QV_INLINE_LAMBDA { L::LoadRecords(inRe + k * elementStride, re, im); },
-                [&](int k, V re, V im) QV_INLINE_LAMBDA { out.re[k] = re, out.im[k] = im; });
-        } else {
-            Buffer in;
-            if (records) {
-                for (int k = 0; k < f; ++k) L::LoadRecords(inRe + k * elementStride, count, in.re[k], in.im[k]);
-            } else {
-                for (int k = 0; k < f; ++k) {
-                    in.re[k] = in.im[k] = V{};
-                    for (int lane = 0; lane < W; ++lane) {
-                        const Count column = LaneColumn(W, lane);
-                        if (column >= count) continue;
-                        in.ReLanes(k)[lane] = inRe[column * inStride + k * elementStride];
-                        in.ImLanes(k)[lane] = inIm[column * inStride + k * elementStride];
-                    }
-                }
-            }
-            ComplexBuffered(stage, in, out);
-        }
-        if (W > 1 && AreRecords(outRe, outIm, outStride)) {
-            StoreRecordRows(out, outRe, count, positions);
-        } else {
-            for (int lane = 0; lane < W; ++lane) {
-                const Count column = LaneColumn(W, lane);
-                if (column >= count) continue;
-                const Size base = positions[column] * outStride;
-                for (int k = 0; k < f; ++k) {
-                    outRe[base + k * outStride] = out.ReLanes(k)[lane];
-                    outIm[base + k * outStride] = out.ImLanes(k)[lane];
-                }
+        Buffer in, out;
+        for (int k = 0; k < f; ++k) {
+            in.re[k] = in.im[k] = V{};
+            for (int c = 0; c < count; ++c) {
+                in.ReLanes(k)[c] = inRe[c * inStride + k * elementStride];
+                in.ImLanes(k)[c] = inIm[c * inStride + k * elementStride];
             }
         }
-    }
-
-    QV_INLINE static void StoreRecordRows(const Buffer& block, double* out, int count, const Count* positions) {
-        constexpr int kGroup = W > 1 ? W / 2 : 1;
-        V rows[W];
-        int k = 0;
-        for (; k + kGroup <= f; k += kGroup) {
-            L::TransposeRecords(&block.re[k], &block.im[k], rows);
-            if (count == W) {
-                for (int c = 0; c < W; ++c) L::Store(out + 2 * (Size(positions[c]) + k), rows[c]);
-            } else {
-                for (int c = 0; c < count; ++c) L::Store(out + 2 * (Size(positions[c]) + k), rows[c]);
+        ComplexBuffered(stage, in, out);
+        for (int c = 0; c < count; ++c) {
+            const Size base = positions[c] * outStride;
+            for (int k = 0; k < f; ++k) {
+                outRe[base + k * outStride] = out.ReLanes(k)[c];
+                outIm[base + k * outStride] = out.ImLanes(k)[c];
             }
         }
-        if (k == f) return;
-        V re[kGroup] = {}, im[kGroup] = {};
-        for (int i = 0; k + i < f; ++i) re[i] = block.re[k + i], im[i] = block.im[k + i];
-        L::TransposeRecords(re, im, rows);
-        for (int c = 0; c < count; ++c) L::Store(out + 2 * (Size(positions[c]) + k), 0, 2 * (f - k), rows[c]);
     }
 
     QV_INLINE static void RealLeaf(const double* in, double* out, Size inStride, Size outStride, int count,
@@ -121,7 +84,7 @@ struct BlockOf {
             V x[f];
             for (int k = 0; k < f; ++k) {
                 if (inStride == 1) {
-                    x[k] = L::Load(in + k * elementStride, 0, count);
+                    x[k] = L::Load(in + k * elementStride, {0, count});
                 } else {
                     x[k] = V{};
                     for (int c = 0; c < count; ++c)
@@ -144,7 +107,7 @@ struct BlockOf {
             V rows[W] = {};
             for (int i = 0; k + i < f; ++i) rows[i] = h[k + i];
             L::Transpose(rows);
-            for (int c = 0; c < count; ++c) L::Store(out + positions[c] + k, 0, f - k, rows[c]);
+            for (int c = 0; c < count; ++c) L::Store(out + positions[c] + k, {0, f - k}, rows[c]);
         } else {
             for (int c = 0; c < count; ++c)
                 for (int k = 0; k < f; ++k)
@@ -206,68 +169,147 @@ struct BlockOf {
         }
     }
 
-    // Columns j + first to j + last - 1 of the HalfComplex blocks: the real part of column c stands at c, the
-    // imaginary part at m - c; the results at k m + c and f m - k m - c, mirrored in the upper half.
-    QV_INLINE static void RealStage(double* data, Size stride, Size m, Size j, int first, int last, const double* table,
-                                    const FftStage& stage) {
-        constexpr int kHalf = (f + 1) / 2;
+    // Columns j to j + W - 1 of the HalfComplex blocks: the real part of column c stands at c, the imaginary part at
+    // m - c; the results at k m + c and f m - k m - c, mirrored in the upper half.
+    QV_INLINE static void RealStage(double* data, Size m, Size j, const double* table, const FftStage& stage) {
         const Size length = f * m;
-        if (kDirect && stride == 1 && first == 0 && last == W) {
+        D::template Complex<V>(
+            stage,
+            [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
+                re = L::ToLanes(L::Load(data + k * m + j));
+                im = L::ToLanes(L::Reverse(L::Load(data + (k + 1) * m - j - (W - 1))));
+                Twiddle(table, k, re, im);
+            },
+            [&](int k, V re, V im) QV_INLINE_LAMBDA {
+                L::Store(data + k * m + j, L::FromLanes(k < kHalf ? re : -im));
+                L::Store(data + length - k * m - j - (W - 1), L::Reverse(L::FromLanes(k < kHalf ? im : re)));
+            });
+    }
+
+    // The same for a block with column 0, with the middle column of even m, or with fewer than W columns: `paired` is
+    // the range of lanes with an imaginary part, `all` adds column 0 and the middle column. Their spectra are
+    // HalfComplex themselves, so that the upper half of them repeats the lower one and is left out.
+    QV_INLINE static void RealStageEdge(double* data, Size stride, Size m, Size j, LaneRange all, LaneRange paired,
+                                        const double* table, const FftStage& stage) {
+        const Size length = f * m;
+        const auto rising = [&](int k) QV_INLINE_LAMBDA { return k < kHalf ? all : paired; };
+        const auto falling = [&](int k) QV_INLINE_LAMBDA {
+            LaneRange lanes = k < kHalf ? all : paired;
+            if (k == 0) lanes.first = paired.first;                 // Im X[0] is not stored
+            if (f % 2 && k == kHalf - 1) lanes.last = paired.last;  // nor Im X[f m / 2], of the middle column,
+            if (f % 2 == 0 && k == kHalf) lanes.first = all.first;  // whose real part column 0 gives for even f
+            return lanes;
+        };
+        if (kDirect && stride == 1 && W > 2) {
             D::template Complex<V>(
                 stage,
                 [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
-                    re = L::ToLanes(L::Load(data + k * m + j));
-                    im = L::ToLanes(L::Reverse(L::Load(data + (k + 1) * m - j - (W - 1))));
+                    re = L::ToLanes(L::Load(data + (k * m + j), all));
+                    im = L::ToLanes(L::Reverse(L::Load(data + ((k + 1) * m - j - (W - 1)), paired.Mirror(W))));
                     Twiddle(table, k, re, im);
                 },
                 [&](int k, V re, V im) QV_INLINE_LAMBDA {
-                    const V rising = L::FromLanes(k < kHalf ? re : -im);
-                    const V falling = L::Reverse(L::FromLanes(k < kHalf ? im : re));
-                    L::Store(data + k * m + j, rising);
-                    L::Store(data + length - k * m - j - (W - 1), falling);
+                    L::Store(data + (k * m + j), rising(k), L::FromLanes(k < kHalf ? re : -im));
+                    L::Store(data + (length - k * m - j - (W - 1)), falling(k).Mirror(W),
+                             L::Reverse(L::FromLanes(k < kHalf ? im : re)));
                 });
             return;
         }
         Buffer in, out;
         for (int k = 0; k < f; ++k) {
-            if (stride == 1) {
-                in.re[k] = L::ToLanes(L::Load(data + (k * m + j), first, last));
-                in.im[k] = L::ToLanes(L::Reverse(L::Load(data + ((k + 1) * m - j - (W - 1)), W - last, W - first)));
-            } else {
-                in.re[k] = in.im[k] = V{};
-                for (int lane = 0; lane < W; ++lane) {
-                    const Size column = LaneColumn(W, lane);
-                    if (column < first || column >= last) continue;
-                    in.ReLanes(k)[lane] = data[(k * m + j + column) * stride];
-                    in.ImLanes(k)[lane] = data[((k + 1) * m - j - column) * stride];
-                }
+            in.re[k] = in.im[k] = V{};
+            for (int lane = 0; lane < W; ++lane) {
+                const Count column = LaneColumn(W, lane);
+                if (all.Has(column)) in.ReLanes(k)[lane] = data[(k * m + j + column) * stride];
+                if (paired.Has(column)) in.ImLanes(k)[lane] = data[((k + 1) * m - j - column) * stride];
             }
             Twiddle(table, k, in.re[k], in.im[k]);
         }
         ComplexBuffered(stage, in, out);
         for (int k = 0; k < f; ++k) {
-            V& rising = k < kHalf ? out.re[k] : out.im[k];
-            V& falling = k < kHalf ? out.im[k] : out.re[k];
-            if (k >= kHalf) rising = -rising;
-            if (stride == 1) {
-                L::Store(data + (k * m + j), first, last, L::FromLanes(rising));
-                L::Store(data + (length - k * m - j - (W - 1)), W - last, W - first, L::Reverse(L::FromLanes(falling)));
-                continue;
-            }
+            if (k >= kHalf) out.im[k] = -out.im[k];
+            const double* up = k < kHalf ? out.ReLanes(k) : out.ImLanes(k);
+            const double* down = k < kHalf ? out.ImLanes(k) : out.ReLanes(k);
             for (int lane = 0; lane < W; ++lane) {
-                const Size column = LaneColumn(W, lane);
-                if (column < first || column >= last) continue;
-                data[(k * m + j + column) * stride] = reinterpret_cast<const double*>(&rising)[lane];
-                data[(length - k * m - j - column) * stride] = reinterpret_cast<const double*>(&falling)[lane];
+                const Count column = LaneColumn(W, lane);
+                if (rising(k).Has(column)) data[(k * m + j + column) * stride] = up[lane];
+                if (falling(k).Has(column)) data[(length - k * m - j - column) * stride] = down[lane];
             }
         }
+    }
+};
+
+// Complex leaves by the real core: the real and the imaginary parts of W/2 transforms are W real sequences that stand
+// side by side in the records as they are. X[k] = R[k] + i I[k], and X[f - k] = conj R[k] + i conj I[k].
+template <class D, int W>
+struct PairsOf {
+    using L = Lanes<W>;
+    using V = typename L::V;
+    static constexpr int f = D::kSize;
+
+    QV_INLINE static void ComplexLeaf(const double* in, double* outRe, double* outIm, Size outStride, int count,
+                                      Size elementStride, const Count* positions, const FftStage& stage) {
+        constexpr int kGroup = W / 2;
+        V rows[f];
+        const auto take = [&](int k, V re, V im) QV_INLINE_LAMBDA {
+            if (k == 0 || 2 * k == f) {
+                rows[k] = re;
+                return;
+            }
+            const V turned = L::Turn(im);
+            rows[k] = re + turned;
+            rows[f - k] = re - turned;
+        };
+        if (BlockOf<D, W>::kDirect && count == kGroup) {
+            D::template Real<V>(
+                stage, [&](int k) QV_INLINE_LAMBDA { return L::Load(in + k * elementStride); }, take);
+        } else {
+            V x[f];
+            typename BlockOf<D, W>::Buffer spectrum;
+            for (int k = 0; k < f; ++k) x[k] = L::Load(in + k * elementStride, {0, 2 * count});
+            BlockOf<D, W>::RealBuffered(stage, x, spectrum);
+            for (int k = 0; 2 * k <= f; ++k) take(k, spectrum.re[k], spectrum.im[k]);
+        }
+        if (AreRecords(outRe, outIm, outStride)) {
+            int k = 0;
+            for (; k + kGroup <= f; k += kGroup) {
+                V group[kGroup];
+                for (int i = 0; i < kGroup; ++i) group[i] = rows[k + i];
+                L::TransposeRows(group);
+                for (int c = 0; c < count; ++c) L::Store(outRe + 2 * (Size(positions[c]) + k), group[c]);
+            }
+            if (k == f) return;
+            V group[kGroup] = {};
+            for (int i = 0; k + i < f; ++i) group[i] = rows[k + i];
+            L::TransposeRows(group);
+            for (int c = 0; c < count; ++c) L::Store(outRe + 2 * (Size(positions[c]) + k), {0, 2 * (f - k)}, group[c]);
+            return;
+        }
+        for (int c = 0; c < count; ++c)
+            for (int k = 0; k < f; ++k) {
+                const double* record = reinterpret_cast<const double*>(&rows[k]) + 2 * c;
+                outRe[(Size(positions[c]) + k) * outStride] = record[0];
+                outIm[(Size(positions[c]) + k) * outStride] = record[1];
+            }
     }
 };
 
 template <class D>
 void ComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride, Size outStride,
                  Count count, Size elementStride, const Count* positions, const FftStage& stage) {
+    const bool records = kMaxWidth > 1 && AreRecords(inRe, inIm, inStride);
     for (Count t = 0; t < count;) {
+        if (records) {
+            WithBlockWidth(2 * (count - t), [&]<int W>() QV_INLINE_LAMBDA {
+                if constexpr (W > 1) {
+                    const int lanes = count - t < W / 2 ? count - t : W / 2;
+                    PairsOf<D, W>::ComplexLeaf(inRe + t * inStride, outRe, outIm, outStride, lanes, elementStride,
+                                               positions + t, stage);
+                    t += lanes;
+                }
+            });
+            continue;
+        }
         WithBlockWidth(count - t, [&]<int W>() QV_INLINE_LAMBDA {
             const int lanes = count - t < W ? count - t : W;
             BlockOf<D, W>::ComplexLeaf(inRe + t * inStride, inIm + t * inStride, outRe, outIm, inStride, outStride,
@@ -305,39 +347,40 @@ void RealLeaf(const double* in, double* out, Size inStride, Size outStride, Coun
 
 template <class D>
 void RealStage(double* data, Size stride, Count m, const FftStage& stage) {
-    constexpr int f = D::kSize, kNarrow = kMaxWidth == 1 ? 1 : 2;
-    using Narrow = BlockOf<D, kNarrow>;
-    const Size length = Size(f) * m;
-    typename Narrow::V in[f];
-    typename Narrow::Buffer out;
-
-    // Column 0: a real DFT across the blocks.
-    for (int t = 0; t < f; ++t) in[t] = typename Narrow::V{data[t * m * stride]};
-    Narrow::RealBuffered(stage, in, out);
-    for (Size k = 0; 2 * k <= f; ++k) {
-        data[k * m * stride] = out.ReLanes(k)[0];
-        if (k > 0 && 2 * k < f) data[(length - k * m) * stride] = out.ImLanes(k)[0];
-    }
-
-    // Columns that pair with another one.
+    constexpr int f = D::kSize;
     const double* table = stage.blockedTwiddles;
-    for (Count j = 0, end = (m + 1) / 2; j < end;) {
+    const Count pairedEnd = (m + 1) / 2;  // columns 1 to pairedEnd - 1 pair with m - 1 down to m - pairedEnd + 1
+    Count middle = m % 2 ? -1 : m / 2;
+    Count j = 0;
+    while (j < pairedEnd) {
         WithBlockWidth(m - j, [&]<int W>() QV_INLINE_LAMBDA {
-            const int lanes = end - j < W ? end - j : W;
-            BlockOf<D, W>::RealStage(data, stride, m, j, j == 0 ? 1 : 0, lanes, table, stage);
+            if (stride == 1 && j > 0 && j + W <= pairedEnd) {
+                BlockOf<D, W>::RealStage(data, m, j, table, stage);
+            } else {
+                const LaneRange paired{j == 0 ? 1 : 0, pairedEnd - j < W ? pairedEnd - j : W};
+                LaneRange all{0, paired.last};
+                if (middle >= 0 && middle < j + W) {
+                    ++all.last;
+                    middle = -1;
+                }
+                BlockOf<D, W>::RealStageEdge(data, stride, m, j, all, paired, table, stage);
+            }
             table += 2 * W * (f - 1);
             j += m - j < W ? m - j : W;
         });
     }
+    if (middle < 0) return;
 
-    // The middle column of even m is real: a DFT half a bin further up.
-    if (m % 2) return;
-    for (int t = 0; t < f; ++t) in[t] = typename Narrow::V{data[(t * Size(m) + m / 2) * stride]};
-    Narrow::MiddleBuffered(stage, in, out);
+    // The middle column of even m alone: a DFT of real values, half a bin further up.
+    const Size length = Size(f) * m;
+    double in[f];
+    typename BlockOf<D, 1>::Buffer out;
+    for (int t = 0; t < f; ++t) in[t] = data[(t * Size(m) + middle) * stride];
+    BlockOf<D, 1>::MiddleBuffered(stage, in, out);
     for (Size k = 0; k < (f + 1) / 2; ++k) {
-        const Size q = m / 2 + k * m;
-        data[q * stride] = out.ReLanes(k)[0];
-        if (2 * q != length) data[(length - q) * stride] = out.ImLanes(k)[0];
+        const Size q = middle + k * m;
+        data[q * stride] = out.re[k];
+        if (2 * q != length) data[(length - q) * stride] = out.im[k];
     }
 }
 

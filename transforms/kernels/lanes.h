@@ -4,16 +4,16 @@
 // order that a single unpack leaves, column (lane % 2) * W/2 + lane / 2, so that taking records apart and putting them
 // together costs one shuffle a vector. Split and real data, which stand in natural order, pay one permutation instead.
 //
-// Operations on lanes [first, last) touch no memory outside them.
+// Operations on a range of lanes touch no memory outside it.
 #pragma once
 
+#include "frame/targets.h"
 #include "frame/types.h"
 
 #if defined(__SSE2__)
 #include <immintrin.h>
 #endif
 
-#define QV_INLINE inline __attribute__((always_inline))
 #define QV_INLINE_LAMBDA __attribute__((always_inline))
 
 namespace quorvan::QV_TARGET {
@@ -22,7 +22,34 @@ namespace {
 template <int W>
 struct Lanes;
 
+// The lanes [first, last) of a vector.
+struct LaneRange {
+    int first, last;
+    QV_INLINE bool Has(int lane) const { return lane >= first && lane < last; }
+    QV_INLINE LaneRange Mirror(int width) const { return {width - last, width - first}; }
+};
+
 constexpr Count LaneColumn(Count width, Count lane) { return width == 1 ? 0 : (lane % 2) * (width / 2) + lane / 2; }
+
+template <>
+struct Lanes<1> {
+    using V = double;
+
+    QV_INLINE static void LoadRecords(const double* p, V& re, V& im) { re = p[0], im = p[1]; }
+    QV_INLINE static void LoadRecords(const double* p, int, V& re, V& im) { re = p[0], im = p[1]; }
+    QV_INLINE static void StoreRecords(double* p, V re, V im) { p[0] = re, p[1] = im; }
+    QV_INLINE static void StoreRecords(double* p, int, V re, V im) { p[0] = re, p[1] = im; }
+    QV_INLINE static V Load(const double* p) { return *p; }
+    QV_INLINE static V Load(const double* p, LaneRange r) { return r.first < r.last ? *p : 0.0; }
+    QV_INLINE static void Store(double* p, V v) { *p = v; }
+    QV_INLINE static void Store(double* p, LaneRange r, V v) {
+        if (r.first < r.last) *p = v;
+    }
+    QV_INLINE static V ToLanes(V v) { return v; }
+    QV_INLINE static V FromLanes(V v) { return v; }
+    QV_INLINE static V Reverse(V v) { return v; }
+    QV_INLINE static void Transpose(V*) {}
+};
 
 #if defined(__SSE2__)
 
@@ -49,50 +76,27 @@ struct Lanes<2> {
         if (count > 1) _mm_storeu_pd(p + 2, _mm_unpackhi_pd(re, im));
     }
     QV_INLINE static V Load(const double* p) { return _mm_loadu_pd(p); }
-    QV_INLINE static V Load(const double* p, int first, int last) {
-        return _mm_set_pd(last > 1 ? p[1] : 0.0, first < 1 ? p[0] : 0.0);
+    QV_INLINE static V Load(const double* p, LaneRange r) {
+        return _mm_set_pd(r.last > 1 ? p[1] : 0.0, r.first < 1 ? p[0] : 0.0);
     }
     QV_INLINE static void Store(double* p, V v) { _mm_storeu_pd(p, v); }
-    QV_INLINE static void Store(double* p, int first, int last, V v) {
-        if (first < 1) _mm_storel_pd(p, v);
-        if (last > 1) _mm_storeh_pd(p + 1, v);
+    QV_INLINE static void Store(double* p, LaneRange r, V v) {
+        if (r.first < 1 && r.last > 0) _mm_storel_pd(p, v);
+        if (r.last > 1) _mm_storeh_pd(p + 1, v);
     }
     QV_INLINE static V ToLanes(V v) { return v; }
     QV_INLINE static V FromLanes(V v) { return v; }
     QV_INLINE static V Reverse(V v) { return _mm_shuffle_pd(v, v, 1); }
+    // Lanes as records: i times each of them.
+    QV_INLINE static V Turn(V v) { return _mm_xor_pd(_mm_shuffle_pd(v, v, 1), _mm_set_pd(0.0, -0.0)); }
+    // W/2 vectors of records: the i-th takes the i-th record of each.
+    QV_INLINE static void TransposeRows(V*) {}
 
-    // From the lanes of a block of transforms to the records of each of them.
-    QV_INLINE static void TransposeRecords(const V* re, const V* im, V* rows) {
-        rows[0] = _mm_unpacklo_pd(re[0], im[0]);
-        rows[1] = _mm_unpackhi_pd(re[0], im[0]);
-    }
     QV_INLINE static void Transpose(V* v) {
         const V a = _mm_unpacklo_pd(v[0], v[1]);
         v[1] = _mm_unpackhi_pd(v[0], v[1]);
         v[0] = a;
     }
-};
-
-#else
-
-template <>
-struct Lanes<1> {
-    using V = double;
-
-    QV_INLINE static void LoadRecords(const double* p, V& re, V& im) { re = p[0], im = p[1]; }
-    QV_INLINE static void LoadRecords(const double* p, int, V& re, V& im) { re = p[0], im = p[1]; }
-    QV_INLINE static void StoreRecords(double* p, V re, V im) { p[0] = re, p[1] = im; }
-    QV_INLINE static void StoreRecords(double* p, int, V re, V im) { p[0] = re, p[1] = im; }
-    QV_INLINE static V Load(const double* p) { return *p; }
-    QV_INLINE static V Load(const double* p, int first, int last) { return first < last ? *p : 0.0; }
-    QV_INLINE static void Store(double* p, V v) { *p = v; }
-    QV_INLINE static void Store(double* p, int first, int last, V v) {
-        if (first < last) *p = v;
-    }
-    QV_INLINE static V ToLanes(V v) { return v; }
-    QV_INLINE static V FromLanes(V v) { return v; }
-    QV_INLINE static V Reverse(V v) { return v; }
-    QV_INLINE static void Transpose(V*) {}
 };
 
 #endif
@@ -128,21 +132,21 @@ struct Lanes<4> {
         _mm256_maskstore_pd(p + 4, Mask(0, 2 * count - 4), _mm256_unpackhi_pd(re, im));
     }
     QV_INLINE static V Load(const double* p) { return _mm256_loadu_pd(p); }
-    QV_INLINE static V Load(const double* p, int first, int last) { return _mm256_maskload_pd(p, Mask(first, last)); }
+    QV_INLINE static V Load(const double* p, LaneRange r) { return _mm256_maskload_pd(p, Mask(r.first, r.last)); }
     QV_INLINE static void Store(double* p, V v) { _mm256_storeu_pd(p, v); }
-    QV_INLINE static void Store(double* p, int first, int last, V v) { _mm256_maskstore_pd(p, Mask(first, last), v); }
+    QV_INLINE static void Store(double* p, LaneRange r, V v) { _mm256_maskstore_pd(p, Mask(r.first, r.last), v); }
     QV_INLINE static V ToLanes(V v) { return _mm256_permute4x64_pd(v, 0b11'01'10'00); }
     QV_INLINE static V FromLanes(V v) { return _mm256_permute4x64_pd(v, 0b11'01'10'00); }
     QV_INLINE static V Reverse(V v) { return _mm256_permute4x64_pd(v, 0b00'01'10'11); }
-
-    QV_INLINE static void TransposeRecords(const V* re, const V* im, V* rows) {
-        const V a = _mm256_unpacklo_pd(re[0], im[0]), b = _mm256_unpacklo_pd(re[1], im[1]);
-        const V c = _mm256_unpackhi_pd(re[0], im[0]), d = _mm256_unpackhi_pd(re[1], im[1]);
-        rows[0] = _mm256_permute2f128_pd(a, b, 0x20);
-        rows[1] = _mm256_permute2f128_pd(a, b, 0x31);
-        rows[2] = _mm256_permute2f128_pd(c, d, 0x20);
-        rows[3] = _mm256_permute2f128_pd(c, d, 0x31);
+    QV_INLINE static V Turn(V v) {
+        return _mm256_xor_pd(_mm256_permute_pd(v, 0b0101), _mm256_set_pd(0.0, -0.0, 0.0, -0.0));
     }
+    QV_INLINE static void TransposeRows(V* v) {
+        const V a = _mm256_permute2f128_pd(v[0], v[1], 0x20);
+        v[1] = _mm256_permute2f128_pd(v[0], v[1], 0x31);
+        v[0] = a;
+    }
+
     QV_INLINE static void Transpose(V* v) {
         const V a = _mm256_unpacklo_pd(v[0], v[1]), b = _mm256_unpackhi_pd(v[0], v[1]);
         const V c = _mm256_unpacklo_pd(v[2], v[3]), d = _mm256_unpackhi_pd(v[2], v[3]);
@@ -185,14 +189,17 @@ struct Lanes<8> {
         _mm512_mask_storeu_pd(p + 8, Mask(0, 2 * count - 8), _mm512_unpackhi_pd(re, im));
     }
     QV_INLINE static V Load(const double* p) { return _mm512_loadu_pd(p); }
-    QV_INLINE static V Load(const double* p, int first, int last) {
-        return _mm512_maskz_loadu_pd(Mask(first, last), p);
-    }
+    QV_INLINE static V Load(const double* p, LaneRange r) { return _mm512_maskz_loadu_pd(Mask(r.first, r.last), p); }
     QV_INLINE static void Store(double* p, V v) { _mm512_storeu_pd(p, v); }
-    QV_INLINE static void Store(double* p, int first, int last, V v) { _mm512_mask_storeu_pd(p, Mask(first, last), v); }
+    QV_INLINE static void Store(double* p, LaneRange r, V v) { _mm512_mask_storeu_pd(p, Mask(r.first, r.last), v); }
     QV_INLINE static V ToLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 3, 6, 2, 5, 1, 4, 0), v); }
     QV_INLINE static V FromLanes(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(7, 5, 3, 1, 6, 4, 2, 0), v); }
     QV_INLINE static V Reverse(V v) { return _mm512_permutexvar_pd(_mm512_set_epi64(0, 1, 2, 3, 4, 5, 6, 7), v); }
+    QV_INLINE static V Turn(V v) {
+        const V sign = _mm512_set_pd(0.0, -0.0, 0.0, -0.0, 0.0, -0.0, 0.0, -0.0);
+        return _mm512_xor_pd(_mm512_permute_pd(v, 0b01010101), sign);
+    }
+    QV_INLINE static void TransposeRows(V* v) { TransposePairs(v[0], v[1], v[2], v[3], v); }
 
     QV_INLINE static void TransposePairs(V a, V b, V c, V d, V* rows) {
         const V ab0 = _mm512_shuffle_f64x2(a, b, 0b01'00'01'00), ab1 = _mm512_shuffle_f64x2(a, b, 0b11'10'11'10);
@@ -201,12 +208,6 @@ struct Lanes<8> {
         rows[1] = _mm512_shuffle_f64x2(ab0, cd0, 0b11'01'11'01);
         rows[2] = _mm512_shuffle_f64x2(ab1, cd1, 0b10'00'10'00);
         rows[3] = _mm512_shuffle_f64x2(ab1, cd1, 0b11'01'11'01);
-    }
-    QV_INLINE static void TransposeRecords(const V* re, const V* im, V* rows) {
-        TransposePairs(_mm512_unpacklo_pd(re[0], im[0]), _mm512_unpacklo_pd(re[1], im[1]),
-                       _mm512_unpacklo_pd(re[2], im[2]), _mm512_unpacklo_pd(re[3], im[3]), rows);
-        TransposePairs(_mm512_unpackhi_pd(re[0], im[0]), _mm512_unpackhi_pd(re[1], im[1]),
-                       _mm512_unpackhi_pd(re[2], im[2]), _mm512_unpackhi_pd(re[3], im[3]), rows + 4);
     }
     QV_INLINE static void Transpose(V* v) {
         V even[4], odd[4], low[4], high[4];
@@ -236,7 +237,7 @@ inline constexpr Count kMaxWidth = 1;
 constexpr Count BlockWidth(Count left) {
     if (kMaxWidth == 8 && left > 4) return 8;
     if (kMaxWidth >= 4 && left > 2) return 4;
-    return kMaxWidth == 1 ? 1 : 2;
+    return kMaxWidth >= 2 && left > 1 ? 2 : 1;
 }
 
 // Calls body.template operator()<W>() with the W that BlockWidth gives.
@@ -250,10 +251,9 @@ QV_INLINE void WithBlockWidth(Count left, const Body& body) {
         case 4: body.template operator()<4>(); break;
 #endif
 #if defined(__SSE2__)
-        default: body.template operator()<2>();
-#else
-        default: body.template operator()<1>();
+        case 2: body.template operator()<2>(); break;
 #endif
+        default: body.template operator()<1>();
     }
 }
 

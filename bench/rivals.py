@@ -1,0 +1,244 @@
+"""The Python side of the benchmarks: the same work through NumPy or SciPy, and through the shared object by ctypes.
+
+A case times two statements in turn, on arrays made beforehand, and keeps the best repetition of each. Addresses are
+made beforehand too, so that what ctypes adds is its bare call. Time is the processor time of the process.
+"""
+
+import ctypes
+import itertools
+import os
+import time
+import timeit
+from dataclasses import dataclass, field
+
+for threads in ("OMP_NUM_THREADS", "OPENBLAS_NUM_THREADS", "MKL_NUM_THREADS"):
+    os.environ[threads] = "1"
+
+import numpy as np  # noqa: E402
+import scipy.fft  # noqa: E402
+import scipy.signal  # noqa: E402
+import scipy.special  # noqa: E402
+
+FFT_SIZES = (16, 60, 64, 100, 128, 256, 360, 512, 1000, 1009, 1024, 4096, 4099, 10007, 16384, 65536, 100000, 262144,
+             1048576)
+ARRAY_SIZES = (1000, 16384, 262144, 16777216)
+SORT_SIZES = (100, 1000, 10000, 100000, 1000000)
+SORT_POOL = 100000
+CONVOLUTIONS = ((100, 100), (1000, 1000), (10000, 100), (10000, 10000), (100000, 1000), (100000, 100000))
+WINDOW_SIZES = (256, 4096, 65536)
+
+
+@dataclass
+class Case:
+    """One comparison: group and size name the C++ measurement that belongs to it."""
+    group: str
+    size: str
+    quorvan: str
+    rival: str
+    names: dict
+    same: str = "True"  # holds when both agree: Quorvan's output is in kept, the rival's in out
+    contender: str = "quorvan"
+    cleanup: list = field(default_factory=list)
+
+
+class Library:
+    """The shared object; `call(number, "ppip")` gives the function with these argument types: pointer, int64, double,
+    int32 as p, i, d, c."""
+
+    TYPES = {"p": ctypes.c_void_p, "i": ctypes.c_int64, "d": ctypes.c_double, "c": ctypes.c_int32}
+
+    def __init__(self, path):
+        self.object = ctypes.CDLL(str(path))
+
+    def call(self, number, arguments, result=ctypes.c_int32):
+        function = getattr(self.object, f"ZemFunc{number}")
+        function.argtypes = [self.TYPES[letter] for letter in arguments]
+        function.restype = result
+        return function
+
+
+def address(array):
+    return ctypes.c_void_p(array.ctypes.data)
+
+
+def aligned(count, dtype=np.float64):
+    """Zeros, placed as bench/support/buffer.cpp places them; large arrays get huge pages from NumPy."""
+    size = np.dtype(dtype).itemsize
+    unit = 4096 if count * size >= 4096 else 64
+    raw = np.empty(count * size + unit, np.uint8)
+    raw[:] = 0
+    start = -raw.ctypes.data % unit
+    return raw[start:start + count * size].view(dtype)
+
+
+def noise(count, seed, dtype=np.float64):
+    generator = np.random.default_rng(seed)
+    out = aligned(count, dtype)
+    out[:] = generator.uniform(-1, 1, count)
+    if dtype == np.complex128:
+        out += 1j * generator.uniform(-1, 1, count)
+    return out
+
+
+def fft_cases(library):
+    transform = library.call(263, "piipcp")
+    create = library.call(260, "i", ctypes.c_void_p)
+    release = library.call(261, "p")
+    for n in FFT_SIZES:
+        x, out = noise(n, n, np.complex128), aligned(n, np.complex128)
+        plan = ctypes.c_void_p(create(n))
+        names = dict(f=transform, x=x, out=out, px=address(x), pout=address(out), n=n, plan=plan, fft=scipy.fft.fft)
+        yield Case("complex_fft", str(n), "f(px, n, n, plan, 0, pout)", "fft(x)", names,
+                   "numpy.allclose(kept, fft(x), rtol=1e-10, atol=1e-10)", "held", [lambda: release(plan)])
+
+
+def convolution_cases(library):
+    convolve = library.call(32, "pipip")
+    for n, m in CONVOLUTIONS:
+        x, y, out = noise(n, 1), noise(m, 2), aligned(n + m - 1)
+        names = dict(f=convolve, x=x, y=y, out=out, px=address(x), py=address(y), pout=address(out), n=n, m=m,
+                     fftconvolve=scipy.signal.fftconvolve)
+        yield Case("convolve", f"{n}x{m}", "f(px, n, py, m, pout)", "fftconvolve(x, y)", names,
+                   "numpy.allclose(kept, fftconvolve(x, y), rtol=1e-9, atol=1e-9)")
+
+
+# Name, number, argument types, Quorvan's arguments, NumPy's statement.
+ARRAY_OPERATIONS = (
+    ("add", 3, "ppip", "px, py, n, pout", "add(x, y, out)"),
+    ("multiply", 126, "ppip", "px, py, n, pout", "multiply(x, y, out)"),
+    ("scale", 153, "pippp", "px, n, pout, poffset, pscale",
+     "hi = x.max(); lo = x.min(); s = (hi - lo) * 0.5; subtract(x, s + lo, out); multiply(out, 1 / s, out)"),
+    ("linear_eval", 115, "piddp", "px, n, 1.5, 0.25, pout", "multiply(x, 1.5, out); add(out, 0.25, out)"),
+    ("abs", 1, "pip", "px, n, pout", "absolute(x, out)"),
+    ("sum", 170, "pip", "px, n, poffset", "offset2[0] = x.sum()"),
+    ("maxmin", 120, "pipppp", "px, n, poffset, pimax, pscale, pimin",
+     "i = x.argmax(); offset2[0] = x[i]; j = x.argmin(); scale2[0] = x[j]"),
+)
+
+
+def array_cases(library, sizes=ARRAY_SIZES):
+    for n in sizes:
+        x, y, out = noise(n, 1), noise(n, 2), aligned(n)
+        offset, scale, offset2, scale2 = np.zeros(1), np.zeros(1), np.zeros(1), np.zeros(1)
+        imax, imin = np.zeros(1, np.int64), np.zeros(1, np.int64)
+        for name, number, types, arguments, numpy_statement in ARRAY_OPERATIONS:
+            names = dict(f=library.call(number, types), x=x, y=y, out=out, n=n, px=address(x),
+                         py=address(y), pout=address(out), poffset=address(offset), pscale=address(scale),
+                         pimax=address(imax), pimin=address(imin), offset=offset, scale=scale, offset2=offset2,
+                         scale2=scale2, add=np.add, multiply=np.multiply, subtract=np.subtract, absolute=np.absolute)
+            same = {"sum": "abs(offset - offset2)[0] < 1e-13 * n * n",
+                    "maxmin": "offset == offset2 and scale == scale2"}
+            yield Case(f"array_{name}", str(n), f"f({arguments})", numpy_statement, names,
+                       same.get(name, "numpy.allclose(kept, out, rtol=1e-12, atol=1e-12)"))
+
+
+def sort_cases(library):
+    sort = library.call(160, "picp")
+    for n in SORT_SIZES:
+        # Short arrays take turns, or the branch predictor learns the one order by heart.
+        pool, out = noise(max(n, SORT_POOL), 1), aligned(n)
+        arrays = [pool[start:start + n] for start in range(0, len(pool) - n + 1, n)]
+        names = dict(f=sort, pout=address(out), n=n, out=out, copyto=np.copyto,
+                     px=itertools.cycle(map(address, arrays)), x=itertools.cycle(arrays))
+        yield Case("sort", str(n), "f(next(px), n, 0, pout)", "copyto(out, next(x)); out.sort()", names,
+                   "numpy.array_equal(kept, out)")
+
+
+# Name, number, Quorvan's parameter or none, SciPy's call, absolute tolerance of the comparison. Kaiser's series stops
+# at a term of 1e-8; SciPy centres Parzen's window elsewhere; the cosines of the Chebyshev spectrum come from a
+# recurrence whose error grows as n^2 roundings, and the polynomial of order n multiplies it by n.
+WINDOWS = (
+    ("hanning", 89, None, "w.hann(n, sym=False)", 1e-9),
+    ("hamming", 88, None, "w.hamming(n, sym=False)", 1e-9),
+    ("blackman", 14, None, "w.blackman(n, sym=False)", 1e-9),
+    ("flat_top", 80, None, "w.flattop(n, sym=False)", 1e-6),
+    ("triangle", 180, None, "w.bartlett(n, sym=False)", 1e-9),
+    ("bohman", 344, None, "w.bohman(n, sym=False)", 1e-9),
+    ("parzen", 345, None, "w.parzen(n, sym=False)", None),
+    ("kaiser", 113, 8.0, "w.kaiser(n, 8.0, sym=False)", 1e-6),
+    ("gaussian", 280, 0.2, "w.gaussian(n, 0.2 * (n + 1), sym=False)", 1e-9),
+    ("chebyshev", 279, 80.0, "w.chebwin(n, 80.0, sym=False)", "n**3 * 2.2e-16"),
+)
+
+
+def window_cases(library):
+    for name, number, parameter, scipy_call, tolerance in WINDOWS:
+        apply = library.call(number, "pi" if parameter is None else "pid")
+        extra = "" if parameter is None else f", {parameter}"
+        for n in WINDOW_SIZES:
+            x, out = noise(n, 1), aligned(n)
+            names = dict(f=apply, x=x, out=out, pout=address(out), n=n, copyto=np.copyto,
+                         multiply=np.multiply, w=scipy.signal.windows)
+            same = "True" if tolerance is None else f"numpy.allclose(kept, out, rtol=0, atol={tolerance})"
+            yield Case(f"window_{name}", str(n), f"copyto(out, x); f(pout, n{extra})",
+                       f"multiply(x, {scipy_call}, out)", names, same)
+
+
+# Name, interval, Quorvan's value at x, SciPy's statement.
+SPECIAL = (
+    ("gamma", 0.1, 30.0, "f309(x, None)", "s.gamma(x, out)"),
+    ("ln_gamma", 0.1, 100.0, "f312(x)", "s.gammaln(x, out)"),
+    ("digamma", 0.1, 50.0, "f313(x)", "s.psi(x, out)"),
+    ("gamma_p", 0.1, 20.0, "f309(2.5, double(x))", "s.gammainc(2.5, x, out)"),
+    ("beta_i", 0.01, 0.99, "f307(2.5, 1.5, double(x))", "s.betainc(2.5, 1.5, x, out)"),
+    ("zeta_m1", 1.5, 20.0, "f329(x)", "s.zetac(x, out)"),
+)
+SPECIAL_POINTS = 1000
+
+
+def special_times(library, effort):
+    """(name, SciPy's seconds) for an array of values. ctypes has no call for an array: the rival is the C++ loop."""
+    functions = {f"f{number}": library.call(number, types, ctypes.c_double)
+                 for number, types in ((309, "dp"), (312, "d"), (313, "d"), (307, "ddp"), (329, "d"))}
+    functions["double"] = lambda value: ctypes.byref(ctypes.c_double(value))
+    for name, start, end, quorvan, statement in SPECIAL:
+        x, out = np.linspace(start, end, SPECIAL_POINTS), np.empty(SPECIAL_POINTS)
+        names = dict(s=scipy.special, x=x, out=out)
+        exec(statement, names)
+        ours = np.array([eval(quorvan, dict(functions, x=value)) for value in x])
+        if not np.allclose(ours, out, rtol=1e-9, atol=1e-12):
+            raise SystemExit(f"{name}: Quorvan and SciPy disagree")
+        yield name, best([timer(statement, names)], effort)[0]
+
+
+@dataclass
+class Effort:
+    repetitions: int = 9
+    seconds: float = 0.01
+
+
+def best(timers, effort):
+    """Seconds of one call: the least over the repetitions, which go round the timers in turn."""
+    numbers = []
+    for timer in timers:
+        number = 1
+        while (taken := timer.timeit(number)) < effort.seconds:
+            number = max(2 * number, int(number * min(10.0, 1.2 * effort.seconds / max(taken, 1e-9))))
+        numbers.append(number)
+    times = [float("inf")] * len(timers)
+    for _ in range(effort.repetitions):
+        for i, (timer, number) in enumerate(zip(timers, numbers)):
+            times[i] = min(times[i], timer.timeit(number) / number)
+    return times
+
+
+def timer(statement, names):
+    return timeit.Timer(statement, timer=time.process_time, globals=dict(names, numpy=np))
+
+
+def measure(case, effort):
+    """Seconds through ctypes and of the rival. Both run once before, and must agree."""
+    names = dict(case.names, numpy=np)
+    *before, call = case.quorvan.split("; ")
+    exec("\n".join(before), names)
+    status = eval(call, names)
+    if status != 0:
+        raise SystemExit(f"{case.group} of {case.size}: status {status}")
+    names["kept"] = names["out"].copy()
+    exec(case.rival, names)
+    if not eval(case.same, names):
+        raise SystemExit(f"{case.group} of {case.size}: Quorvan and its rival disagree")
+    times = best([timer(case.quorvan, case.names), timer(case.rival, case.names)], effort)
+    for release in case.cleanup:
+        release()
+    return times

@@ -1,0 +1,91 @@
+// Special functions, one value a call, beside GSL where it is found; bench/run.py adds SciPy.
+//
+// A timing is of kPoints values spread evenly over the interval, ends included.
+#include <cmath>
+
+#include "quorvan/quorvan.h"
+#include "support/buffer.h"
+#include "support/runner.h"
+
+#if defined(QUORVAN_BENCH_GSL)
+#include <gsl/gsl_errno.h>
+#include <gsl/gsl_sf.h>
+#include <gsl/gsl_version.h>
+#define QV_RIVAL(expression) [](double x) -> double { return expression; }
+#else
+#define QV_RIVAL(expression) nullptr
+#endif
+
+namespace {
+
+using bench::Buffer;
+using bench::Ratios;
+using bench::Runner;
+using bench::Times;
+
+constexpr std::int64_t kPoints = 1000;
+
+using Function = double (*)(double);
+
+struct Case {
+    const char* name;
+    double from, to;
+    Function quorvan, gsl;
+};
+
+// Intervals and parameters as bench/rivals.py gives them to SciPy.
+const Case kCases[] = {
+    {"gamma", 0.1, 30.0, [](double x) { return ZemFunc309(x, nullptr); }, QV_RIVAL(gsl_sf_gamma(x))},
+    {"ln_gamma", 0.1, 100.0, [](double x) { return ZemFunc312(x); }, QV_RIVAL(gsl_sf_lngamma(x))},
+    {"digamma", 0.1, 50.0, [](double x) { return ZemFunc313(x); }, QV_RIVAL(gsl_sf_psi(x))},
+    {"gamma_p", 0.1, 20.0, [](double x) { return ZemFunc309(2.5, &x); }, QV_RIVAL(gsl_sf_gamma_inc_P(2.5, x))},
+    {"beta_i", 0.01, 0.99, [](double x) { return ZemFunc307(2.5, 1.5, &x); }, QV_RIVAL(gsl_sf_beta_inc(2.5, 1.5, x))},
+    {"zeta_m1", 1.5, 20.0, [](double x) { return ZemFunc329(x); }, QV_RIVAL(gsl_sf_zetam1(x))},
+};
+
+void Fill(Function function, const double* x, double* out) {
+    for (std::int64_t i = 0; i < kPoints; ++i) out[i] = function(x[i]);
+}
+
+void Check(const Case& c, const double* x) {
+    for (std::int64_t i = 0; i < kPoints && c.gsl != nullptr; ++i) {
+        const double ours = c.quorvan(x[i]), theirs = c.gsl(x[i]);
+        if (!(std::fabs(ours - theirs) <= 1e-9 * std::fabs(theirs) + 1e-12)) {
+            bench::Refuse(std::string(c.name) + " of " + std::to_string(x[i]) + ": " + std::to_string(ours) + ", GSL " +
+                          std::to_string(theirs));
+        }
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Runner runner(argc, argv);
+#if defined(QUORVAN_BENCH_GSL)
+    benchmark::AddCustomContext("gsl", GSL_VERSION);
+    gsl_set_error_handler_off();
+#endif
+    std::FILE* text = runner.Text();
+    Ratios ratios;
+    std::fprintf(text, "\n  function     ns a value      GSL\n");
+    for (const Case& c : kCases) {
+        Buffer<double> points(kPoints), values(kPoints);
+        double *x = points, *out = values;
+        for (std::int64_t i = 0; i < kPoints; ++i) {
+            x[i] = c.from + (c.to - c.from) * static_cast<double>(i) / (kPoints - 1);
+        }
+        Check(c, x);
+        runner.Add("quorvan", [=, f = c.quorvan] { Fill(f, x, out); });
+        if (c.gsl != nullptr) runner.Add("gsl", [=, f = c.gsl] { Fill(f, x, out); });
+        Times t = runner.Run(std::string("special_") + c.name, kPoints);
+        std::fprintf(text, "  %-11s %11.2f", c.name, t["quorvan"] / kPoints * 1e9);
+        if (c.gsl != nullptr) {
+            ratios.Add(t["gsl"] / t["quorvan"]);
+            std::fprintf(text, " %8.2f", t["gsl"] / t["quorvan"]);
+        }
+        std::fprintf(text, "\n");
+        std::fflush(text);
+    }
+    if (ratios.Count() > 0) std::fprintf(text, "  %-62s %6.2f\n", "over GSL: geometric mean", ratios.Mean());
+    return runner.Finish();
+}
