@@ -16,7 +16,7 @@ constexpr std::uint32_t kRaw = 0;  // no normalisation
 // Sequences
 
 QV_EXPORT Status ZemFunc32(const double* x, Size n, const double* y, Size m, double* out) {
-    return narrowed(n, m, [&](Count n, Count m) { return ConvolveReal(x, n, y, m, kByFft, out); });
+    return narrowed(n, m, [&](Count n, Count m) { return ConvolveReal(x, n, y, m, kConvolveByFft, out); });
 }
 
 QV_EXPORT Status ZemFunc372(const double* x, Size n, const double* y, Size m, std::int32_t method, double* out) {
@@ -29,7 +29,7 @@ QV_EXPORT Status ZemFunc391(const ComplexRecord* x, Size n, const ComplexRecord*
 }
 
 QV_EXPORT Status ZemFunc33(const double* x, Size n, const double* y, Size m, double* out) {
-    return narrowed(n, m, [&](Count n, Count m) { return CorrelateReal(x, n, y, m, kByFft, kRaw, out); });
+    return narrowed(n, m, [&](Count n, Count m) { return CorrelateReal(x, n, y, m, kConvolveByFft, kRaw, out); });
 }
 
 QV_EXPORT Status ZemFunc373(const double* x, Size n, const double* y, Size m, std::int32_t method, double* out) {
@@ -42,7 +42,7 @@ QV_EXPORT Status ZemFunc376(const double* x, Size n, const double* y, Size m, st
 }
 
 QV_EXPORT Status ZemFunc424(const double* x, Size n, std::int32_t normalisation, double* out) {
-    return narrowed(n, [&](Count n) { return CorrelateReal(x, n, x, n, kByFft, normalisation, out); });
+    return narrowed(n, [&](Count n) { return CorrelateReal(x, n, x, n, kConvolveByFft, normalisation, out); });
 }
 
 QV_EXPORT Status ZemFunc421(const ComplexRecord* x, Size n, const ComplexRecord* y, Size m, std::uint32_t method,
@@ -56,7 +56,7 @@ QV_EXPORT Status ZemFunc490(const ComplexRecord* x, Size n, const ComplexRecord*
 }
 
 QV_EXPORT Status ZemFunc425(const ComplexRecord* x, Size n, std::int32_t normalisation, ComplexRecord* out) {
-    return narrowed(n, [&](Count n) { return CorrelateComplex(x, n, x, n, kByFft, normalisation, out); });
+    return narrowed(n, [&](Count n) { return CorrelateComplex(x, n, x, n, kConvolveByFft, normalisation, out); });
 }
 
 QV_EXPORT Status ZemFunc54(const double* y, Size n, const double* x, Size m, double* out) {
@@ -94,11 +94,13 @@ QV_EXPORT Status ZemFunc423(const ComplexRecord* x, Size rows1, Size cols1, cons
 }
 
 QV_EXPORT Status ZemFunc426(const double* x, Size rows, Size cols, double* out) {
-    return narrowed(rows, cols,
-                    [&](Count rows, Count cols) { return Correlate2D(x, rows, cols, x, rows, cols, kByFft, out); });
+    return narrowed(rows, cols, [&](Count rows, Count cols) {
+        return Correlate2D(x, rows, cols, x, rows, cols, kConvolveByFft, out);
+    });
 }
 
 QV_EXPORT Status ZemFunc427(const ComplexRecord* x, Size rows, Size cols, ComplexRecord* out) {
-    return narrowed(rows, cols,
-                    [&](Count rows, Count cols) { return Correlate2D(x, rows, cols, x, rows, cols, kByFft, out); });
+    return narrowed(rows, cols, [&](Count rows, Count cols) {
+        return Correlate2D(x, rows, cols, x, rows, cols, kConvolveByFft, out);
+    });
 }

@@ -54,7 +54,7 @@ Status Bluestein(const T* x, Count n, ComplexRecord a, ComplexRecord w, Count m,
         if (const Status failure = CxPow(a, -static_cast<double>(k), &power)) return failure;
         twisted[k] = CxDivide(Times(x[k], power), chirp[n - k]);
     }
-    if (const Status failure = ConvolveComplex(twisted, n, chirp, static_cast<Count>(length), kByFft, z))
+    if (const Status failure = ConvolveComplex(twisted, n, chirp, static_cast<Count>(length), kConvolveByFft, z))
         return failure;
     for (Count j = 0; j < m; ++j) out[j] = CxDivide(z[n + Size{j}], chirp[n + Size{j}]);
     return status::kSuccess;

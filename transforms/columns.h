@@ -7,6 +7,9 @@
 
 namespace quorvan {
 
+// Whether a product of two positive sizes is no element count.
+constexpr bool TooManyElements(Count rows, Count cols) noexcept { return Size{rows} * cols > INT32_MAX; }
+
 // How many neighbouring columns travel together.
 inline constexpr Count kColumnBlock = 8;
 

@@ -17,7 +17,7 @@ Status CheckSizes(Count n, Count m) {
 }
 
 Status ByFft(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, ComplexRecord* out) {
-    const Count length = n + m - 1, S = FftFastSize(length);
+    const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
     const HeldPlan plan(S);
     const Block<ComplexRecord> work(3 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
@@ -35,7 +35,7 @@ Status ByFft(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, C
 
 // x as it stands, or from its end.
 Status ByFft(const double* x, Count n, bool reversed, const double* y, Count m, double* out) {
-    const Count length = n + m - 1, S = FftFastSize(length);
+    const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
     const HeldPlan plan(S);
     const Block<double> work(3 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
@@ -54,7 +54,7 @@ Status ByFft(const double* x, Count n, bool reversed, const double* y, Count m, 
 
 // One transform there and one back; negative lags come from the end of the circular result.
 Status AutocorrelateByFft(const double* x, Count n, double* out) {
-    const Count S = FftFastSize(2 * n - 1);
+    const Count S = FftFastSize(static_cast<Count>(ConvolvedLength(n, n)));
     const HeldPlan plan(S);
     const Block<double> work(2 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
@@ -97,8 +97,8 @@ Status Normalise(T* out, Count n, Count m, std::uint32_t normalisation) {
 
 Status ConvolveReal(const double* x, Count n, const double* y, Count m, std::uint32_t method, double* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
-    if (method == kByFft) return ByFft(x, n, false, y, m, out);
-    if (method == kDirect) {
+    if (method == kConvolveByFft) return ByFft(x, n, false, y, m, out);
+    if (method == kConvolveDirect) {
         std::fill(out, out + ConvolvedLength(n, m), 0.0);
         kDirectConvolution().reals(x, n, y, m, out);
     }
@@ -108,8 +108,8 @@ Status ConvolveReal(const double* x, Count n, const double* y, Count m, std::uin
 Status ConvolveComplex(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, std::uint32_t method,
                        ComplexRecord* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
-    if (method > kByFft) return status::kInvalidSelection;
-    if (method == kByFft) return ByFft(x, n, y, m, out);
+    if (method > kConvolveByFft) return status::kInvalidSelection;
+    if (method == kConvolveByFft) return ByFft(x, n, y, m, out);
     // Each output is a dot product along the longer sequence.
     std::fill(out, out + ConvolvedLength(n, m), ComplexRecord{});
     if (n >= m)
@@ -123,13 +123,13 @@ Status CorrelateReal(const double* x, Count n, const double* y, Count m, std::ui
                      std::uint32_t normalisation, double* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
     Status outcome = status::kSuccess;
-    if (method == kDirect) {
+    if (method == kConvolveDirect) {
         std::fill(out, out + ConvolvedLength(n, m), 0.0);
         kDirectConvolution().realsReversed(y, m, x, n, out);
-    } else if (method == kByFft && x == y) {  // deliberate: the pointers alone decide, and m plays no part
+    } else if (method == kConvolveByFft && x == y) {  // deliberate: the pointers alone decide, and m plays no part
         if (const Status failure = CheckSizes(n, n)) return failure;
         outcome = AutocorrelateByFft(x, n, out);
-    } else if (method == kByFft) {
+    } else if (method == kConvolveByFft) {
         outcome = ByFft(x, n, true, y, m, out);
     }
     // Deliberate: also after a failure, and of what an unknown method has left in the array.

@@ -8,7 +8,7 @@
 
 namespace quorvan {
 
-enum ConvolutionMethod : std::uint32_t { kDirect = 0, kByFft = 1 };
+enum ConvolutionMethod : std::uint32_t { kConvolveDirect = 0, kConvolveByFft = 1 };
 
 // Any other method of the real forms does nothing and succeeds, deliberately; of the complex forms it gives -20061.
 Status ConvolveReal(const double* x, Count n, const double* y, Count m, std::uint32_t method, double* out) noexcept;

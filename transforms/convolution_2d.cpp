@@ -102,7 +102,7 @@ Status ByFft(Array2D<T> x, Array2D<T> y, Count R, Count C, T* full) {
 
 template <class T>
 Status Full(Array2D<T> x, Array2D<T> y, Count R, Count C, std::uint32_t method, T* full) {
-    if (method == kByFft) return ByFft(x, y, R, C, full);
+    if (method == kConvolveByFft) return ByFft(x, y, R, C, full);
     Direct(x, y, R, C, full);
     return status::kSuccess;
 }
@@ -116,18 +116,18 @@ template <class T>
 Status Convolve2D(const T* x, Count rows1, Count cols1, const T* y, Count rows2, Count cols2, std::uint32_t shape,
                   std::uint32_t method, T* out) noexcept {
     if (rows1 < 1 || cols1 < 1 || rows2 < 1 || cols2 < 1) return status::kSamplesNotPositive;
-    if (shape > kInside || method > kByFft) return status::kInvalidSelection;
-    if (shape == kInside && (rows1 < rows2 || cols1 < cols2)) return status::kWrongDataCount;
+    if (shape > kShapeInside || method > kConvolveByFft) return status::kInvalidSelection;
+    if (shape == kShapeInside && (rows1 < rows2 || cols1 < cols2)) return status::kWrongDataCount;
     const Size wideR = ConvolvedLength(rows1, rows2), wideC = ConvolvedLength(cols1, cols2);
     if (wideR > INT32_MAX || wideC > INT32_MAX || wideR * wideC > INT32_MAX) return status::kOverflow;
     const Count R = static_cast<Count>(wideR), C = static_cast<Count>(wideC);
     const Array2D<T> first{x, rows1, cols1}, second{y, rows2, cols2};
-    if (shape == kFull) return Full(first, second, R, C, method, out);
+    if (shape == kShapeFull) return Full(first, second, R, C, method, out);
 
     const Block<T> full(static_cast<std::size_t>(R) * C);
     if (!full) return status::kOutOfMemory;
     if (const Status failure = Full(first, second, R, C, method, full.get())) return failure;
-    const bool same = shape == kSame;
+    const bool same = shape == kShapeSame;
     const Count rows = same ? rows1 : rows1 - rows2 + 1, cols = same ? cols1 : cols1 - cols2 + 1;
     const Count top = same ? rows2 / 2 : rows2 - 1, left = same ? cols2 / 2 : cols2 - 1;
     for (Size r = 0; r < rows; ++r) {
@@ -146,7 +146,7 @@ Status Correlate2D(const T* x, Count rows1, Count cols1, const T* y, Count rows2
     const Block<T> reversed(static_cast<std::size_t>(count));
     if (!reversed) return status::kOutOfMemory;
     for (Size i = 0; i < count; ++i) reversed[i] = Conjugate(x[count - 1 - i]);
-    return Convolve2D<T>(reversed, rows1, cols1, y, rows2, cols2, kFull, method, out);
+    return Convolve2D<T>(reversed, rows1, cols1, y, rows2, cols2, kShapeFull, method, out);
 }
 
 template Status Convolve2D(const double*, Count, Count, const double*, Count, Count, std::uint32_t, std::uint32_t,

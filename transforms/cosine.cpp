@@ -183,7 +183,7 @@ enum class First { kRows, kColumns };
 template <class Line, First kFirst>
 Status TwoDimensions(const double* x, Count rows, Count cols, double* out) {
     if (rows < 1 || cols < 1) return status::kSamplesNotPositive;
-    if (Size{rows} * cols != Count(Size{rows} * cols)) return status::kOverflow;
+    if (TooManyElements(rows, cols)) return status::kOverflow;
     const Line rowLine(cols), columnLine(rows);
     const Block<double> block(static_cast<std::size_t>(kColumnBlock) * rows);
     if (!rowLine || !columnLine || !block) return status::kOutOfMemory;

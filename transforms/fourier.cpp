@@ -18,13 +18,10 @@ public:
     }
     GivenPlan(const GivenPlan&) = delete;
     GivenPlan& operator=(const GivenPlan&) = delete;
-    ~GivenPlan() { release(); }
-
-    // At once, where memory is wanted for something else next.
-    void release() noexcept {
+    ~GivenPlan() {
         if (own_) FftPlanRelease(own_);
-        own_ = nullptr;
     }
+
     explicit operator bool() const noexcept { return plan_ != nullptr; }
     operator const FftPlan*() const noexcept { return plan_; }
 

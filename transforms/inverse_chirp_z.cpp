@@ -135,7 +135,7 @@ Status TransformInverseChirpZ(ComplexRecord* X, Count n, ComplexRecord a, Comple
     for (Count k = 0; k < m; ++k) coefficients[k] = CxMultiply(coefficients[k], scale);
     coefficients[0] = kOne;
 
-    if (const Status failure = ConvolveComplex(series, m, coefficients, m, kDirect, product)) return failure;
+    if (const Status failure = ConvolveComplex(series, m, coefficients, m, kConvolveDirect, product)) return failure;
     std::copy(product + 0, product + m, out ? out : X);
     return status::kSuccess;
 }

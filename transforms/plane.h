@@ -59,7 +59,4 @@ private:
     Block<ComplexRecord> block_;
 };
 
-// Whether a product of two positive sizes is no element count.
-constexpr bool TooManyElements(Count rows, Count cols) noexcept { return Size{rows} * cols > INT32_MAX; }
-
 }  // namespace quorvan

@@ -1,4 +1,6 @@
 // Cosine and sine transforms.
+#include "transforms/cosine.h"
+
 #include <gtest/gtest.h>
 
 #include "quorvan/quorvan.h"
@@ -194,6 +196,18 @@ TEST(CosineAndSine, RefuseSizesAndTouchNothing) {
     refused(INT64_MAX, -20046);
     EXPECT_EQ(ZemFunc270(x, 0, kTooLarge, out), -20046);
     EXPECT_EQ(ZemFunc272(x, 0, kTooLarge, out), -20046);
+    EXPECT_TRUE(Untouched(out));
+}
+
+// No export lets this happen; the operations themselves say so.
+TEST(CosineAndSine, OfALengthBelowOneHaveAStatusOfTheirOwnBehindTheBoundary) {
+    const Reals x(4);
+    Reals out = Output(4);
+    for (auto operation : {TransformDct, TransformDst}) {
+        EXPECT_EQ(operation(x, 4, 0, out), -20115);
+        EXPECT_EQ(operation(x, 4, -1, out), -20115);
+        EXPECT_EQ(operation(x, 0, 0, out), -20003);
+    }
     EXPECT_TRUE(Untouched(out));
 }
 

@@ -1,5 +1,6 @@
 // Fourier transforms in one dimension.
 #include <gtest/gtest.h>
+#include <random>
 
 #include "quorvan/quorvan.h"
 #include "tests/support/failing_heap.h"
@@ -118,6 +119,20 @@ TEST(ComplexFft, IsTheDefiningSumOfEveryLengthInBothOrders) {
             ASSERT_EQ(ZemFunc263(x, n, 0, nullptr, shift, out), 0);
             ExpectSpectrum(expected, out, shift != 0, Rounding(n, Norm(x)));
         }
+    }
+}
+
+TEST(ComplexFft, TakesNoMemoryWithAPlanThatFitsInNaturalOrder) {
+    const int n = 60;
+    const Records x = RandomRecords(n, 6);
+    for (int length : {n, n / 2}) {
+        QvFftPlan* plan = ZemFunc260(length);
+        ASSERT_NE(plan, nullptr);
+        Records out = RecordOutput(length);
+        FailAllocation(-1);
+        ASSERT_EQ(ZemFunc263(x, n, length, plan, 0, out), 0);
+        EXPECT_EQ(AllocationCount(), 0);
+        ZemFunc261(plan);
     }
 }
 
@@ -279,6 +294,42 @@ TEST(Fft, ReportsEveryFailedAllocation) {
             ExpectEveryAllocationFails([&] { return ZemFunc263(z, n, 2 * n, nullptr, shift, out); });
             ExpectEveryAllocationFails([&] { return ZemFunc264(z, n, nullptr, shift, reals); });
             ExpectEveryAllocationFails([&] { return ZemFunc265(z, n, nullptr, shift, out); });
+        }
+    }
+}
+
+// Laws
+
+TEST(Fft, KeepsTheEnergyAndIsLinearForManySizes) {
+    std::mt19937 engine(7);
+    for (int trial = 0; trial < 60; ++trial) {
+        const int n = std::uniform_int_distribution(1, 1500)(engine);
+        SCOPED_TRACE(n);
+        const Records x = RandomRecords(n, 2 * trial), y = RandomRecords(n, 2 * trial + 1);
+        const ComplexRecord a{0.75, -0.5};
+        Records combined(n), X = RecordOutput(n), Y = RecordOutput(n), Z = RecordOutput(n);
+        for (int i = 0; i < n; ++i)
+            combined[i] = {x[i].re + (a.re * y[i].re - a.im * y[i].im), x[i].im + (a.re * y[i].im + a.im * y[i].re)};
+        ASSERT_EQ(ZemFunc263(x, n, 0, nullptr, 0, X), 0);
+        ASSERT_EQ(ZemFunc263(y, n, 0, nullptr, 0, Y), 0);
+        ASSERT_EQ(ZemFunc263(combined, n, 0, nullptr, 0, Z), 0);
+        const double tolerance = Rounding(n, Norm(x) + 2 * Norm(y));
+        for (int k = 0; k < n; ++k) EXPECT_LE(Distance(Widen(X[k]) + Widen(a) * Widen(Y[k]), Z[k]), tolerance);
+        EXPECT_NEAR(Norm(X) / std::sqrt(n), Norm(x), tolerance);
+    }
+}
+
+TEST(Fft, OfRealsIsTheFftOfRecordsWithoutImaginaryParts) {
+    std::mt19937 engine(8);
+    for (int trial = 0; trial < 60; ++trial) {
+        const int n = std::uniform_int_distribution(1, 1500)(engine);
+        const Reals x = RandomReals(n, trial);
+        Records z(n), fromReals = RecordOutput(n), fromRecords = RecordOutput(n);
+        for (int i = 0; i < n; ++i) z[i] = {x[i], 0};
+        for (int shift : {0, 1}) {
+            ASSERT_EQ(ZemFunc262(x, n, 0, nullptr, shift, fromReals), 0);
+            ASSERT_EQ(ZemFunc263(z, n, 0, nullptr, shift, fromRecords), 0);
+            ExpectNear(fromRecords, fromReals, 2 * Rounding(n, Norm(x)));
         }
     }
 }

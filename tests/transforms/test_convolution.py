@@ -15,7 +15,10 @@ def near(got, expected, tolerance):
 
 
 def bound(x, y):
-    """Three transforms (a few eps log2 S of the norms, plus eps sqrt(S) for twiddles by recurrence) cover the direct sums too."""
+    """Three transforms, each a few eps log2 S of the norms plus eps sqrt(S) for twiddles by recurrence.
+
+    Direct sums stay far below that.
+    """
     S = 2 * (x.size + y.size)
     return 24 * EPS * (np.log2(S) + np.sqrt(S)) * np.linalg.norm(x) * np.linalg.norm(y)
 

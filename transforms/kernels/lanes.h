@@ -8,6 +8,7 @@
 #pragma once
 
 #include "frame/targets.h"
+#include "frame/targets.h"
 #include "frame/types.h"
 
 #if defined(__SSE2__)
