@@ -17,21 +17,24 @@ The table is one text file for each family. Its grammar, line by line:
     NUMBER NAME same NUMBER          a second name for the entry of another number
       in    TYPE NAME[SHAPE] [null]  an array that is read; null: the pointer may be null
       out   TYPE NAME[SHAPE] [null]  an array that is written
-      inout TYPE NAME[SHAPE] [null]  an array that is read and written
+      inout TYPE NAME[SHAPE] [null]  an array that is read and written, or written when the output is null
+      alloc TYPE NAME[SHAPE]         the address of a pointer that is set to an array that the library allocates
       in|out|inout TYPE NAME [null]  a scalar by address
-      value TYPE NAME                a scalar by value
-      size  NAME                     an int64 element count by value; NAME may stand in shapes
-      handle TYPE NAME [null]        an opaque pointer that the library handed out
+      value TYPE NAME                a scalar by value, or a model function
+      size  NAME                     an int64 by value that must fit 32 bits: an element count, an index, a factor
+      handle TYPE NAME [null]        an object that the library made and takes back
       ... -- TEXT                    behind any argument: its meaning and unit
       > SENTENCE                     documentation
       ! CODE SENTENCE                a status and when it is given
       ? CODE LINE                    an example
 
-TYPE is one of double, complex, int32, uint32, int64, text, window (properties), model (function), or a handle's name;
-`pointer` gives an array of pointers to blocks that the library allocates.
-SHAPE is an expression over the sizes.
+TYPE is one of double, complex, int32, uint32, int64, text, window (properties), band (of a filter), model (function),
+or a handle's name: TYPE Name is the record QvName of quorvan/types.h, `block` is any block that the library allocated.
+SHAPE is an integer expression over the integer arguments of the same export, by value or by address, in Python's
+notation: + - * / % == min max and "a if condition else b"; the quotient truncates. Empty: the meaning tells the room.
 """
 
+import ast
 import pathlib
 import re
 import sys
@@ -40,6 +43,14 @@ from dataclasses import dataclass, field
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TABLE = ROOT / "exports" / "table"
 ALL_NUMBERS = [n for n in range(1, 494) if n not in (199, 244)]
+# Once each of these has its file, all of the numbers must be listed.
+FAMILIES = set("""
+    status arrays complex memory plans transforms convolution time_domain random generators windows
+    spectrum peaks pulses tones pulse_parameters statistics distributions variance_analysis bessel gamma elliptic
+    filter_objects iir_design fir_windows fir_equiripple fir_narrowband direct_filters
+    polynomial_roots polynomial_zeros integration linear_fits nonlinear_fit model_fits interpolation fit_bounds
+    matrices decompositions eigenproblems multiple_roots
+""".split())
 
 C_TYPES = {
     "double": "double",
@@ -50,8 +61,13 @@ C_TYPES = {
     "text": "char",
     "window": "QvWindowProperties",
     "model": "QvModel",
+    "band": "QvBand",
 }
-DIRECTIONS = ("in", "out", "inout", "value", "size", "handle")
+INTEGERS = ("int32", "uint32", "int64")
+DIRECTIONS = ("in", "out", "inout", "alloc", "value", "size", "handle")
+# What a shape may be made of.
+SHAPE_NODES = (ast.Expression, ast.BinOp, ast.Add, ast.Sub, ast.Mult, ast.Div, ast.Mod, ast.IfExp, ast.Compare, ast.Eq,
+               ast.Call, ast.Name, ast.Load, ast.Constant)
 
 
 @dataclass
@@ -74,14 +90,26 @@ class Argument:
             return f"{base} {self.name}"
         if self.direction == "in":
             return f"const {base}* {self.name}"
+        if self.direction == "alloc":
+            return f"{base}** {self.name}"
         return f"{base}* {self.name}"
+
+    @property
+    def shape_names(self):
+        """The arguments that the shape is an expression of."""
+        tree = ast.parse(self.shape, mode="eval")
+        for node in ast.walk(tree):
+            if not isinstance(node, SHAPE_NODES):
+                raise TableError(f"not a shape: {self.shape}")
+        return {node.id for node in ast.walk(tree) if isinstance(node, ast.Name)} - {"min", "max"}
 
     @property
     def doc(self):
         """Direction and shape, in the words of the reference."""
         if self.direction in ("value", "size"):
             return self.meaning
-        words = {"in": "read", "out": "written", "inout": "read and written", "handle": "handle"}[self.direction]
+        words = {"in": "read", "out": "written", "inout": "read and written", "handle": "handle",
+                 "alloc": "set to an array of the library, null when it is empty"}[self.direction]
         if self.shape is not None:
             words += f", [{self.shape}]"
         words += ", may be null" if self.nullable else ""
@@ -182,6 +210,28 @@ def parse_family(path):
     return family
 
 
+def check_shapes(export):
+    """Every shape is made of integer arguments of its own export."""
+    integers = {a.name for a in export.arguments if a.type in INTEGERS and a.shape is None}
+    for argument in export.arguments:
+        if not argument.shape:
+            continue
+        try:
+            unknown = argument.shape_names - integers
+        except SyntaxError:
+            raise SystemExit(f"{export.symbol}: {argument.name}[{argument.shape}] is not an expression") from None
+        except TableError as error:
+            raise SystemExit(f"{export.symbol}: {error}") from None
+        if unknown:
+            raise SystemExit(f"{export.symbol}: {argument.name}[{argument.shape}] speaks of {', '.join(sorted(unknown))}")
+
+
+def unlisted(families):
+    """The numbers that no family lists yet."""
+    listed = {e.number for f in families for e in f.exports}
+    return [n for n in ALL_NUMBERS if n not in listed]
+
+
 def read_table():
     """All families in the order of their files, checked as a whole."""
     families = [parse_family(path) for path in sorted(TABLE.iterdir())]
@@ -195,7 +245,11 @@ def read_table():
                 raise SystemExit(f"{export.name}: the name is taken")
             exports[export.number] = export
             names.add(export.name)
+    missing = unlisted(families)
+    if missing and {f.name for f in families} >= FAMILIES:
+        raise SystemExit(f"all families are there, but not these numbers: {missing}")
     for export in exports.values():
+        check_shapes(export)
         if export.same is not None:
             entry = exports[export.same]
             export.arguments, export.result, export.planned = entry.arguments, entry.result, entry.planned
@@ -281,8 +335,11 @@ def main():
     check = sys.argv[1:] == ["--check"]
     if sys.argv[1:] and not check:
         raise SystemExit(__doc__)
+    families = read_table()
+    if unlisted(families):
+        print(f"not listed yet: {unlisted(families)}")
     stale = []
-    for path, text in outputs(read_table()).items():
+    for path, text in outputs(families).items():
         if path.exists() and path.read_text() == text:
             continue
         stale.append(path.relative_to(ROOT))

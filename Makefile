@@ -1,0 +1,71 @@
+# The front door. Each target installs what is missing (tools/packages.sh), configures its preset, builds and runs.
+JOBS ?= $(shell nproc)
+PREFIX ?= /usr/local
+# Debian's own, which the packages of tools/packages.sh belong to.
+PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
+
+.PHONY: help demo check check-sanitizers check-all bench picture format tidy install clean
+
+help:
+	@echo 'make demo       the tour: a heart rate from a real recording'
+	@echo 'make check      build and run all tests'
+	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
+	@echo 'make bench      speed beside FFTW, NumPy and SciPy, as ratios'
+	@echo 'make picture    draw docs/ecg_spectrum.png again'
+	@echo 'make format     bring all C and C++ files into the house format'
+	@echo 'make tidy       clang-tidy over the library'
+	@echo 'make install    install to PREFIX ($(PREFIX))'
+
+# A preset, configured and built.
+define built
+	cmake --preset $(1)
+	cmake --build --preset $(1) --parallel $(JOBS)
+endef
+
+demo:
+	@tools/packages.sh build
+	$(call built,demo)
+	build/demo/examples/tour
+
+check:
+	@tools/packages.sh build test
+	$(call built,release)
+	ctest --preset release --parallel $(JOBS)
+
+check-sanitizers:
+	@tools/packages.sh build test
+	$(call built,asan)
+	ctest --preset asan --parallel $(JOBS)
+	$(call built,tsan)
+	ctest --preset tsan --parallel $(JOBS)
+
+# The full suite comes last: its summary is the last word.
+check-all: check-sanitizers
+	$(MAKE) check
+
+bench:
+	@tools/packages.sh build bench
+	$(call built,bench)
+	$(PYTHON) bench/run.py
+
+picture:
+	@tools/packages.sh build picture
+	$(call built,demo)
+	$(PYTHON) tools/picture.py --library build/demo/libquorvan.so
+
+format:
+	@tools/packages.sh format
+	git ls-files --cached --others --exclude-standard '*.c' '*.h' '*.cpp' | xargs clang-format -i
+
+tidy:
+	@tools/packages.sh build test tidy
+	cmake --preset release
+	git ls-files '*.cpp' ':!bench' ':!tests' ':!*.target.cpp' | xargs clang-tidy -p build/release --quiet
+
+install:
+	@tools/packages.sh build
+	$(call built,demo)
+	cmake --install build/demo --prefix $(PREFIX)
+
+clean:
+	rm -rf build
