@@ -12,13 +12,14 @@ Algorithms: primes by the symmetric form (sums and differences of mirrored input
 the prime-factor map (Good, 1958); the rest by decimation in time (Cooley and Tukey, 1965).
 """
 
-import math
 import pathlib
 import sys
+from decimal import Decimal, localcontext
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDER = ROOT / "transforms" / "kernels"
 SIZES = [2, 3, 4, 5, 7, 8, 9, 10, 11, 13, 14, 16, 17, 18, 19, 29, 31, 32, 37, 41, 43]
+PI = Decimal("3.14159265358979323846264338327950288419716939937510")
 PRIME_FACTOR_MAPS = {10: (2, 5), 14: (2, 7), 18: (2, 9)}
 TIME_DECIMATIONS = {4: (2, 2), 8: (2, 4), 9: (3, 3), 16: (4, 4), 32: (4, 8)}
 
@@ -91,6 +92,17 @@ class Graph:
         return self.node("scale", factor, a)
 
 
+def cosine_and_sine(angle):
+    """Of an angle in [0, pi/4], rounded correctly: the Taylor series in decimals."""
+    with localcontext() as context:
+        context.prec = 45
+        sums, term = [Decimal(1), angle], angle
+        for k in range(2, 40):
+            term *= angle / k
+            sums[k % 2] += -term if k % 4 > 1 else term
+        return float(sums[0]), float(sums[1])
+
+
 def root_of_unity(k, n):
     """exp(-2 pi i k / n), with exact values on the axes and equal values where the octants mirror."""
     k %= n
@@ -104,8 +116,8 @@ def root_of_unity(k, n):
         k2 = 2 * k
     # now the angle is pi * k2 / n in [0, pi/2]
     if 4 * k2 > n:
-        k2, swap = n / 2 - k2, True
-    c, s = math.cos(math.pi * k2 / n), math.sin(math.pi * k2 / n)
+        k2, swap = Decimal(n) / 2 - k2, True
+    c, s = cosine_and_sine(PI * k2 / n)
     if swap:
         c, s = s, c
     return re_sign * c, im_sign * s

@@ -22,10 +22,10 @@ struct Dft3 {
         const V t10 = r0 + t6;
         const V t11 = i0 + t7;
         out(0, t10, t11);
-        const V t16 = r0 - 0.49999999999999994 * t6;
-        const V t17 = i0 - 0.49999999999999994 * t7;
-        const V t18 = 0.8660254037844387 * (r1 - r2);
-        const V t19 = 0.8660254037844387 * (i1 - i2);
+        const V t16 = r0 - 0.5 * t6;
+        const V t17 = i0 - 0.5 * t7;
+        const V t18 = 0.8660254037844386 * (r1 - r2);
+        const V t19 = 0.8660254037844386 * (i1 - i2);
         const V t20 = t16 + t19;
         const V t21 = t17 - t18;
         out(1, t20, t21);
@@ -43,8 +43,8 @@ struct Dft3 {
         const V t4 = x1 + x2;
         const V t6 = x0 + t4;
         out(0, t6, V{});
-        const V t9 = x0 - 0.49999999999999994 * t4;
-        const V t11 = -(0.8660254037844387 * (x1 - x2));
+        const V t9 = x0 - 0.5 * t4;
+        const V t11 = -(0.8660254037844386 * (x1 - x2));
         out(1, t9, t11);
     }
 
@@ -57,8 +57,8 @@ struct Dft3 {
         const V t5 = x2 - x1;
         const V t8 = x0 + t5;
         out(1, t8, V{});
-        const V t11 = x0 - 0.49999999999999994 * t5;
-        const V t13 = -(0.8660254037844387 * (x1 + x2));
+        const V t11 = x0 - 0.5 * t5;
+        const V t13 = -(0.8660254037844386 * (x1 + x2));
         out(0, t11, t13);
     }
 };
