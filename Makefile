@@ -41,7 +41,7 @@ check-sanitizers:
 
 # The full suite comes last: its summary is the last word.
 check-all: check-sanitizers
-	$(MAKE) check
+	@$(MAKE) --no-print-directory check
 
 bench:
 	@tools/packages.sh build bench
