@@ -52,17 +52,30 @@ struct BlockOf {
     QV_INLINE static void ComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm,
                                       Size inStride, Size outStride, int count, Size elementStride,
                                       const Count* positions, const FftStage& stage) {
-        const int lanes = W == 1 ? 1 : count;
+        if constexpr (W == 1) {
+            const Size base = positions[0] * outStride;
+            D::template Complex<V>(
+                stage,
+                [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
+                    re = inRe[k * elementStride];
+                    im = inIm[k * elementStride];
+                },
+                [&](int k, V re, V im) QV_INLINE_LAMBDA {
+                    outRe[base + k * outStride] = re;
+                    outIm[base + k * outStride] = im;
+                });
+            return;
+        }
         Buffer in, out;
         for (int k = 0; k < f; ++k) {
             in.re[k] = in.im[k] = V{};
-            for (int c = 0; c < lanes; ++c) {
+            for (int c = 0; c < count; ++c) {
                 in.ReLanes(k)[c] = inRe[c * inStride + k * elementStride];
                 in.ImLanes(k)[c] = inIm[c * inStride + k * elementStride];
             }
         }
         ComplexBuffered(stage, in, out);
-        for (int c = 0; c < lanes; ++c) {
+        for (int c = 0; c < count; ++c) {
             const Size base = positions[c] * outStride;
             for (int k = 0; k < f; ++k) {
                 outRe[base + k * outStride] = out.ReLanes(k)[c];
