@@ -312,6 +312,17 @@ TEST(WinGaussian, TakesASigmaThatIsNotPositiveFor02) {
     }
 }
 
+TEST(WinGaussian, KeepsTheMiddleOfAnEvenLengthWhateverSigma) {
+    for (double sigma : {0.3, 1e-200, 4.9406564584124654e-324, kInf, kNaN}) {
+        Reals x{1.0, 1.0, 7.0, 1.0};
+        Records z(4, ComplexRecord{3.0, -4.0});
+        ASSERT_EQ(ZemFunc280(x, 4, sigma), 0);
+        ASSERT_EQ(ZemFunc441(z, 4, sigma), 0);
+        EXPECT_EQ(x[2], 7.0) << sigma;
+        EXPECT_TRUE(z[2].re == 3.0 && z[2].im == -4.0) << sigma;
+    }
+}
+
 TEST(WinChebyshev, TakesANegativeAttenuationFor0) {
     Reals expected(9, 1.0), x(9, 1.0);
     ASSERT_EQ(ZemFunc279(expected, 9, 0.0), 0);
