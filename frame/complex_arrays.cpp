@@ -7,33 +7,35 @@
 #include "frame/status.h"
 
 namespace quorvan {
+namespace {
+
+Status Combined(ComplexBinaryLoop* loop, const double* aRe, const double* aIm, const double* bRe, const double* bIm,
+                Count n, double* outRe, double* outIm) noexcept {
+    if (n < 1) return status::kSamplesNotPositive;
+    loop(aRe, aIm, bRe, bIm, n, outRe, outIm);
+    return status::kSuccess;
+}
+
+}  // namespace
 
 Status CxArrAdd(const double* aRe, const double* aIm, const double* bRe, const double* bIm, Count n, double* outRe,
                 double* outIm) noexcept {
-    if (n < 1) return status::kSamplesNotPositive;
-    kComplexLoops().add(aRe, aIm, bRe, bIm, n, outRe, outIm);
-    return status::kSuccess;
+    return Combined(kComplexLoops().add, aRe, aIm, bRe, bIm, n, outRe, outIm);
 }
 
 Status CxArrSubtract(const double* aRe, const double* aIm, const double* bRe, const double* bIm, Count n, double* outRe,
                      double* outIm) noexcept {
-    if (n < 1) return status::kSamplesNotPositive;
-    kComplexLoops().subtract(aRe, aIm, bRe, bIm, n, outRe, outIm);
-    return status::kSuccess;
+    return Combined(kComplexLoops().subtract, aRe, aIm, bRe, bIm, n, outRe, outIm);
 }
 
 Status CxArrMultiply(const double* aRe, const double* aIm, const double* bRe, const double* bIm, Count n, double* outRe,
                      double* outIm) noexcept {
-    if (n < 1) return status::kSamplesNotPositive;
-    kComplexLoops().multiply(aRe, aIm, bRe, bIm, n, outRe, outIm);
-    return status::kSuccess;
+    return Combined(kComplexLoops().multiply, aRe, aIm, bRe, bIm, n, outRe, outIm);
 }
 
 Status CxArrDivide(const double* aRe, const double* aIm, const double* bRe, const double* bIm, Count n, double* outRe,
                    double* outIm) noexcept {
-    if (n < 1) return status::kSamplesNotPositive;
-    kComplexLoops().divide(aRe, aIm, bRe, bIm, n, outRe, outIm);
-    return status::kSuccess;
+    return Combined(kComplexLoops().divide, aRe, aIm, bRe, bIm, n, outRe, outIm);
 }
 
 Status CxArrToPolar(double* re, double* im, Count n, double* outMagnitude, double* outPhase) noexcept {

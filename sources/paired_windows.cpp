@@ -62,7 +62,8 @@ Status WinKaiser(T* x, Count n, double beta) noexcept {
     return status::kSuccess;
 }
 
-// The periodic form is the symmetric one of n + 1 samples without its last.
+// The periodic form is the symmetric one of n + 1 samples without its last. For even n the middle has the factor 1,
+// also where sigma is NaN or so small that c is infinite.
 template <class T>
 Status WinGaussian(T* x, Count n, double sigma) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
@@ -71,7 +72,6 @@ Status WinGaussian(T* x, Count n, double sigma) noexcept {
     const double middle = n / 2.0;
     Scale(x[0], bell(middle));
     ScalePairs(x, n, [=](Count k) { return bell(k - middle); });
-    if (n % 2 == 0) Scale(x[n / 2], bell(0.0));
     return status::kSuccess;
 }
 

@@ -2848,6 +2848,8 @@ QV_API QvStatus ZemFunc429(QvComplex* x, int64_t n, int32_t window, double param
  * Multiplies data by a window divided by its coherent gain, so that a sine keeps its amplitude in the spectrum.
  * The properties of the rectangle and the cosine sums are printed ones, the others are measured on the window.
  * A negative parameter means 60 dB for Chebyshev and 0.2 for Gaussian.
+ * A window that is 0 everywhere, as the triangle of one sample is, has NaN properties and makes the data NaN; that is
+ * no error.
  * After -20046 the properties are untouched.
  * @param x read and written, [n]: data
  * @param n samples

@@ -272,7 +272,7 @@ TEST(WinBartlettHanning, AndBohmanOfTwoSamplesAre0And1) {
         Reals x(2, 1.0);
         ASSERT_EQ(window(x, 2), 0);
         EXPECT_EQ(x[0], 0.0);
-        EXPECT_NEAR(x[1], 1.0, kEpsilon);
+        EXPECT_EQ(x[1], 1.0);
     }
 }
 
@@ -309,6 +309,17 @@ TEST(WinGaussian, TakesASigmaThatIsNotPositiveFor02) {
         Reals x(9, 1.0);
         ASSERT_EQ(ZemFunc280(x, 9, sigma), 0);
         EXPECT_TRUE(Same(x, expected));
+    }
+}
+
+TEST(WinGaussian, KeepsTheMiddleOfAnEvenLengthWhateverSigma) {
+    for (double sigma : {0.3, 1e-200, 4.9406564584124654e-324, kInf, kNaN}) {
+        Reals x{1.0, 1.0, 7.0, 1.0};
+        Records z(4, ComplexRecord{3.0, -4.0});
+        ASSERT_EQ(ZemFunc280(x, 4, sigma), 0);
+        ASSERT_EQ(ZemFunc441(z, 4, sigma), 0);
+        EXPECT_EQ(x[2], 7.0) << sigma;
+        EXPECT_TRUE(z[2].re == 3.0 && z[2].im == -4.0) << sigma;
     }
 }
 

@@ -136,6 +136,37 @@ TEST(StatMoment, TestsTheCountBeforeTheOrderAndTheOrderAsASignedNumber) {
     EXPECT_TRUE(Untouched(moment));
 }
 
+TEST(DescriptiveStatistics, TakeTheirSumsInIndexOrderToTheLastBit) {
+    constexpr int n = 777;
+    const Reals x = RandomReals(n, 1);
+    const Records z = RandomRecords(n, 2);
+    double sum = 0, squares = 0, complex_squares = 0, deviations = 0, fifths = 0;
+    for (int i = 0; i < n; ++i) {
+        sum += x[i];
+        squares += x[i] * x[i];
+        complex_squares += z[i].re * z[i].re + z[i].im * z[i].im;
+    }
+    const double mean = sum / n;
+    for (int i = 0; i < n; ++i) {
+        const double d = x[i] - mean;
+        deviations += d * d;
+        fifths += d * d * d * d * d;
+    }
+    Reals a = Output(1), b = Output(1);
+    EXPECT_EQ(ZemFunc122(x, n, a), 0);
+    EXPECT_TRUE(SameBits(a[0], mean));
+    EXPECT_EQ(ZemFunc150(x, n, a), 0);
+    EXPECT_TRUE(SameBits(a[0], std::sqrt(squares / n)));
+    EXPECT_EQ(ZemFunc369(z, n, a), 0);
+    EXPECT_TRUE(SameBits(a[0], std::sqrt(complex_squares / n)));
+    EXPECT_EQ(ZemFunc184(x, n, a, b), 0);
+    EXPECT_TRUE(SameBits(a[0], mean) && SameBits(b[0], squares / n - mean * mean));
+    EXPECT_EQ(ZemFunc166(x, n, a, b), 0);
+    EXPECT_TRUE(SameBits(a[0], mean) && SameBits(b[0], std::sqrt(deviations / n)));
+    EXPECT_EQ(ZemFunc125(x, n, 5, a), 0);
+    EXPECT_TRUE(SameBits(a[0], fifths / n));
+}
+
 TEST(DescriptiveStatistics, RefuseSizesAndTouchNothing) {
     const Reals x{1, 2};
     Reals a = Output(1), b = Output(1);
