@@ -6,7 +6,8 @@
 The folder holds the objects, below quorvan_SET.dir. Contraction is off, so that stated orders of operations round alike
 on every machine; but GCC 12 still fuses where it meets its pattern of interleaved complex products (vfmaddsub,
 vfmsubadd).
-Without objdump, or without wide registers, nothing can be looked at, and the exit code is 77.
+Without objdump, without wide registers, and in an unoptimised build, where not even the kernels fuse, nothing can be
+seen, and the exit code is 77.
 """
 
 import pathlib
@@ -15,12 +16,14 @@ import shutil
 import subprocess
 import sys
 
+ROOT = pathlib.Path(__file__).resolve().parents[2]
 SETS = ("avx2", "avx512")
 SKIPPED = 77
 
 # Where only the level of rounding counts.
+KERNELS = "transforms/kernels/"
 EXEMPT = (
-    "transforms/kernels/",  # straight-line transforms, which fuse on purpose
+    KERNELS,  # straight-line transforms, which fuse on purpose
     "transforms/fft_loops.target.cpp",  # passes of the FFT cores around them, held to the same level
 )
 
@@ -32,29 +35,33 @@ def fused_instructions(unit):
     return FUSED.findall(listing.stdout)
 
 
+def skip(why):
+    print(why)
+    raise SystemExit(SKIPPED)
+
+
 def main():
     if shutil.which("objdump") is None:
-        print("no objdump here")
-        raise SystemExit(SKIPPED)
+        skip("no objdump here")
     folder = pathlib.Path(sys.argv[1])
     if not (folder / "quorvan_baseline.dir").is_dir():
         raise SystemExit(f"no objects below {folder}")
-    if not any((folder / f"quorvan_{instruction_set}.dir").is_dir() for instruction_set in SETS):
-        print("this build has no wide registers")
-        raise SystemExit(SKIPPED)
-    errors, seen = [], 0
+    errors, seen, kernels = [], 0, 0
     for instruction_set in SETS:
         room = folder / f"quorvan_{instruction_set}.dir"
-        units = {path.relative_to(room).as_posix(): path for path in room.rglob("*.target.cpp.o*")}
-        kernels = [path for name, path in units.items() if name.startswith("transforms/kernels/")]
-        if not any(map(fused_instructions, kernels)):
-            errors.append(f"{instruction_set}: not even the kernels fuse, so this test sees nothing")
-        for name, path in sorted(units.items()):
+        for path in sorted(room.rglob("*.target.cpp.o*")):
+            name = path.relative_to(room).as_posix()
+            if not (ROOT / name[: name.rindex(".")]).exists():
+                continue  # left by a unit that is gone
+            if name.startswith(KERNELS):
+                kernels += len(fused_instructions(path))
             if name.startswith(EXEMPT):
                 continue
             seen += 1
             if fused := fused_instructions(path):
                 errors.append(f"{instruction_set}: {name} holds {len(fused)} fused instructions: {sorted(set(fused))}")
+    if not kernels:
+        skip("nothing fuses in this build, not even the kernels")
     print(f"{seen} objects looked at")
     raise SystemExit("\n".join(errors) or None)
 
