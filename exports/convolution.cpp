@@ -56,7 +56,7 @@ QV_EXPORT Status ZemFunc490(const ComplexRecord* x, Size n, const ComplexRecord*
 }
 
 QV_EXPORT Status ZemFunc425(const ComplexRecord* x, Size n, std::int32_t normalisation, ComplexRecord* out) {
-    return narrowed(n, [&](Count n) { return CorrelateComplex(x, n, x, n, kConvolveByFft, normalisation, out); });
+    return narrowed(n, [&](Count n) { return AutoCorrelateComplex(x, n, normalisation, out); });
 }
 
 QV_EXPORT Status ZemFunc54(const double* y, Size n, const double* x, Size m, double* out) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/complex.h"
 #include "frame/memory.h"
 #include "frame/status.h"
 #include "transforms/direct_convolution.h"
@@ -16,53 +17,60 @@ Status CheckSizes(Count n, Count m) {
     return ConvolvedLength(n, m) > INT32_MAX ? status::kOverflow : status::kSuccess;
 }
 
-Status ByFft(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, ComplexRecord* out) {
-    const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
-    const HeldPlan plan(S);
-    const Block<ComplexRecord> work(3 * static_cast<std::size_t>(S));
-    if (!plan || !work) return status::kOutOfMemory;
-    ComplexRecord *const padded = work, *const xSpectrum = padded + S, *const ySpectrum = xSpectrum + S;
-    CopyPadded(x, n, S, padded);
-    if (const Status failure = RecordsThrough(FftComplex, plan, padded, xSpectrum, S)) return failure;
-    CopyPadded(y, m, S, padded);
-    if (const Status failure = RecordsThrough(FftComplex, plan, padded, ySpectrum, S)) return failure;
-    kSpectrumLoops().multiply(xSpectrum, ySpectrum, S);
-    if (S == length) return RecordsThrough(FftComplexInverse, plan, xSpectrum, out, S);
-    if (const Status failure = RecordsThrough(FftComplexInverse, plan, xSpectrum, padded, S)) return failure;
-    std::copy(padded, padded + length, out);
-    return status::kSuccess;
+// What both kinds of sequences need of spectra, HalfComplex or full. No two arrays overlap.
+Status Forward(const FftPlan* plan, const double* x, Count n, double* spectrum) {
+    return FftReal(plan, x, spectrum, 1, 1, n);
+}
+Status Forward(const FftPlan* plan, const ComplexRecord* x, Count n, ComplexRecord* spectrum) {
+    return RecordsThrough(FftComplex, plan, x, spectrum, n);
+}
+Status Back(const FftPlan* plan, double* spectrum, Count n, double* out) {
+    return FftRealInverse(plan, spectrum, out, 1, 1, n);
+}
+Status Back(const FftPlan* plan, const ComplexRecord* spectrum, Count n, ComplexRecord* out) {
+    return RecordsThrough(FftComplexInverse, plan, spectrum, out, n);
+}
+void Multiply(const double* a, const double* b, Count n, double* out) { kSpectrumLoops().multiplyHalf(a, b, n, out); }
+void Multiply(const ComplexRecord* a, const ComplexRecord* b, Count n, ComplexRecord* out) {
+    kSpectrumLoops().multiply(a, b, n, out);
+}
+void Power(const double* a, Count n, double* out) { kSpectrumLoops().powerHalf(a, n, out); }
+void Power(const ComplexRecord* a, Count n, ComplexRecord* out) {
+    for (Count k = 0; k < n; ++k) out[k] = {CxSquaredMagnitude(a[k]), 0};
 }
 
 // x as it stands, or from its end.
-Status ByFft(const double* x, Count n, bool reversed, const double* y, Count m, double* out) {
+template <class T>
+Status ByFft(const T* x, Count n, bool reversed, const T* y, Count m, T* out) {
     const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
     const HeldPlan plan(S);
-    const Block<double> work(3 * static_cast<std::size_t>(S));
+    const Block<T> work(3 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
-    double *const padded = work, *const xSpectrum = padded + S, *const ySpectrum = xSpectrum + S;
+    T *const padded = work, *const xSpectrum = padded + S, *const ySpectrum = xSpectrum + S;
     CopyPadded(x, n, S, padded);
     if (reversed) std::reverse(padded, padded + n);
-    if (const Status failure = FftReal(plan, padded, xSpectrum, 1, 1, S)) return failure;
+    if (const Status failure = Forward(plan, padded, S, xSpectrum)) return failure;
     CopyPadded(y, m, S, padded);
-    if (const Status failure = FftReal(plan, padded, ySpectrum, 1, 1, S)) return failure;
-    kSpectrumLoops().multiplyHalf(xSpectrum, ySpectrum, S, padded);
-    if (S == length) return FftRealInverse(plan, padded, out, 1, 1, S);
-    if (const Status failure = FftRealInverse(plan, padded, xSpectrum, 1, 1, S)) return failure;
+    if (const Status failure = Forward(plan, padded, S, ySpectrum)) return failure;
+    Multiply(xSpectrum, ySpectrum, S, padded);
+    if (S == length) return Back(plan, padded, S, out);
+    if (const Status failure = Back(plan, padded, S, xSpectrum)) return failure;
     std::copy(xSpectrum, xSpectrum + length, out);
     return status::kSuccess;
 }
 
 // One transform there and one back; negative lags come from the end of the circular result.
-Status AutocorrelateByFft(const double* x, Count n, double* out) {
+template <class T>
+Status AutocorrelateByFft(const T* x, Count n, T* out) {
     const Count S = FftFastSize(static_cast<Count>(ConvolvedLength(n, n)));
     const HeldPlan plan(S);
-    const Block<double> work(2 * static_cast<std::size_t>(S));
+    const Block<T> work(2 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;
-    double *const lags = work, *const spectrum = lags + S;
+    T *const lags = work, *const spectrum = lags + S;
     CopyPadded(x, n, S, lags);
-    if (const Status failure = FftReal(plan, lags, spectrum, 1, 1, S)) return failure;
-    kSpectrumLoops().powerHalf(spectrum, S, lags);
-    if (const Status failure = FftRealInverse(plan, lags, spectrum, 1, 1, S)) return failure;
+    if (const Status failure = Forward(plan, lags, S, spectrum)) return failure;
+    Power(spectrum, S, lags);
+    if (const Status failure = Back(plan, lags, S, spectrum)) return failure;
     std::copy(spectrum, spectrum + n, out + n - 1);
     std::copy(spectrum + S - n + 1, spectrum + S, out);
     return status::kSuccess;
@@ -109,7 +117,7 @@ Status ConvolveComplex(const ComplexRecord* x, Count n, const ComplexRecord* y, 
                        ComplexRecord* out) noexcept {
     if (const Status failure = CheckSizes(n, m)) return failure;
     if (method > kConvolveByFft) return status::kInvalidSelection;
-    if (method == kConvolveByFft) return ByFft(x, n, y, m, out);
+    if (method == kConvolveByFft) return ByFft(x, n, false, y, m, out);
     // Each output is a dot product along the longer sequence.
     std::fill(out, out + ConvolvedLength(n, m), ComplexRecord{});
     if (n >= m)
@@ -141,9 +149,15 @@ Status CorrelateComplex(const ComplexRecord* x, Count n, const ComplexRecord* y,
     if (const Status failure = CheckSizes(n, m)) return failure;
     const Block<ComplexRecord> reversed(static_cast<std::size_t>(n));
     if (!reversed) return status::kOutOfMemory;
-    for (Count i = 0; i < n; ++i) reversed[i] = {x[n - 1 - i].re, -x[n - 1 - i].im};
+    for (Count i = 0; i < n; ++i) reversed[i] = CxConj(x[n - 1 - i]);
     if (const Status failure = ConvolveComplex(reversed, n, y, m, method, out)) return failure;
     return Normalise(out, n, m, normalisation);
+}
+
+Status AutoCorrelateComplex(const ComplexRecord* x, Count n, std::uint32_t normalisation, ComplexRecord* out) noexcept {
+    if (const Status failure = CheckSizes(n, n)) return failure;
+    if (const Status failure = AutocorrelateByFft(x, n, out)) return failure;
+    return Normalise(out, n, n, normalisation);
 }
 
 }  // namespace quorvan

@@ -21,6 +21,8 @@ Status CorrelateReal(const double* x, Count n, const double* y, Count m, std::ui
                      std::uint32_t normalisation, double* out) noexcept;
 Status CorrelateComplex(const ComplexRecord* x, Count n, const ComplexRecord* y, Count m, std::uint32_t method,
                         std::uint32_t normalisation, ComplexRecord* out) noexcept;
+// By transforms.
+Status AutoCorrelateComplex(const ComplexRecord* x, Count n, std::uint32_t normalisation, ComplexRecord* out) noexcept;
 
 // The n - m + 1 elements whose convolution with x is y. -20008 for m above n, -20060 for an x of zeros.
 Status Deconvolve(const double* y, Count n, const double* x, Count m, double* out) noexcept;

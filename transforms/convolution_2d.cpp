@@ -96,7 +96,7 @@ Status ByFft(Array2D<T> x, Array2D<T> y, Count R, Count C, T* full) {
     ComplexRecord *const first = work, *const second = first + bins;
     if (const Status failure = Spectrum(plane, x, C, first)) return failure;
     if (const Status failure = Spectrum(plane, y, C, second)) return failure;
-    kSpectrumLoops().multiply(first, second, bins);
+    kSpectrumLoops().multiply(first, second, bins, first);
     return Samples(plane, first, R, C, full);
 }
 

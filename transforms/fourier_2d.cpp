@@ -42,6 +42,10 @@ Status TransformRealFft2D(const double* x, Count rows, Count cols, Count fftRows
     if (rows < 1 || cols < 1) return status::kSamplesNotPositive;
     const Count R = TransformLength(rows, fftRows), C = TransformLength(cols, fftCols), used = std::min(rows, R);
     if (TooManyElements(R, C)) return status::kOverflow;
+    if (R == 1 && C == 1) {
+        out[0] = {x[0], 0};
+        return status::kSuccess;
+    }
     const Plane plane(R, C);
     if (!plane) return status::kOutOfMemory;
     for (Size r = 0; r < used; ++r)
@@ -64,6 +68,10 @@ Status TransformComplexFft2D(const ComplexRecord* x, Count rows, Count cols, Cou
     if (rows < 1 || cols < 1) return status::kSamplesNotPositive;
     const Count R = TransformLength(rows, fftRows), C = TransformLength(cols, fftCols), used = std::min(rows, R);
     if (TooManyElements(R, C)) return status::kOverflow;
+    if (R == 1 && C == 1) {
+        out[0] = x[0];
+        return status::kSuccess;
+    }
     const Plane plane(R, C);
     if (!plane) return status::kOutOfMemory;
     for (Size r = 0; r < used; ++r)

@@ -47,11 +47,11 @@ bool Powers(ComplexRecord w, Count m, ComplexRecord* powers) {
 // The weights of Lagrange's formula for the nodes, by the ratio of neighbours.
 void LagrangeWeights(const ComplexRecord* powers, Count m, ComplexRecord* weights) {
     weights[0] = kOne;
-    for (Count k = 1; k < m; ++k) weights[0] = CxDivide(weights[0], CxSubtract(kOne, CxDivide(kOne, powers[k])));
+    for (Count k = 1; k < m; ++k)
+        weights[0] = CxMultiply(weights[0], CxDivide(kOne, CxSubtract(kOne, CxDivide(kOne, powers[k]))));
     for (Count k = 1; k < m; ++k) {
-        const ComplexRecord ratio =
-            CxDivide(CxSubtract(kOne, CxDivide(powers[k], powers[m])), CxSubtract(kOne, powers[k]));
-        weights[k] = CxMultiply(weights[k - 1], ratio);
+        const ComplexRecord product = CxMultiply(weights[k - 1], CxSubtract(kOne, CxDivide(powers[k], powers[m])));
+        weights[k] = CxDivide(product, CxSubtract(kOne, powers[k]));
     }
 }
 

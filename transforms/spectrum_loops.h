@@ -16,8 +16,8 @@ struct SpectrumLoops {
     void (*multiplyHalf)(const double* a, const double* b, Count n, double* out);
     void (*powerHalf)(const double* a, Count n, double* out);
 
-    // a[k] = a[k] b[k]
-    void (*multiply)(ComplexRecord* a, const ComplexRecord* b, Size n);
+    // out[k] = a[k] b[k]; out may be a or b.
+    void (*multiply)(const ComplexRecord* a, const ComplexRecord* b, Size n, ComplexRecord* out);
     // out[k] = |re + i im|^2 scale, and conj(x) y scale, of split spectra.
     void (*power)(const double* re, const double* im, double scale, Count n, double* out);
     void (*crossPower)(const double* xRe, const double* xIm, const double* yRe, const double* yIm, double scale,

@@ -78,13 +78,12 @@ void PowerHalf(const double* __restrict a, Count n, double* __restrict out) {
     if (n % 2 == 0) out[n / 2] = a[n / 2] * a[n / 2];
 }
 
-void Multiply(ComplexRecord* a, const ComplexRecord* b, Size n) {
-    double* out = &a->re;
-    const double* in = &b->re;
+void Multiply(const ComplexRecord* a, const ComplexRecord* b, Size n, ComplexRecord* out) {
+    const double *const x = &a->re, *const y = &b->re;
+    double* const to = &out->re;
     Size i = 0;
-    for (; i + kWidth <= 2 * n; i += kWidth)
-        Store(out + i, Product(FactorsOf(Load<Wide>(out + i)), Load<Wide>(in + i)));
-    for (; i < 2 * n; i += 2) Store(out + i, Product(FactorsOf(Load<Pair>(out + i)), Load<Pair>(in + i)));
+    for (; i + kWidth <= 2 * n; i += kWidth) Store(to + i, Product(FactorsOf(Load<Wide>(x + i)), Load<Wide>(y + i)));
+    for (; i < 2 * n; i += 2) Store(to + i, Product(FactorsOf(Load<Pair>(x + i)), Load<Pair>(y + i)));
 }
 
 void Power(const double* __restrict re, const double* __restrict im, double scale, Count n, double* __restrict out) {

@@ -943,7 +943,7 @@ QV_API QvStatus ZemFunc490(const QvComplex* x, int64_t n, const QvComplex* y, in
 #define QvCorrelateComplexNormalised ZemFunc490
 
 /**
- * AutoCorrelateComplex (CorrelateComplex).
+ * AutoCorrelateComplex.
  * The autocorrelation, out[n - 1 + l] = sum over i of conj(x[i]) x[i + l].
  * @param x read, [n]: the sequence
  * @param n its length

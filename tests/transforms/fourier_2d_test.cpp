@@ -83,9 +83,10 @@ TEST(RealFft2D, IsHermitianToTheLastBitInTheFilledHalf) {
     }
 }
 
-TEST(Fft2D, OfOneElementIsTheElement) {
+TEST(Fft2D, OfOneElementIsTheElementAndTakesNoMemory) {
     const Reals x{2.5, 7, 8, 9};
     const Records z{{2.5, -1}, {7, 7}};
+    FailAllocation(0);
     for (int shift : {0, 1}) {
         Records out = RecordOutput(1);
         ASSERT_EQ(ZemFunc266(x, 2, 2, 1, 1, shift, out), 0);
@@ -95,6 +96,7 @@ TEST(Fft2D, OfOneElementIsTheElement) {
         EXPECT_EQ(out[0].re, 2.5);
         EXPECT_EQ(out[0].im, -1);
     }
+    FailAllocation(-1);
 }
 
 TEST(Ifft2D, UndoesTheForwardTransformWithMatchingOrder) {
