@@ -20,6 +20,7 @@ FftPlan* plan_list = nullptr;
 // 10 stands first on purpose: it keeps decimal sizes on one kernel.
 constexpr Count kKernelSizes[] = {10, 43, 41, 37, 32, 31, 29, 19, 18, 17, 16, 14, 13, 11, 9, 8, 7, 5, 4, 3, 2};
 constexpr Count kFirstLargePrime = 50;
+constexpr Count kCacheLine = 8;  // doubles
 
 FftPlan* CreateUnlocked(Count size) noexcept;
 void ReleaseUnlocked(FftPlan* plan) noexcept;
@@ -73,12 +74,17 @@ Status MakeStages(FftPlan& plan) noexcept {
     return status::kSuccess;
 }
 
-// The twiddles once more, in the order in which the stage kernels read them.
-Status MakeBlockedTwiddles(FftStage& stage, Count f, Count m) noexcept {
+// How many doubles the stage kernels read for all columns of a stage.
+Size BlockedLength(Count f, Count m) noexcept {
     const FftKernelTable& kernels = kFftKernels();
     Size length = 0;
     for (Count j = 0; j < m; j += kernels.blockWidth(m - j)) length += 2 * Size(f - 1) * kernels.blockWidth(m - j);
-    if (!Allocate(stage.blockedTwiddles, length)) return status::kOutOfMemory;
+    return length;
+}
+
+// The twiddles once more, in the order in which the stage kernels read them.
+void FillBlockedTwiddles(FftStage& stage, Count f, Count m) noexcept {
+    const FftKernelTable& kernels = kFftKernels();
     double* out = stage.blockedTwiddles;
     for (Count j = 0; j < m;) {
         const Count width = kernels.blockWidth(m - j);
@@ -94,19 +100,45 @@ Status MakeBlockedTwiddles(FftStage& stage, Count f, Count m) noexcept {
         out += 2 * Size(f - 1) * width;
         j += width;
     }
-    return status::kSuccess;
+}
+
+// Lays the twiddles of all stages and then the leaf positions out from `tables` on, and returns how many doubles that
+// takes. A null start lays nothing out.
+Size PlaceTables(FftPlan& plan, double* tables) noexcept {
+    Size used = 0;
+    const auto take = [&](double*& table, Size length) {
+        if (tables) table = tables + used;
+        used += (length + kCacheLine - 1) / kCacheLine * kCacheLine;
+    };
+    Count m = plan.size;
+    for (Count i = 0; i + 1 < plan.factorCount; ++i) {
+        FftStage& stage = *plan.stages[i];
+        const Count f = plan.factors[i];
+        m /= f;
+        take(stage.twiddleCos, Size(f - 1) * (m - 1));
+        take(stage.twiddleSin, Size(f - 1) * (m - 1));
+        if (plan.kinds[i] != kLargePrime) take(stage.blockedTwiddles, BlockedLength(f, m));
+    }
+    double* positions = nullptr;
+    take(positions, (Size(plan.size) / m + 1) / 2);
+    plan.leafPositions = reinterpret_cast<Count*>(positions);
+    return used;
 }
 
 Status MakeTwiddles(FftPlan& plan) noexcept {
+    // One block, and a quarter more than is touched: glibc gives free memory back to the system beyond twice the
+    // largest block that it has seen. With many blocks, or a workspace as large as the plan beside it, it would do so
+    // after every call, and the next call would fetch all pages again.
+    const Size used = PlaceTables(plan, nullptr);
+    if (!Allocate(plan.tables, used + used / 4 + kCacheLine)) return status::kOutOfMemory;
+    const std::size_t past = reinterpret_cast<std::uintptr_t>(plan.tables) / sizeof(double) % kCacheLine;
+    PlaceTables(plan, plan.tables + (kCacheLine - past) % kCacheLine);
     Count length = plan.size;
     for (Count i = 0; i + 1 < plan.factorCount; ++i) {
         FftStage& stage = *plan.stages[i];
         const Count f = plan.factors[i], m = length / f;
-        const Size entries = Size(f - 1) * (m - 1);
-        if (!Allocate(stage.twiddleCos, entries) || !Allocate(stage.twiddleSin, entries)) return status::kOutOfMemory;
         StageTwiddles(kTwoPi / length, f, m - 1, stage.twiddleCos, stage.twiddleSin);
-        if (plan.kinds[i] != kLargePrime)
-            if (const Status status = MakeBlockedTwiddles(stage, f, m); status < 0) return status;
+        if (stage.blockedTwiddles) FillBlockedTwiddles(stage, f, m);
         length = m;
     }
     return status::kSuccess;
@@ -225,8 +257,6 @@ Status MakeLargePrimes(FftPlan& plan) noexcept {
 Status MakeLeafPositions(FftPlan& plan) noexcept {
     const Count last = plan.factorCount - 1;
     if (last < 0) return status::kSuccess;
-    const Count leaves = plan.size / plan.factors[last];
-    if (!Allocate(plan.leafPositions, leaves)) return status::kOutOfMemory;
     plan.leafPositions[0] = 0;
     Count length = plan.size, made = 1;
     for (Count i = 0; i < last; ++i) {
@@ -247,16 +277,13 @@ void Free(FftPlan* plan) noexcept {
         HeapFree(stage->paddedSpectrum);
         HeapFree(stage->primeCos);
         HeapFree(stage->primeSin);
-        HeapFree(stage->twiddleCos);
-        HeapFree(stage->twiddleSin);
         HeapFree(stage->raderSpectrumRe);
         HeapFree(stage->raderSpectrumIm);
         HeapFree(stage->raderGather);
         HeapFree(stage->raderScatter);
-        HeapFree(stage->blockedTwiddles);
         HeapFree(stage);
     }
-    HeapFree(plan->leafPositions);
+    HeapFree(plan->tables);
     HeapFree(plan);
 }
 

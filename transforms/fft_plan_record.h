@@ -49,6 +49,8 @@ struct FftPlan {
     FftPlan* next;
     // Where the leaf transform that starts at input t stands in the output.
     Count* leafPositions;
+    // The block that all twiddles and the leaf positions stand in.
+    double* tables;
 };
 
 }  // namespace quorvan
