@@ -53,7 +53,8 @@ endforeach()
 # Inside the FFT kernels only the level of rounding counts: there products and sums may fuse.
 foreach(unit IN LISTS QUORVAN_TARGET_UNITS)
     if(unit MATCHES "/transforms/kernels/")
-        set_source_files_properties(${unit} PROPERTIES COMPILE_OPTIONS -ffp-contract=fast)
+        set_source_files_properties(${unit} PROPERTIES COMPILE_OPTIONS
+            "-ffp-contract=fast;$<$<CXX_COMPILER_ID:GNU>:-fno-var-tracking-assignments>")
     endif()
 endforeach()
 

@@ -155,16 +155,26 @@ Status MakePrimeTables(FftPlan& plan) noexcept {
     return status::kSuccess;
 }
 
-// The smallest g whose powers run through 1 to p - 1.
+Count PowerModulo(Count base, Count exponent, Count p) noexcept {
+    Size result = 1;
+    for (Size square = base; exponent; exponent /= 2, square = square * square % p)
+        if (exponent % 2) result = result * square % p;
+    return static_cast<Count>(result);
+}
+
+// The smallest g whose powers run through 1 to p - 1: no power (p - 1)/q of it, q a prime factor of p - 1, is 1.
 Count PrimitiveRoot(Count p) noexcept {
+    Count primes[16], count = 0, rest = p - 1;
+    for (Size q = 2; q * q <= rest; ++q) {
+        if (rest % q) continue;
+        primes[count++] = static_cast<Count>(q);
+        while (rest % q == 0) rest /= static_cast<Count>(q);
+    }
+    if (rest > 1) primes[count++] = rest;
     for (Count g = 2; g < p; ++g) {
-        Size x = 1;
-        Count exponent = 0;
-        do {
-            x = x * g % p;
-            ++exponent;
-        } while (x != 1 && exponent < p - 1);
-        if (x == 1 && exponent == p - 1) return g;
+        Count k = 0;
+        while (k < count && PowerModulo(g, (p - 1) / primes[k], p) != 1) ++k;
+        if (k == count) return g;
     }
     return 1;
 }

@@ -134,7 +134,14 @@ struct BlockOf {
             L::Transpose(rows);
             for (int c = 0; c < count; ++c) L::Store(out + positions[c] + k, rows[c]);
         }
-        if constexpr (kRest > 0) {
+        if constexpr (kRest == 2 && W > 2) {
+            // Two elements are one pair a lane: no whole transpose.
+            alignas(64) double pairs[2 * W];
+            L::Store(pairs, L::EvenPairs(h[kWhole], h[kWhole + 1]));
+            L::Store(pairs + W, L::OddPairs(h[kWhole], h[kWhole + 1]));
+            for (int c = 0; c < count; ++c)
+                Lanes<2>::Store(out + positions[c] + kWhole, Lanes<2>::Load(pairs + c % 2 * W + c / 2 * 2));
+        } else if constexpr (kRest > 0) {
             for (int i = 0; i < W; ++i) rows[i] = i < kRest ? h[kWhole + i] : V{};
             L::Transpose(rows);
             for (int c = 0; c < count; ++c) L::Store(out + positions[c] + kWhole, {0, kRest}, rows[c]);

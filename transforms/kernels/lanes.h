@@ -144,6 +144,9 @@ struct Lanes<4> {
     QV_INLINE static V Turn(V v) {
         return _mm256_xor_pd(_mm256_permute_pd(v, 0b0101), _mm256_set_pd(0.0, -0.0, 0.0, -0.0));
     }
+    // (a, b) of the even lanes, and of the odd ones.
+    QV_INLINE static V EvenPairs(V a, V b) { return _mm256_unpacklo_pd(a, b); }
+    QV_INLINE static V OddPairs(V a, V b) { return _mm256_unpackhi_pd(a, b); }
     QV_INLINE static void TransposeRows(V* v) {
         const V a = _mm256_permute2f128_pd(v[0], v[1], 0x20);
         v[1] = _mm256_permute2f128_pd(v[0], v[1], 0x31);
@@ -207,6 +210,8 @@ struct Lanes<8> {
         const V sign = _mm512_set_pd(0.0, -0.0, 0.0, -0.0, 0.0, -0.0, 0.0, -0.0);
         return _mm512_xor_pd(_mm512_permute_pd(v, 0b01010101), sign);
     }
+    QV_INLINE static V EvenPairs(V a, V b) { return _mm512_unpacklo_pd(a, b); }
+    QV_INLINE static V OddPairs(V a, V b) { return _mm512_unpackhi_pd(a, b); }
     QV_INLINE static void TransposeRows(V* v) { TransposePairs(v[0], v[1], v[2], v[3], v); }
 
     QV_INLINE static void TransposePairs(V a, V b, V c, V d, V* rows) {
