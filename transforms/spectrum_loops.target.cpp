@@ -9,29 +9,35 @@ namespace {
 enum class Order { kNatural, kShifted };
 template <Order kOrder>
 void JoinBins(const double* re, const double* im, Count count, double* out) {
-    Count i = 0;
-    for (; i + kWidth <= count; i += kWidth) {
+    const auto join = [&](Count i) {
         const Count back = count - i - kWidth;
         if constexpr (kOrder == Order::kNatural)
             StoreInterleaved(out + 2 * Size{i}, Reversed(Load<Wide>(re + back)), -Load<Wide>(im + i));
         else
             StoreInterleaved(out + 2 * Size{i}, Load<Wide>(re + i), Reversed(Load<Wide>(im + back)));
-    }
+    };
+    Count i = 0;
+    for (; i + kWidth <= count; i += kWidth) join(i);
+    if (i < count && count >= kWidth) return join(count - kWidth);  // the last block overlaps the one before
     for (; i < count; ++i) {
         out[2 * Size{i}] = kOrder == Order::kNatural ? re[count - 1 - i] : re[i];
         out[2 * Size{i} + 1] = kOrder == Order::kNatural ? -im[i] : im[count - 1 - i];
     }
 }
 
-// out[i] = conj in[count-1-i]
+// out[count-1-i] = conj in[i], the records that were written first to the last place: what was written a moment ago can
+// not be read at once at other boundaries.
 void ConjugateBackwards(const double* in, Count count, double* out) {
     constexpr Count kRecords = kWidth / 2;
+    const auto mirror = [&](Count i) {
+        Store(out + 2 * Size{count - i - kRecords},
+              ReversedRecords(Load<Wide>(in + 2 * Size{i})) * Alternating<Wide>(1, -1));
+    };
     Count i = 0;
-    for (; i + kRecords <= count; i += kRecords)
-        Store(out + 2 * Size{i},
-              ReversedRecords(Load<Wide>(in + 2 * Size{count - i - kRecords})) * Alternating<Wide>(1, -1));
+    for (; i + kRecords <= count; i += kRecords) mirror(i);
+    if (i < count && count >= kRecords) return mirror(count - kRecords);
     for (; i < count; ++i)
-        Store(out + 2 * Size{i}, Load<Pair>(in + 2 * Size{count - 1 - i}) * Alternating<Pair>(1, -1));
+        Store(out + 2 * Size{count - 1 - i}, Load<Pair>(in + 2 * Size{i}) * Alternating<Pair>(1, -1));
 }
 
 // One half of the bins lies behind the packed result and is written from it; the other half is its mirror image. X[0]
