@@ -8,9 +8,6 @@
 namespace quorvan {
 namespace {
 
-// Adjacent leaf transforms that go through the levels together: a whole vector of the widest instruction set.
-constexpr Count kGroup = 8;
-
 struct ComplexRun {
     const FftPlan& plan;
     const double *inRe, *inIm;
@@ -67,47 +64,40 @@ struct RealRun {
 template <class Run>
 class Decimation {
 public:
-    Decimation(const Run& run) noexcept : run_(run), plan_(run.plan) {
-        Count m = plan_.size;
-        for (Count i = 0; i < plan_.factorCount; ++i) columns_[i] = m /= plan_.factors[i];
-        leaves_ = plan_.size / plan_.factors[plan_.factorCount - 1];
-    }
+    explicit Decimation(const Run& run) noexcept : run_(run), plan_(run.plan) {}
 
     // The first levels are taken breadth first, until they part the input into enough adjacent sub-transforms to fill
     // vectors; below them a group of adjacent ones goes depth first, so that its data stays in the cache.
     Status Transform() const noexcept {
-        const Count last = plan_.factorCount - 1;
-        Count level = 0, stride = 1;
-        while (level < last && (stride < kGroup || (stride % kGroup && stride < 4 * kGroup)))
-            stride *= plan_.factors[level++];
-        for (Count first = 0; first < stride; first += kGroup) {
-            const Count count = level == last ? stride : stride - first < kGroup ? stride - first : kGroup;
-            if (const Status status = Descend(level, first, count, stride); status < 0) return status;
-            if (level == last) break;
+        const Count stride = plan_.groupStride;
+        const Count group = plan_.groupLevel == plan_.factorCount - 1 ? stride : kFftGroup;
+        for (Count first = 0; first < stride; first += group) {
+            const Count count = stride - first < group ? stride - first : group;
+            if (const Status status = Descend(plan_.groupLevel, first, count, stride); status < 0) return status;
         }
-        while (level-- > 0)
-            for (Size position = 0; position < plan_.size; position += Size(columns_[level]) * plan_.factors[level])
-                if (const Status status = run_.Stage(level, position, columns_[level]); status < 0) return status;
+        for (Count level = plan_.groupLevel; level-- > 0;) {
+            const Count m = plan_.columns[level];
+            for (Size position = 0; position < plan_.size; position += Size(m) * plan_.factors[level])
+                if (const Status status = run_.Stage(level, position, m); status < 0) return status;
+        }
         return status::kSuccess;
     }
 
 private:
     Status Descend(Count level, Count first, Count count, Count stride) const noexcept {
-        if (level == plan_.factorCount - 1) return run_.Leaves(first, count, leaves_);
+        if (level == plan_.factorCount - 1) return run_.Leaves(first, count, plan_.leaves);
         for (Count t = 0; t < plan_.factors[level]; ++t)
             if (const Status status = Descend(level + 1, first + stride * t, count, stride * plan_.factors[level]);
                 status < 0)
                 return status;
         for (Count c = first; c < first + count; ++c)
-            if (const Status status = run_.Stage(level, plan_.leafPositions[c], columns_[level]); status < 0)
+            if (const Status status = run_.Stage(level, plan_.leafPositions[c], plan_.columns[level]); status < 0)
                 return status;
         return status::kSuccess;
     }
 
     const Run& run_;
     const FftPlan& plan_;
-    Count columns_[kMaxFactors];
-    Count leaves_;
 };
 
 }  // namespace
@@ -120,7 +110,7 @@ Status FftComplex(const FftPlan* plan, const double* inRe, const double* inIm, d
         *outIm = *inIm;
         return status::kSuccess;
     }
-    return Decimation(ComplexRun{*plan, inRe, inIm, outRe, outIm, inStride, outStride}).Transform();
+    return Decimation<ComplexRun>(ComplexRun{*plan, inRe, inIm, outRe, outIm, inStride, outStride}).Transform();
 }
 
 Status FftComplexInverse(const FftPlan* plan, const double* inRe, const double* inIm, double* outRe, double* outIm,
@@ -152,7 +142,7 @@ Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStrid
         *out = *in;
         return status::kSuccess;
     }
-    return Decimation(RealRun{*plan, in, out, inStride, outStride}).Transform();
+    return Decimation<RealRun>(RealRun{*plan, in, out, inStride, outStride}).Transform();
 }
 
 // By the Hartley transform, which is its own inverse: only forward kernels exist.

@@ -55,6 +55,18 @@ void Factorise(FftPlan& plan) noexcept {
             }
 }
 
+void Schedule(FftPlan& plan) noexcept {
+    const Count last = plan.factorCount - 1;
+    if (last < 0) return;
+    for (Count i = 0, m = plan.size; i <= last; ++i) plan.columns[i] = m /= plan.factors[i];
+    plan.leaves = plan.size / plan.factors[last];
+    plan.groupStride = 1;
+    const auto wasteful = [](Count stride) {
+        return stride < kFftGroup || (stride % kFftGroup && stride < 4 * kFftGroup);
+    };
+    while (plan.groupLevel < last && wasteful(plan.groupStride)) plan.groupStride *= plan.factors[plan.groupLevel++];
+}
+
 void ChooseKernels(FftPlan& plan) noexcept {
     for (Count i = 0; i < plan.factorCount; ++i) {
         const FftKernel* kernel = kFftKernels().kernel(plan.factors[i]);
@@ -316,6 +328,7 @@ FftPlan* CreateUnlocked(Count size) noexcept {
     *plan = {};
     plan->size = size;
     Factorise(*plan);
+    Schedule(*plan);
     ChooseKernels(*plan);
     if (Build(*plan) < 0) {
         Free(plan);

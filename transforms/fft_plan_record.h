@@ -32,6 +32,9 @@ struct FftStage {
 
 inline constexpr int kMaxFactors = 20;
 
+// Adjacent sub-transforms that go through the levels together: a whole vector of the widest instruction set.
+inline constexpr Count kFftGroup = 8;
+
 enum FactorKind : Count { kKernelFactor = 0, kGenericPrime = 1, kLargePrime = 2 };
 
 struct FftPlan {
@@ -47,6 +50,12 @@ struct FftPlan {
     ComplexStageKernel stageKernels[kMaxFactors];
     FftPlan* prev;
     FftPlan* next;
+    // The length of the blocks that a stage merges, and the number of leaf transforms.
+    Count columns[kMaxFactors];
+    Count leaves;
+    // The levels that the decimation takes breadth first, and the product of their factors.
+    Count groupLevel;
+    Count groupStride;
     // Where the leaf transform that starts at input t stands in the output.
     Count* leafPositions;
     // The block that all twiddles and the leaf positions stand in.

@@ -45,26 +45,47 @@ Status Convolve(const FftStage& stage, Count n, const Workspace& work, ComplexRe
     return FftComplex(plan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, length);
 }
 
+// A record in one register, where real and imaginary parts are neighbours.
+typedef double Record __attribute__((vector_size(2 * sizeof(double))));
+
+Record Load(const double* re, const double* im) noexcept { return Record{*re, *im}; }
+void Store(double* re, double* im, Record value) noexcept {
+    *re = value[0];
+    *im = value[1];
+}
+
+// sequence[q] = in[gather[q + 1]], and out[scatter[q + 1]] = first + conj sequence[q].
+template <bool kRecords>
+void Gather(const double* inRe, const double* inIm, Size stride, const FftStage& stage, Count n,
+            double* sequence) noexcept {
+    for (Count q = 0; q < n; ++q) {
+        const Size from = stage.raderGather[q + 1] * stride;
+        double* to = sequence + 2 * Size(q);
+        Store(to, to + 1, Load(inRe + from, kRecords ? inRe + from + 1 : inIm + from));
+    }
+}
+template <bool kRecords>
+void Scatter(const double* sequence, Record first, double* outRe, double* outIm, Size stride, const FftStage& stage,
+             Count n) noexcept {
+    for (Count q = 0; q < n; ++q) {
+        const Size to = stage.raderScatter[q + 1] * stride;
+        const double* from = sequence + 2 * Size(q);
+        const Record result = first + Load(from, from + 1) * Record{1, -1};
+        Store(outRe + to, kRecords ? outRe + to + 1 : outIm + to, result);
+    }
+}
+
 // One complex DFT of length p. The input may be the output.
 Status Transform(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride, Size outStride,
                  const FftStage& stage, Count p, const Workspace& work) noexcept {
     const Count n = p - 1;
-    const double firstRe = inRe[0], firstIm = inIm[0];
+    const Record first = Load(inRe, inIm);
     double* sequence = work.sequence();
-    for (Count q = 0; q < n; ++q) {
-        const Size from = stage.raderGather[q + 1] * inStride;
-        sequence[2 * Size(q)] = inRe[from];
-        sequence[2 * Size(q) + 1] = inIm[from];
-    }
+    (inIm == inRe + 1 ? Gather<true> : Gather<false>)(inRe, inIm, inStride, stage, n, sequence);
     ComplexRecord sum;
     if (const Status status = Convolve(stage, n, work, sum); status < 0) return status;
-    outRe[0] = firstRe + sum.re;
-    outIm[0] = firstIm + sum.im;
-    for (Count q = 0; q < n; ++q) {
-        const Size to = stage.raderScatter[q + 1] * outStride;
-        outRe[to] = firstRe + sequence[2 * Size(q)];
-        outIm[to] = firstIm - sequence[2 * Size(q) + 1];
-    }
+    Store(outRe, outIm, first + Record{sum.re, sum.im});
+    (outIm == outRe + 1 ? Scatter<true> : Scatter<false>)(sequence, first, outRe, outIm, outStride, stage, n);
     return status::kSuccess;
 }
 
