@@ -10,11 +10,16 @@
 namespace quorvan {
 namespace {
 
+// The plan that the convolution of a stage runs on.
+const FftPlan* ConvolutionPlan(const FftStage& stage) noexcept {
+    return stage.paddedPlan ? stage.paddedPlan : stage.raderPlan;
+}
+
 // The workspace of one prime: two record arrays as long as the convolution, and the column that a stage gathers.
 class Workspace {
 public:
     Workspace(const FftStage& stage, Count p, bool withColumn) noexcept
-        : length_(stage.paddedPlan ? stage.paddedPlan->size : p - 1),
+        : length_(ConvolutionPlan(stage)->size),
           block_(4 * static_cast<std::size_t>(length_) + (withColumn ? 2 * static_cast<std::size_t>(p) : 0)) {}
     explicit operator bool() const noexcept { return static_cast<bool>(block_); }
     double* sequence() const noexcept { return block_; }
@@ -26,23 +31,32 @@ private:
     Block<double> block_;
 };
 
-// From the n gathered records in work.sequence() to their cyclic convolution, conjugated, in the same place, and to
-// their sum, which is the spectrum at 0.
-Status Convolve(const FftStage& stage, Count n, const Workspace& work, ComplexRecord& sum) noexcept {
+// From the spectrum of the gathered inputs in work.spectrum() to their cyclic convolution with the roots, conjugated,
+// in work.sequence().
+Status FinishConvolution(const FftStage& stage, const Workspace& work) noexcept {
     double *sequence = work.sequence(), *spectrum = work.spectrum();
-    const FftPlan* plan = stage.paddedPlan ? stage.paddedPlan : stage.raderPlan;
+    const FftPlan* plan = ConvolutionPlan(stage);
     const Count length = plan->size;
-    if (length > n) std::memset(sequence + 2 * Size(n), 0, 2 * sizeof(double) * static_cast<std::size_t>(length - n));
-    if (const Status status = FftComplex(plan, sequence, sequence + 1, spectrum, spectrum + 1, 2, 2, length);
-        status < 0)
-        return status;
-    sum = {spectrum[0], spectrum[1]};
     if (stage.paddedPlan) {
         kFftLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum, length);
     } else {
         kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, length);
     }
     return FftComplex(plan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, length);
+}
+
+// From the n gathered records in work.sequence() to their cyclic convolution, conjugated, in the same place, and to
+// their sum, which is the spectrum at 0.
+Status Convolve(const FftStage& stage, Count n, const Workspace& work, ComplexRecord& sum) noexcept {
+    double *sequence = work.sequence(), *spectrum = work.spectrum();
+    const FftPlan* plan = ConvolutionPlan(stage);
+    const Count length = plan->size;
+    if (length > n) std::memset(sequence + 2 * Size(n), 0, 2 * sizeof(double) * static_cast<std::size_t>(length - n));
+    if (const Status status = FftComplex(plan, sequence, sequence + 1, spectrum, spectrum + 1, 2, 2, length);
+        status < 0)
+        return status;
+    sum = {spectrum[0], spectrum[1]};
+    return FinishConvolution(stage, work);
 }
 
 // A record in one register, where real and imaginary parts are neighbours.
@@ -93,7 +107,7 @@ Status Transform(const double* inRe, const double* inIm, double* outRe, double* 
 Status TransformReal(const double* in, double* out, Size inStride, Size outStride, const FftStage& stage, Count p,
                      const Workspace& work) noexcept {
     const Count n = p - 1;
-    const FftPlan* plan = stage.paddedPlan ? stage.paddedPlan : stage.raderPlan;
+    const FftPlan* plan = ConvolutionPlan(stage);
     const Count length = plan->size;
     const double first = in[0];
     double *sequence = work.sequence(), *spectrum = work.spectrum();
@@ -109,14 +123,7 @@ Status TransformReal(const double* in, double* out, Size inStride, Size outStrid
         spectrum[2 * mirror + 1] = -spectrum[2 * k + 1];
     }
     out[0] = first + h[0];
-    if (stage.paddedPlan) {
-        kFftLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum, length);
-    } else {
-        kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, length);
-    }
-    if (const Status status = FftComplex(plan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, length);
-        status < 0)
-        return status;
+    if (const Status status = FinishConvolution(stage, work); status < 0) return status;
     for (Count q = 0; q < n; ++q) {
         const Count t = stage.raderScatter[q + 1];
         if (t > p / 2) continue;
