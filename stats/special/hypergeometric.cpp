@@ -16,6 +16,8 @@ constexpr double kGood = 8.881784197001252e-16;  // 4 epsilon
 constexpr double kAsymptoticFactor = 30;         // on the error estimate of the asymptotic form
 constexpr double kLargestExponent = 700;         // of the exponential in Kummer's transformation
 constexpr double kLongest = 20000;               // terms of a series
+// An estimate beyond says that no digit need hold: rubbish looks as if it had one or two.
+constexpr double kUseless = 1e-3;
 
 struct Estimate {
     double value, error;  // the error relative
@@ -188,7 +190,7 @@ double SpecHyperg1F1(double x, double a, double b) noexcept {
     if (a == b) return std::exp(x);
     if (std::isinf(x)) return AtInfinity(x, a, b);
     const Estimate best = BestForm(x, a, b);
-    return best.error < 1 ? best.value : kNaN;
+    return best.error < kUseless ? best.value : kNaN;
 }
 
 }  // namespace quorvan
