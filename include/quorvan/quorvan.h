@@ -1513,6 +1513,93 @@ QV_API void ZemFunc470(void* block);
 
 /** @} */
 
+/** @defgroup peaks Peak and level detection
+ * Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas fitted to a
+ * sliding window. Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no
+ * handle. Positions count from the start of the stream.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * PeakThresholdRuns.
+ * Finds where a signal stays at or above a threshold for at least `width` samples. NaN is below every threshold.
+ * A width of 0 divides by zero, which ends the process on most machines.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param threshold samples at or above it form runs
+ * @param width least length of a run, below n; it must not be 0, which is not tested
+ * @param indices written, [n / width + 1], may be null: the first samples of the runs, as many as count tells
+ * @param count written: the number of runs
+ * @retval -20003 n / width + 1 is below 1; nothing is written
+ * @retval -20001 memory is exhausted; nothing is written
+ * @retval -20003 n is below 1; count is 0
+ * @retval -20013 the width is below 1, or not below n; count is 0
+ * @code
+ * int64_t starts[101], count;
+ * QvPeakThresholdRuns(x, 1000, 0.5, 10, starts, &count);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc237(const double* x, int64_t n, double threshold, int64_t width, int64_t* indices, int64_t* count);
+#define QvPeakThresholdRuns ZemFunc237
+
+/**
+ * PeakThresholdRunsStream.
+ * The same in consecutive blocks: a run may go on from block to block, and is told once, when it has reached the width.
+ * After a failure the stream stays as it was, also with reset, and nothing is written.
+ * The width may change from block to block. Positions have 32 bits, and wrap.
+ * @param x read, [n]: the next block of the signal
+ * @param n its length, also 0
+ * @param threshold samples at or above it form runs
+ * @param width least length of a run, 1 to 2^30
+ * @param reset other than 0: the block is the first of a new stream
+ * @param last other than 0: the stream ends with this block
+ * @param indices written, [n / width + 1], may be null: the first samples of the runs, as many as count tells
+ * @param count written: the number of runs that have reached the width within this block
+ * @retval -20001 memory is exhausted
+ * @retval -20003 n is below 0
+ * @retval -20013 the width is below 1 or above 2^30
+ */
+QV_API QvStatus ZemFunc493(const double* x, int64_t n, double threshold, int64_t width, int32_t reset, int32_t last, int64_t* indices, int64_t* count);
+#define QvPeakThresholdRunsStream ZemFunc493
+
+/**
+ * PeakDetect.
+ * Finds peaks or valleys from the parabolas c0 + c1 t + c2 t^2 that fit each window best (least squares), where their
+ * slope changes its sign from one window to the next. The apex must lie within the middle half of the window. Windows of
+ * 3 and 4 samples are judged by their curvature alone.
+ * Of peaks less than one sample apart the higher stands, of valleys the lower. This is not done across blocks.
+ * The last window of a block waits for the next one; call with last to have all, also to end a stream.
+ * The three arrays belong to the caller, who releases each with QvMemoryRelease; they are null where nothing was found and
+ * after every failure, which also ends the stream.
+ * @param x read, [n]: the next block of the signal
+ * @param n its length, at least the width
+ * @param threshold peaks must be above it, valleys below
+ * @param width of the window, 3 to 2^30, the same for all blocks of a stream
+ * @param polarity 0 peaks, 1 valleys; others find nothing
+ * @param first other than 0: the block begins a new stream
+ * @param last other than 0: the stream ends with this block
+ * @param count written: the number of peaks
+ * @param locations set to an array of the library, null when it is empty, [count]: their positions in samples, between samples too
+ * @param amplitudes set to an array of the library, null when it is empty, [count]: their heights
+ * @param secondDerivatives set to an array of the library, null when it is empty, [count]: of the parabola, per sample squared
+ * @retval -20061 the width is below 3 or above 2^30
+ * @retval -20001 memory is exhausted
+ * @retval -20013 the block is shorter than the width
+ * @retval -20064 first is 0, and there is no stream
+ * @retval -20058 the width is not that of the stream
+ * @code
+ * int64_t count;
+ * double *locations, *heights, *curvatures;
+ * QvPeakDetect(x, n, 0.5, 9, 0, 1, 1, &count, &locations, &heights, &curvatures);
+ * QvMemoryRelease(locations);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc194(const double* x, int64_t n, double threshold, int64_t width, uint32_t polarity, uint32_t first, int32_t last, int64_t* count, double** locations, double** amplitudes, double** secondDerivatives);
+#define QvPeakDetect ZemFunc194
+
+/** @} */
+
 /** @defgroup plans FFT plans
  * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
  * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the

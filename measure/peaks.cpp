@@ -1,0 +1,211 @@
+#include "measure/peaks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "frame/memory.h"
+#include "frame/status.h"
+#include "measure/level_runs.h"
+#include "measure/peak_fit.h"
+
+namespace quorvan {
+
+// What a stream keeps between blocks. The arrays are views of the thread's peakBuffer.
+struct PeakStreamState {
+    Count width;           // w
+    Size processed;        // windows done so far
+    bool lastSign;         // whether the last window rose
+    double* coefficients;  // [3 w], the fit matrix
+    double* window;        // [w], a window across two blocks
+    double* history;       // [w], the last samples of earlier blocks
+    double* lastFit;       // [3], the fit of the window before
+};
+
+namespace {
+
+constexpr double kFlat = 1e-10;  // slopes and second derivatives below count as none
+
+struct Parabola {
+    double c0, c1, c2;
+
+    double secondDerivative() const { return 2 * c2; }
+    double vertex() const { return -c1 / secondDerivative(); }
+    double at(double t) const { return (c2 * t + c1) * t + c0; }
+    bool rises() const { return std::fabs(c1) > kFlat ? c1 > 0 : c2 > 0; }
+};
+
+std::size_t BufferSize(Count w) { return 5 * static_cast<std::size_t>(w) + 3; }
+
+void Release(ThreadState* thread) {
+    HeapFree(thread->peakState);
+    HeapFree(thread->peakBuffer);
+    thread->peakState = nullptr;
+    thread->peakBuffer = nullptr;
+}
+
+Status Allocate(ThreadState* thread, const PeakRequest& request) {
+    if (request.first) {
+        HeapFree(thread->peakBuffer);
+        thread->peakBuffer = Block<double>(BufferSize(request.width)).release();
+        if (!thread->peakBuffer) return status::kOutOfMemory;
+    }
+    if (!thread->peakState) thread->peakState = Block<PeakStreamState>(1).release();
+    return thread->peakState ? status::kSuccess : status::kOutOfMemory;
+}
+
+// The vertex of the window's parabola, or of the one before where that is nearer, if it lies in the middle half of the
+// window and beyond the threshold.
+bool PeakVertex(const PeakRequest& request, Size processed, Parabola fit, const Parabola& before, Peak* peak) {
+    if (std::fabs(fit.secondDerivative()) < kFlat) return false;
+    double v = fit.vertex();
+    if (processed > 0 && v < -0.5) {
+        if (before.secondDerivative() == 0) return false;
+        const double vertexBefore = before.vertex();
+        if (std::fabs(v) > std::fabs(vertexBefore)) {
+            v = vertexBefore;
+            fit = before;
+            --processed;
+        }
+    }
+    const double half = (request.width - 1) / 2.0;
+    if (std::fabs(v) > half * 0.5 + kEpsilon) return false;
+    const double second = fit.secondDerivative();
+    *peak = {static_cast<double>(processed) + half + v, fit.at(v), second};
+    if (request.polarity == kPeaks) return second < 0 && peak->amplitude > request.threshold;
+    if (request.polarity == kValleys) return second > 0 && peak->amplitude < request.threshold;
+    return false;
+}
+
+// Two windows can find one apex: of peaks less than a sample apart the better one stands. The memory of the last one
+// is that of this call, deliberately.
+bool PeakStore(const PeakRequest& request, const Peak& peak, PeakList* list) {
+    Peak* const last = list->last();
+    if (!last || !(std::fabs(peak.location - last->location) < 1.0)) return list->add(peak);
+    const bool better =
+        request.polarity == kPeaks ? peak.amplitude > last->amplitude : peak.amplitude < last->amplitude;
+    if (better) *last = peak;
+    return true;
+}
+
+// Walks from window to window and looks for changes of the trend.
+class Scan {
+public:
+    Scan(PeakStreamState* state, const PeakRequest& request, PeakList* list)
+        : state_(state),
+          request_(request),
+          list_(list),
+          before_{state->lastFit[0], state->lastFit[1], state->lastFit[2]},
+          sign_(state->lastSign),
+          processed_(state->processed) {}
+    ~Scan() {
+        state_->lastFit[0] = before_.c0;
+        state_->lastFit[1] = before_.c1;
+        state_->lastFit[2] = before_.c2;
+        state_->lastSign = sign_;
+        state_->processed = processed_;
+    }
+
+    Parabola fit(const double* window) const {
+        Parabola fit;
+        kPeakFitLoops().fit(state_->coefficients, state_->width, window, 1, &fit.c0, &fit.c1, &fit.c2);
+        return fit;
+    }
+
+    void begin(const Parabola& first) { sign_ = first.rises(); }
+
+    bool step(const Parabola& fit) {
+        const bool sign = fit.rises();
+        Peak peak;
+        if (candidate(fit, sign) && PeakVertex(request_, processed_, fit, before_, &peak) &&
+            !PeakStore(request_, peak, list_))
+            return false;
+        sign_ = sign;
+        before_ = fit;
+        ++processed_;
+        return true;
+    }
+
+    // Adjacent windows inside one array.
+    bool steps(const double* x, Size windows) {
+        constexpr Count kBatch = 256;
+        double c0[kBatch], c1[kBatch], c2[kBatch];
+        for (Size i = 0; i < windows; i += kBatch) {
+            const Count batch = static_cast<Count>(std::min(windows - i, Size{kBatch}));
+            kPeakFitLoops().fit(state_->coefficients, state_->width, x + i, batch, c0, c1, c2);
+            for (Count k = 0; k < batch; ++k)
+                if (!step({c0[k], c1[k], c2[k]})) return false;
+        }
+        return true;
+    }
+
+private:
+    // Windows of three and four samples are too short for a trend; their curvature alone decides.
+    bool candidate(const Parabola& fit, bool sign) const {
+        if (request_.width > 4) return sign != sign_;
+        return request_.polarity == kPeaks ? fit.c2 < 0 : fit.c2 > 0;
+    }
+
+    PeakStreamState* const state_;
+    const PeakRequest& request_;
+    PeakList* const list_;
+    Parabola before_;
+    bool sign_;
+    Size processed_;
+};
+
+// Window i holds the history from sample i on, and `data` behind it. The window of the last samples alone waits for the
+// next block, whose history it is.
+Status PeakScan(PeakStreamState* state, const PeakRequest& request, const double* data, Count remaining,
+                PeakList* list) {
+    const Count w = state->width;
+    const Size windows = Size{remaining} + request.last;
+    Scan scan(state, request, list);
+    if (state->processed == 0) scan.begin(scan.fit(state->history));
+    Count i = 0;
+    for (; i < w && i < windows; ++i) {
+        std::copy(state->history + i, state->history + w, state->window);
+        std::copy(data, data + i, state->window + (w - i));
+        if (!scan.step(scan.fit(state->window))) return status::kOutOfMemory;
+    }
+    return scan.steps(data, windows - i) ? status::kSuccess : status::kOutOfMemory;
+}
+
+Status PeakRun(PeakStreamState* state, double* buffer, const PeakRequest& request, PeakArrays* found) {
+    const Count w = request.width;
+    if (request.n < w) return status::kWidthOutOfRange;
+    if (!buffer) return status::kStateNotInitialized;
+    const double* data = request.x;
+    Count remaining = request.n;
+    if (request.first) {
+        const std::size_t width = static_cast<std::size_t>(w);
+        *state = {w, 0, false, buffer, buffer + 3 * width, buffer + 4 * width, buffer + 5 * width};
+        if (const Status failure = PeakFitMatrix(w, state->coefficients)) return failure;
+        std::fill(state->lastFit, state->lastFit + 3, 0.0);
+        std::copy(data, data + w, state->history);
+        data += w;
+        remaining -= w;
+    } else if (w != state->width) {
+        return status::kInvalidDimensions;
+    }
+
+    PeakList list;
+    if (const Status failure = PeakScan(state, request, data, remaining, &list)) return failure;
+    const Count kept = std::max(w - remaining, 0), taken = w - kept;
+    std::memmove(state->history, state->history + taken, sizeof(double) * static_cast<std::size_t>(kept));
+    std::copy(data + (remaining - taken), data + remaining, state->history + kept);
+    return list.copy(found);
+}
+
+}  // namespace
+
+Status PeakDetect(ThreadState* thread, const PeakRequest& request, PeakArrays* found) noexcept {
+    *found = {};
+    Status outcome = status::kInvalidSelection;
+    if (request.width >= 3 && request.width <= kWidestDetector) outcome = Allocate(thread, request);
+    if (outcome == status::kSuccess) outcome = PeakRun(thread->peakState, thread->peakBuffer, request, found);
+    if (outcome != status::kSuccess || request.last) Release(thread);
+    return outcome;
+}
+
+}  // namespace quorvan
