@@ -10,15 +10,15 @@ EPS = 2.0**-53
 
 
 def detect(qv, x, width, threshold=-np.inf, polarity=0):
-    count = ctypes.c_int64(-7)
-    arrays = [ctypes.POINTER(ctypes.c_double)() for _ in range(3)]
+    count, arrays = np.full(1, -7, np.int64), [ctypes.c_void_p() for _ in range(3)]
     x = np.ascontiguousarray(x, float)
-    status = qv.ZemFunc194(x, len(x), threshold, width, polarity, 1, 1, ctypes.byref(count),
-                           *(ctypes.byref(array) for array in arrays))
-    assert status == 0
-    found = np.array([array[:count.value] if count.value else [] for array in arrays])
+    assert qv.ZemFunc194(x, len(x), threshold, width, polarity, 1, 1, count, *map(ctypes.byref, arrays)) == 0
+    if count[0] == 0:
+        assert not any(arrays)
+        return np.empty((3, 0))
+    found = np.array([(ctypes.c_double * count[0]).from_address(array.value) for array in arrays])
     for array in arrays:
-        qv.ZemFunc234(ctypes.cast(array, ctypes.c_void_p))
+        qv.ZemFunc234(array)
     return found
 
 
