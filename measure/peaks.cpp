@@ -15,16 +15,13 @@ namespace quorvan {
 struct PeakStreamState {
     Count width;           // w
     Size processed;        // windows done so far
-    bool lastSign;         // whether the last window rose
     double* coefficients;  // [3 w], the fit matrix
     double* window;        // [w], a window across two blocks
     double* history;       // [w], the last samples of earlier blocks
-    double* lastFit;       // [3], the fit of the window before
+    double* lastFit;       // [3], the fit of the window before, which tells the last trend too
 };
 
 namespace {
-
-constexpr double kFlat = 1e-10;  // slopes and second derivatives below count as none
 
 struct Parabola {
     double c0, c1, c2;
@@ -32,8 +29,11 @@ struct Parabola {
     double secondDerivative() const { return 2 * c2; }
     double vertex() const { return -c1 / secondDerivative(); }
     double at(double t) const { return (c2 * t + c1) * t + c0; }
-    bool rises() const { return std::fabs(c1) > kFlat ? c1 > 0 : c2 > 0; }
 };
+
+double HalfWidth(Count w) { return (w - 1) / 2.0; }
+// How far from the middle of a window its apex may lie.
+double Reach(Count w) { return HalfWidth(w) * 0.5 + kEpsilon; }
 
 std::size_t BufferSize(Count w) { return 5 * static_cast<std::size_t>(w) + 3; }
 
@@ -68,10 +68,9 @@ bool PeakVertex(const PeakRequest& request, Size processed, Parabola fit, const 
             --processed;
         }
     }
-    const double half = (request.width - 1) / 2.0;
-    if (std::fabs(v) > half * 0.5 + kEpsilon) return false;
+    if (std::fabs(v) > Reach(request.width)) return false;
     const double second = fit.secondDerivative();
-    *peak = {static_cast<double>(processed) + half + v, fit.at(v), second};
+    *peak = {static_cast<double>(processed) + HalfWidth(request.width) + v, fit.at(v), second};
     if (request.polarity == kPeaks) return second < 0 && peak->amplitude > request.threshold;
     if (request.polarity == kValleys) return second > 0 && peak->amplitude < request.threshold;
     return false;
@@ -88,70 +87,69 @@ bool PeakStore(const PeakRequest& request, const Peak& peak, PeakList* list) {
     return true;
 }
 
-// Walks from window to window and looks for changes of the trend.
+// Walks from window to window. Only those that can hold an apex are looked at one by one.
 class Scan {
 public:
     Scan(PeakStreamState* state, const PeakRequest& request, PeakList* list)
-        : state_(state),
-          request_(request),
-          list_(list),
-          before_{state->lastFit[0], state->lastFit[1], state->lastFit[2]},
-          sign_(state->lastSign),
-          processed_(state->processed) {}
-    ~Scan() {
-        state_->lastFit[0] = before_.c0;
-        state_->lastFit[1] = before_.c1;
-        state_->lastFit[2] = before_.c2;
-        state_->lastSign = sign_;
-        state_->processed = processed_;
+        : state_(state), request_(request), list_(list) {
+        // Windows of three and four samples are too short for a trend; their curvature alone decides.
+        rule_ = {request.width > 4, request.polarity == kPeaks ? -1.0 : 1.0, Reach(request.width)};
+        // The first window has none before it, and is no turn of the trend.
+        if (state->processed == 0)
+            kPeakFitLoops().fit(state->coefficients, state->width, state->history, 1, &c0_[0], &c1_[0], &c2_[0]);
+        else
+            Remember({state->lastFit[0], state->lastFit[1], state->lastFit[2]});
     }
 
-    Parabola fit(const double* window) const {
-        Parabola fit;
-        kPeakFitLoops().fit(state_->coefficients, state_->width, window, 1, &fit.c0, &fit.c1, &fit.c2);
-        return fit;
-    }
-
-    void begin(const Parabola& first) { sign_ = first.rises(); }
-
-    bool step(const Parabola& fit) {
-        const bool sign = fit.rises();
-        Peak peak;
-        if (candidate(fit, sign) && PeakVertex(request_, processed_, fit, before_, &peak) &&
-            !PeakStore(request_, peak, list_))
-            return false;
-        sign_ = sign;
-        before_ = fit;
-        ++processed_;
-        return true;
-    }
-
-    // Adjacent windows inside one array.
-    bool steps(const double* x, Size windows) {
-        constexpr Count kBatch = 256;
-        double c0[kBatch], c1[kBatch], c2[kBatch];
-        for (Size i = 0; i < windows; i += kBatch) {
-            const Count batch = static_cast<Count>(std::min(windows - i, Size{kBatch}));
-            kPeakFitLoops().fit(state_->coefficients, state_->width, x + i, batch, c0, c1, c2);
-            for (Count k = 0; k < batch; ++k)
-                if (!step({c0[k], c1[k], c2[k]})) return false;
+    // Adjacent windows inside one array. False when memory is exhausted.
+    bool windows(const double* x, Size count) {
+        for (Size done = 0; done < count;) {
+            const Count batch = static_cast<Count>(std::min(count - done, Size{kBatch}));
+            if (!few(x + done, batch)) return false;
+            done += batch;
         }
         return true;
     }
 
+    ~Scan() {
+        state_->lastFit[0] = c0_[0];
+        state_->lastFit[1] = c1_[0];
+        state_->lastFit[2] = c2_[0];
+    }
+
 private:
-    // Windows of three and four samples are too short for a trend; their curvature alone decides.
-    bool candidate(const Parabola& fit, bool sign) const {
-        if (request_.width > 4) return sign != sign_;
-        return request_.polarity == kPeaks ? fit.c2 < 0 : fit.c2 > 0;
+    static constexpr Count kBatch = 256;
+
+    void Remember(const Parabola& fit) {
+        c0_[0] = fit.c0;
+        c1_[0] = fit.c1;
+        c2_[0] = fit.c2;
+    }
+    Parabola fit(Count slot) const { return {c0_[slot], c1_[slot], c2_[slot]}; }
+
+    bool few(const double* x, Count count) {
+        const PeakFitLoops& loops = kPeakFitLoops();
+        loops.fit(state_->coefficients, state_->width, x, count, c0_ + 1, c1_ + 1, c2_ + 1);
+        Count places[kBatch + 1];
+        const Count found = loops.apexes(c1_ + 1, c2_ + 1, count, rule_, places);
+        for (Count k = 0; k < found; ++k) {
+            const Count place = places[k];
+            Peak peak;
+            if (PeakVertex(request_, state_->processed + place, fit(place + 1), fit(place), &peak) &&
+                !PeakStore(request_, peak, list_))
+                return false;
+        }
+        Remember(fit(count));
+        state_->processed += count;
+        return true;
     }
 
     PeakStreamState* const state_;
     const PeakRequest& request_;
     PeakList* const list_;
-    Parabola before_;
-    bool sign_;
-    Size processed_;
+    ApexRule rule_;
+    // Slot 0 is of the window before.
+    double c0_[kBatch + 1], c1_[kBatch + 1], c2_[kBatch + 1];
 };
 
 // Window i holds the history from sample i on, and `data` behind it. The window of the last samples alone waits for the
@@ -161,14 +159,15 @@ Status PeakScan(PeakStreamState* state, const PeakRequest& request, const double
     const Count w = state->width;
     const Size windows = Size{remaining} + request.last;
     Scan scan(state, request, list);
-    if (state->processed == 0) scan.begin(scan.fit(state->history));
+    // In the first block the history stands before the data.
+    if (request.first) return scan.windows(request.x, windows) ? status::kSuccess : status::kOutOfMemory;
     Count i = 0;
     for (; i < w && i < windows; ++i) {
         std::copy(state->history + i, state->history + w, state->window);
         std::copy(data, data + i, state->window + (w - i));
-        if (!scan.step(scan.fit(state->window))) return status::kOutOfMemory;
+        if (!scan.windows(state->window, 1)) return status::kOutOfMemory;
     }
-    return scan.steps(data, windows - i) ? status::kSuccess : status::kOutOfMemory;
+    return scan.windows(data, windows - i) ? status::kSuccess : status::kOutOfMemory;
 }
 
 Status PeakRun(PeakStreamState* state, double* buffer, const PeakRequest& request, PeakArrays* found) {
@@ -179,7 +178,7 @@ Status PeakRun(PeakStreamState* state, double* buffer, const PeakRequest& reques
     Count remaining = request.n;
     if (request.first) {
         const std::size_t width = static_cast<std::size_t>(w);
-        *state = {w, 0, false, buffer, buffer + 3 * width, buffer + 4 * width, buffer + 5 * width};
+        *state = {w, 0, buffer, buffer + 3 * width, buffer + 4 * width, buffer + 5 * width};
         if (const Status failure = PeakFitMatrix(w, state->coefficients)) return failure;
         std::fill(state->lastFit, state->lastFit + 3, 0.0);
         std::copy(data, data + w, state->history);
