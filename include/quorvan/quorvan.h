@@ -1475,6 +1475,115 @@ QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule,
 
 /** @} */
 
+/** @defgroup interpolation Interpolation
+ * The value between samples: by the one polynomial or the one diagonal rational function through all of them, by a cubic
+ * spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing spline, which weighs
+ * the fit of the samples against the curvature.
+ * @{
+ */
+
+/**
+ * InterpPolynomial.
+ * The value of the polynomial of degree n - 1 through all samples.
+ * Neville's scheme, along the path of corrections nearest the point. On an error nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample
+ * @retval -20003 n is below 1
+ * @retval -20049 two abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 3}, y[3] = {1, 2, 10}, value, error;
+ * QvInterpPolynomial(x, y, 3, 2, &value, &error);  // 5
+ * @endcode
+ */
+QV_API QvStatus ZemFunc138(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpPolynomial ZemFunc138
+
+/**
+ * InterpRational.
+ * The value of the diagonal rational function through all samples.
+ * The scheme of R. Bulirsch and J. Stoer (Numer. Math. 6, 1964). At a sample the value is that sample. On an error
+ * nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample and at a sample
+ * @retval -20003 n is below 1
+ * @retval -20050 the function has a pole at the point
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc146(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpRational ZemFunc146
+
+/**
+ * InterpSplineSecondDerivatives.
+ * The second derivatives of the interpolating cubic spline, for QvInterpSplineEvaluate.
+ * At a natural end the second derivative is 0. One sample gives 0. On -20049 the array holds partial values.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param first the first derivative at the first sample; above 9.9e29: a natural end
+ * @param last the first derivative at the last sample; above 9.9e29: a natural end
+ * @param second written, [n]: the second derivatives of the spline at the samples
+ * @retval -20003 n is below 1
+ * @retval -20049 two of three consecutive abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvInterpSplineSecondDerivatives(x, y, n, 1e30, 1e30, second);
+ * QvInterpSplineEvaluate(x, y, second, n, 2.5, &value);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc164(const double* x, const double* y, int64_t n, double first, double last, double* second);
+#define QvInterpSplineSecondDerivatives ZemFunc164
+
+/**
+ * InterpSplineEvaluate.
+ * The value of a cubic spline. Beyond the samples the end interval goes on.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param second read, [n]: the second derivatives at the samples
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @retval -20003 n is below 1
+ * @retval -20049 the interval at the point has the width 0, as one sample has
+ */
+QV_API QvStatus ZemFunc163(const double* x, const double* y, const double* second, int64_t n, double point, double* result);
+#define QvInterpSplineEvaluate ZemFunc163
+
+/**
+ * InterpSmoothingSpline.
+ * The values at the samples of the cubic smoothing spline, which minimises
+ * balance sum of w (y - s)^2 + (1 - balance) integral of lambda s''^2.
+ * C. H. Reinsch, Numer. Math. 10 (1967). A balance outside 0 to 1 becomes 8 / (8 + g^3) with g = (x[n - 1] - x[0]) / n.
+ * A balance of exactly 1 copies y. Two samples leave the output untouched. On an error nothing is written, except that a
+ * balance of 1 copies before it finds equal abscissas.
+ * @param x read, [n], may be null: the abscissas, strictly ascending
+ * @param y read and written, [n]: the ordinates; the smoothed values when out is null
+ * @param weights read, [n], may be null: the weights of the samples, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param balance from 0, the least-squares line, to 1, interpolation; outside, it is chosen from the mean interval
+ * @param smoothness read, [n - 1], may be null: the weights of the intervals' curvature, by magnitude; null: all 1
+ * @param out written, [n], may be null: the smoothed values; null: over y
+ * @retval -20006 n is below 2
+ * @retval -20002 x is null
+ * @retval -20049 the abscissas do not ascend strictly; with a balance of 1: two of three consecutive ones are equal
+ * @retval -20141 a weight of a sample or of an interval is 0
+ * @retval -20041 the system is singular (seven samples and more)
+ * @retval -20062 the solver did not converge (fewer than seven samples)
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, int64_t n, double balance, const double* smoothness, double* out);
+#define QvInterpSmoothingSpline ZemFunc285
+
+/** @} */
+
 /** @defgroup memory Release of memory
  * A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of complex
  * data, and arrays whose length only the operation knows. Each is one block of memory, and one entry, known under
