@@ -1622,6 +1622,138 @@ QV_API void ZemFunc470(void* block);
 
 /** @} */
 
+/** @defgroup nonlinear_fit Nonlinear fit
+ * Levenberg-Marquardt fits of a model y = f(x; a) that the caller supplies as a function; the gradient is taken by
+ * central differences. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient.
+ * While a derivative is taken one coefficient is moved in place; it is put back exactly. A model must return: one that
+ * leaves by longjmp or by an exception leaks the library's work memory, and that is its own fault.
+ * @{
+ */
+
+/**
+ * FitNonlinear.
+ * Fits the coefficients of a model to samples, without a limit to the iterations.
+ * The fit ends at the second small change of chi-square in a row, with small below 0.001 or below 1e-5 of it; scale data
+ * whose chi-square is that small. A model that becomes NaN or infinite ends the fit quietly with what was accepted.
+ * K. Levenberg, Quart. Appl. Math. 2 (1944); D. W. Marquardt, SIAM J. 11 (1963).
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 a solver did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double decay(double x, double* a, int32_t m) { return a[0] * exp(-a[1] * x); }
+ * double a[2] = {1, 0.1}, error;
+ * QvFitNonlinear(x, y, fitted, n, decay, a, 2, &error);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc130(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinear ZemFunc130
+
+/**
+ * FitNonlinearAlias (FitNonlinear).
+ * The same entry as ZemFunc130.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc339(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearAlias ZemFunc339
+
+/**
+ * FitNonlinearLimited.
+ * The fit with a limit to its iterations.
+ * A limit of 0 takes no step: the outputs describe the guess.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more; the results are written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc131(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimited ZemFunc131
+
+/**
+ * FitNonlinearLimitedAlias (FitNonlinearLimited).
+ * The same entry as ZemFunc131.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc338(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimitedAlias ZemFunc338
+
+/**
+ * FitNonlinearWeighted.
+ * The fit with weights.
+ * Weights that are all 0 fit like no weights. Without fitted there is no mean squared error. On an error neither is
+ * written; iterations is 0 then, or tells how far the fit came.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ * @retval -20068 a weight is NaN or infinite
+ * @retval -20003 n or m is below 1
+ * @retval -20037 fewer than m samples have a weight
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc374(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeighted ZemFunc374
+
+/**
+ * FitNonlinearWeightedAlias (FitNonlinearWeighted).
+ * The same entry as ZemFunc374.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ */
+QV_API QvStatus ZemFunc375(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeightedAlias ZemFunc375
+
+/** @} */
+
 /** @defgroup plans FFT plans
  * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
  * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the
