@@ -13,6 +13,10 @@ namespace quorvan {
 namespace {
 
 constexpr double kFirstDamping = 0.001;
+// So many iterations in a row without a smaller chi-square end a fit that has no limit. The damping overflows after some
+// 600 rejections; only a circle of small steps and rejections, which clear each other, comes here.
+constexpr Count kStallLimit = 1000;
+
 constexpr double kRootEpsilon = 1.4901161193847656e-08;  // the square root of the double epsilon
 
 struct Samples {
@@ -53,6 +57,7 @@ public:
         double lambda = kFirstDamping;
         Count iteration = 0;
         bool small_before = false;
+        Count stalled = 0;
         while (limit < 0 || iteration < limit) {
             std::copy_n(coefficients_, m_, trial_);
             const Status status = Step(lambda);
@@ -62,6 +67,11 @@ public:
                 return status == status::kNonFiniteInput ? status::kSuccess : status;
             }
             chi_new = ChiSquare();
+            stalled = chi_new < chi ? 0 : stalled + 1;
+            if (limit < 0 && stalled > kStallLimit) {
+                *iterations = iteration + 1;
+                return status::kSuccess;
+            }
             if (chi_new > chi) {
                 lambda *= 10;
                 ++iteration;

@@ -94,7 +94,9 @@ private:
         for (Count i = 0; i < order_; ++i)
             for (Count j = std::max(0, i - kBand); j <= std::min(order_ - 1, i + kBand); ++j)
                 dense[i * order_ + j] = band_[static_cast<Size>(kBand + i - j) * order_ + j];
-        return SolveLeastSquares(dense, order_, order_, right_, 1, -1.0, u_);
+        const Status status = SolveLeastSquares(dense, order_, order_, right_, 1, -1.0, u_);
+        // Samples that are NaN or infinite go through the arithmetic here too, as they do in a long band.
+        return status == status::kNonFiniteInput ? MatSolve(dense, right_, order_, u_) : status;
     }
 
     static constexpr Count kBand = 2;

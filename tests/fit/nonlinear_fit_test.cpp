@@ -141,8 +141,8 @@ std::vector<double> script;
 std::size_t next_answer = 0;
 double trial_at = 0;
 double Scripted(double, double* a, std::int32_t) {
-    // A trial is a call with a new value of the coefficient that is no difference of the last one.
-    if (std::fabs(a[0] - trial_at) > 1e-4 * std::fabs(trial_at)) {
+    // A trial is a call further from the last one than the differences of 3e-6 for the gradient.
+    if (std::fabs(a[0] - trial_at) > 5e-6 * std::fabs(trial_at)) {
         trial_at = a[0];
         if (next_answer + 1 < script.size()) ++next_answer;
     }
@@ -190,11 +190,27 @@ TEST(FitNonlinear, AModelOfInfinitiesEnds) {
     EXPECT_EQ(ZemFunc130(Reals{0, 1}, Reals{1, 2}, nullptr, 2, Infinite, a, 1, nullptr), 0);
 }
 
+TEST(FitNonlinear, AnInfiniteOrdinateEndsTheFitQuietly) {
+    for (double bad : {kNaN, kInf}) {
+        Reals a{1, 2};
+        EXPECT_EQ(ZemFunc130(Reals{0, 1, 2}, Reals{1, bad, 3}, nullptr, 3, Line, a, 2, nullptr), 0);
+        EXPECT_EQ(a.values(), (std::vector<double>{1, 2}));
+    }
+}
+
 TEST(FitNonlinear, ADiagonalThatOverflowsEndsTheFitWithWhatWasAccepted) {
-    // A model of no influence: every step is rejected or without effect, until the damping is infinite.
-    const auto zigzag = [](double, double* a, std::int32_t) { return a[0] == 1 ? 1.0 : 2.0 + a[0]; };
+    // Worse wherever it goes, however short the step: the damping grows until the diagonal is infinite.
+    const auto worse = [](double, double* a, std::int32_t) { return a[0] == 1e-300 ? 1.0 : 2.0 + 1e300 * a[0]; };
+    Reals a{1e-300};
+    EXPECT_EQ(ZemFunc130(Reals{0}, Reals{0}, nullptr, 1, worse, a, 1, nullptr), 0);
+    EXPECT_EQ(a[0], 1e-300);
+}
+
+TEST(FitNonlinear, ACircleOfStepsWithoutEffectAndRejectionsEnds) {
+    // Damped until the step has no effect, the trial is accepted; with less damping it is rejected; and so on.
+    const auto jump = [](double, double* a, std::int32_t) { return a[0] == 1 ? 1.0 : 2.0 + a[0]; };
     Reals a{1};
-    EXPECT_EQ(ZemFunc130(Reals{0}, Reals{0}, nullptr, 1, zigzag, a, 1, nullptr), 0);
+    EXPECT_EQ(ZemFunc130(Reals{0}, Reals{0}, nullptr, 1, jump, a, 1, nullptr), 0);
     EXPECT_EQ(a[0], 1);
 }
 

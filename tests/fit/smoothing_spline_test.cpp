@@ -136,15 +136,16 @@ TEST(InterpSmoothingSpline, WithBalanceOneTestsXOnlyForEqualNeighboursAndOnlyAft
     EXPECT_EQ(ZemFunc285(Reals{4, 3, 2, 1}, y, Reals(4, 0.0), 4, 1, nullptr, out), 0) << "descending is no fault there";
 }
 
-TEST(InterpSmoothingSpline, OfNaNEnds) {
+TEST(InterpSmoothingSpline, LetsNaNAndInfinitiesPropagate) {
     for (int n : {3, 4, 5, 6, 7, 12}) {
         for (int bad : {0, 1, n - 1}) {
             Reals x = Ascending(n), y = RandomReals(n), out(n);
             y[bad] = kNaN;
-            ZemFunc285(x, y, nullptr, n, 0.5, nullptr, out);
-            EXPECT_TRUE(std::isnan(out[bad]) || n < 7) << n;
-            x[bad] = kInf;
-            ZemFunc285(x, y, nullptr, n, 0.5, nullptr, out);
+            EXPECT_EQ(ZemFunc285(x, y, nullptr, n, 0.5, nullptr, out), 0);
+            EXPECT_TRUE(std::isnan(out[bad])) << n;
+            y[bad] = kInf;
+            EXPECT_EQ(ZemFunc285(x, y, nullptr, n, 0.5, nullptr, out), 0);
+            EXPECT_FALSE(std::isfinite(out[bad])) << n;
         }
     }
 }
