@@ -1088,6 +1088,188 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup direct_filters Direct-form and smoothing filters
+ * Filters that take plain coefficient arrays. The transfer function of the direct form is
+ * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
+ * state: the last nb - 1 inputs and the last na - 1 outputs, the oldest first. Zeros start from rest; handing the same
+ * arrays back continues a stream, and a stream may be cut anywhere.
+ * @{
+ */
+
+/**
+ * FilterFir.
+ * Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ...
+ * Each sum is added in this order, so that blocks give the bits of the whole.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ * @code
+ * double state[2] = {0, 0}, b[3] = {0.25, 0.5, 0.25};
+ * QvFilterFir(x, 1000, b, state, 3, y);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc352(const double* x, int64_t n, const double* b, double* inputState, int32_t nb, double* y);
+#define QvFilterFir ZemFunc352
+
+/**
+ * FilterDirect.
+ * Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ...
+ * Outputs of magnitude 2.2250738585072014e-308 and below become 0; without feedback they stay.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na], may be null: the denominator; null: no feedback
+ * @param outputState read and written, [na - 1], may be null: the last outputs, the oldest first; null: no feedback
+ * @param na the length of a; below 1: no feedback
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc92(const double* x, int64_t n, const double* a, double* outputState, int32_t na, const double* b, double* inputState, int32_t nb, double* y);
+#define QvFilterDirect ZemFunc92
+
+/**
+ * FilterFirComplex.
+ * Filters complex samples with real coefficients and without feedback.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc353(const QvComplex* x, int64_t n, const double* b, QvComplex* inputState, int32_t nb, QvComplex* y);
+#define QvFilterFirComplex ZemFunc353
+
+/**
+ * FilterDirectComplex.
+ * Filters complex samples with real coefficients and feedback; the parts are separate streams.
+ * A part of magnitude 2.2250738585072014e-308 and below becomes 0; without feedback it stays.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na], may be null: the denominator; null: no feedback
+ * @param outputState read and written, [na - 1], may be null: the last outputs, the oldest first; null: no feedback
+ * @param na the length of a; below 1: no feedback
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc354(const QvComplex* x, int64_t n, const double* a, QvComplex* outputState, int32_t na, const double* b, QvComplex* inputState, int32_t nb, QvComplex* y);
+#define QvFilterDirectComplex ZemFunc354
+
+/**
+ * FilterZeroPhase.
+ * Filters forwards and backwards: no phase, and the square of the amplitude response.
+ * The signal stands between max(na, nb) zeros on both sides, and both passes start from rest.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na]: the denominator
+ * @param na the length of a
+ * @param b read, [nb]: the numerator
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n, na or nb is below 1
+ * @retval -20046 the padded signal exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFilterZeroPhase(ecg, 1000, a, 3, b, 3, smooth);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc385(const double* x, int64_t n, const double* a, int32_t na, const double* b, int32_t nb, double* y);
+#define QvFilterZeroPhase ZemFunc385
+
+/**
+ * SavitzkyGolayDesign.
+ * The least-squares polynomial filters of a frame.
+ * The polynomial's argument counts samples from the middle: k! times row k of derivatives is the k-th derivative there
+ * for a sampling interval of 1. A. Savitzky and M. J. E. Golay, Anal. Chem. 36 (1964). On an error nothing is written.
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param wantDerivatives not 0: derivatives are written
+ * @param smoother written, [(2 * side + 1) * (2 * side + 1)]: row i is the filter for the sample at position i of a frame
+ * @param derivatives written, [(order + 1) * (2 * side + 1)], may be null: row k gives the coefficient of the k-th power
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20046 2 side + 1 exceeds 2^31 - 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc355(int32_t order, int32_t side, const double* weights, int32_t wantDerivatives, double* smoother, double* derivatives);
+#define QvSavitzkyGolayDesign ZemFunc355
+
+/**
+ * SavitzkyGolayFilter.
+ * Smooths by the least-squares polynomial of each frame.
+ * There is no padding: the first and the last `side` samples come from the polynomials of the first and the last frame.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param y written, [n]: the output; may be x
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20008 n is below 2 side + 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc356(const double* x, int64_t n, int32_t order, int32_t side, const double* weights, double* y);
+#define QvSavitzkyGolayFilter ZemFunc356
+
+/**
+ * SavitzkyGolayFilterComplex.
+ * Smooths the two parts of complex samples, each as a real signal.
+ * There is no padding: the first and the last `side` samples come from the polynomials of the first and the last frame.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param y written, [n]: the output; may be x
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20008 n is below 2 side + 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc357(const QvComplex* x, int64_t n, int32_t order, int32_t side, const double* weights, QvComplex* y);
+#define QvSavitzkyGolayFilterComplex ZemFunc357
+
+/**
+ * FilterMedian.
+ * The running median, y[t] = median of x[t - leftRank .. t + rightRank].
+ * Beyond both ends stand zeros. An even window gives the mean of its two middle values. NaN sorts below all numbers.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param leftRank the samples before each one in its window
+ * @param rightRank the samples behind it; negative: as many as before
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n is below 0
+ * @retval -20032 the left rank is negative
+ * @retval -20008 n is above 0 and not above the right rank
+ * @retval -20046 the window exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFilterMedian(x, 1000, 2, -1, y);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t rightRank, double* y);
+#define QvFilterMedian ZemFunc407
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
