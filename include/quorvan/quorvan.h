@@ -1090,7 +1090,7 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @defgroup distributions Probability distributions
  * The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The normal pair
- * are short closed formulas, right to 1e-5 and 4.5e-4. The inverses of the other distributions bisect with a fixed
+ * are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions bisect with a fixed
  * tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical values, not for digits.
  * After a status the output is as it was, except where NaN is told. A NaN probability gives -20053.
  * @{
@@ -1117,7 +1117,7 @@ QV_API QvStatus ZemFunc71(double x, double* out);
 
 /**
  * DistNormalCdf.
- * The distribution function of the standard normal distribution, right to 1e-5. Always succeeds.
+ * The distribution function of the standard normal distribution, right to 1.2e-5. Always succeeds.
  * Method: Abramowitz and Stegun (1964), 26.2.16.
  * @param x in standard deviations from the mean
  * @param out written: the probability of a value at or below x
@@ -2053,6 +2053,238 @@ QV_API QvStatus ZemFunc340(const double* x, int64_t n, int64_t intervals, double
  */
 QV_API const char* ZemFunc240(int32_t code);
 #define QvStatusMessage ZemFunc240
+
+/** @} */
+
+/** @defgroup tones Harmonic and tone analysis
+ * Sinusoids in data, to much better accuracy than one bin of a spectrum: the harmonics in a given power spectrum, a
+ * fundamental and its harmonics in a time record, and the extraction of one or several tones.
+ * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins around
+ * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
+ * frequency, and several tones are refined together. Without noise a single tone is exact but for rounding.
+ * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
+ * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
+ * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
+ * frequency; the synthesis of the modes 2 and 3 takes that half again.
+ * Tones of complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give
+ * besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that in
+ * decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
+ * @{
+ */
+
+/**
+ * SpecHarmonicAnalyzer.
+ * The harmonics in a power spectrum, with frequencies interpolated by the shape of the window.
+ * A fundamental outside the spectrum, or in the main lobe of bin 0, is replaced by the largest bin beyond that lobe.
+ * Harmonics that the spectrum does not reach are 0. A distortion that would divide by zero is 1e9.
+ * Method: bisection for the offset at which the window's response has the ratio of the two largest bins.
+ * @param power read, [n]: a one-sided power spectrum
+ * @param fftSize points of the transform that it is of; below 1: 2n
+ * @param harmonics how many, the fundamental included
+ * @param window code of the window that it was taken through, 0 to 8
+ * @param fs sampling rate
+ * @param fundamental in the unit of fs
+ * @param amp written, [harmonics]: root mean square amplitudes
+ * @param freq written, [harmonics]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: all but the fundamental in percent of the whole, from amplitudes
+ * @retval -20003 n is below 1; or it is not above the half-width of the main lobe, rounded up, and the fundamental is not in it
+ * @retval -20067 fs or fundamental is 0
+ * @retval -20061 the window is above 8
+ */
+QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32_t harmonics, uint32_t window, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecHarmonicAnalyzer ZemFunc87
+
+/**
+ * SpecToneHarmonics.
+ * A fundamental, its harmonics and the distortion of a time record.
+ * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
+ * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
+ * After a failure, what has not been found is 0.
+ * @param x read, [n]
+ * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
+ * @param fs sampling rate
+ * @param fundamental a guess, in the unit of fs, right to 5 percent of fs
+ * @param amp written, [harmonics if max(harmonics, 1) == harmonics else n]: peak amplitudes
+ * @param freq written, [harmonics if max(harmonics, 1) == harmonics else n]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: what is left without the fundamental in percent of the whole, by root mean squares about the mean
+ * @retval -20003 n is below 1
+ * @retval -20059 fs or fundamental is not above 0
+ * @retval -20001 memory is exhausted
+ * @retval -20017 the largest bin near the fundamental, or near a harmonic, is the last one
+ * @retval -20060 a tone is not finite; or x is constant; or the fundamental has no amplitude
+ * @retval -20020 a tone lies outside 0 to fs/2
+ */
+QV_API QvStatus ZemFunc362(const double* x, int64_t n, int32_t harmonics, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecToneHarmonics ZemFunc362
+
+/**
+ * ToneSingleReal.
+ * The strongest tone of a real record.
+ * A band in which no bin lies is taken as the bin nearest to its middle; one outside the spectrum, or of no width, as
+ * the whole spectrum. Silence has the amplitude 0.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0; 0 is allowed, and frequencies are then infinite
+ * @retval -20001 memory is exhausted
+ * @code
+ * double freq, amp, phase;
+ * QvToneSingleReal(x, 1000, 1e-4, NULL, &freq, &amp, &phase);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc377(const double* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleReal ZemFunc377
+
+/**
+ * ToneSingleRealEx.
+ * The strongest tone of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleReal
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc378(const double* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleRealEx ZemFunc378
+
+/**
+ * ToneMultiReal.
+ * The strongest tones of a real record.
+ * The first count elements of the arrays are written. Tones should be some bins apart: closer ones show one peak.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc379(const double* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiReal ZemFunc379
+
+/**
+ * ToneMultiRealEx.
+ * The strongest tones of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc380(const double* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiRealEx ZemFunc380
+
+/**
+ * ToneSingleComplex.
+ * The strongest tone of a complex record.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc381(const QvComplex* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleComplex ZemFunc381
+
+/**
+ * ToneSingleComplexEx.
+ * The strongest tone of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleComplex
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc382(const QvComplex* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleComplexEx ZemFunc382
+
+/**
+ * ToneMultiComplex.
+ * The strongest tones of a complex record.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc383(const QvComplex* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiComplex ZemFunc383
+
+/**
+ * ToneMultiComplexEx.
+ * The strongest tones of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiComplexEx ZemFunc384
 
 /** @} */
 
