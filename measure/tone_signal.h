@@ -21,10 +21,10 @@ inline void SynthesiseTone(Count n, double amplitude, double phase, double cycle
     }
 }
 
-inline double Difference(double a, double b) noexcept { return a - b; }
-inline ComplexRecord Difference(ComplexRecord a, ComplexRecord b) noexcept { return CxSubtract(a, b); }
-inline double Sum(double a, double b) noexcept { return a + b; }
-inline ComplexRecord Sum(ComplexRecord a, ComplexRecord b) noexcept { return CxAdd(a, b); }
+inline void Add(double& sample, double other) noexcept { sample += other; }
+inline void Add(ComplexRecord& sample, ComplexRecord other) noexcept { sample = CxAdd(sample, other); }
+inline void SubtractFrom(double whole, double& sample) noexcept { sample = whole - sample; }
+inline void SubtractFrom(ComplexRecord whole, ComplexRecord& sample) noexcept { sample = CxSubtract(whole, sample); }
 
 // After the tones have been found, with `spectrum` still that of x.
 template <class T>
@@ -51,10 +51,10 @@ Status GiveToneSignal(const T* x, Count n, double dt, std::uint32_t mode, const 
         T* const sine = count == 1 ? out : spectrum.room();
         SynthesiseTone(n, tones.amplitude[k], tones.phase[k], n * dt * tones.frequency[k], sine);
         if (count > 1)
-            for (Count i = 0; i < n; ++i) out[i] = Sum(out[i], sine[i]);
+            for (Count i = 0; i < n; ++i) Add(out[i], sine[i]);
     }
     if (mode == 3)
-        for (Count i = 0; i < n; ++i) out[i] = Difference(x[i], out[i]);
+        for (Count i = 0; i < n; ++i) SubtractFrom(x[i], out[i]);
     if (!signal.spectrum) return status::kSuccess;
     if (const Status failure = spectrum.take(out)) return failure;
     spectrum.decibels(signal.spectrum);

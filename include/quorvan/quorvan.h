@@ -2061,7 +2061,9 @@ QV_API const char* ZemFunc240(int32_t code);
  * fundamental and its harmonics in a time record, and the extraction of one or several tones.
  * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins around
  * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
- * frequency, and several tones are refined together. Without noise a single tone is exact but for rounding.
+ * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
+ * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
  * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
  * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
  * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative

@@ -72,6 +72,39 @@ def test_weak_tone_is_found_in_its_band(qv):
     assert turns_apart(phase, 50) < 1e-2
 
 
+def kernel(x, n):
+    """The spectrum of a Hanning window of n samples and mean 1/2, doubled, by its sum."""
+    i = np.arange(n)
+    return ((1 - np.cos(2 * np.pi * i / n)) * np.exp(-2j * np.pi * i * x)).sum() / n
+
+
+@pytest.mark.parametrize("make", [sine, exponential])
+@pytest.mark.parametrize("seed", range(8))
+def test_both_estimates_agree_at_the_frequency_found(qv, make, seed):
+    """In any data the frequency is where two and three bins tell one amplitude, and the amplitude is theirs."""
+    n, rng = 60, np.random.default_rng(seed)
+    x = make(n, rng.uniform(0.1, 0.4)) + 0.2 * rng.standard_normal(n)
+    real = make is sine
+    freq, amp, phase = single(qv, x)
+    bins = np.fft.fft(x * (1 - np.cos(2 * np.pi * np.arange(n) / n)) / 2) * 8**0.5 / n
+    first = int(np.abs(bins[: n // 2]).argmax()) - 1
+    g, S = (first + np.arange(3)) / n, bins[first:first + 3]
+
+    def estimates(f):
+        M = np.array([kernel(v - f, n) for v in g])
+        P = np.array([kernel(v + f, n) for v in g]) * real
+        return [((M[:c].conj() * S[:c]).sum() - (S[:c].conj() * P[:c]).sum())
+                / ((np.abs(M[:c]) ** 2).sum() - (np.abs(P[:c]) ** 2).sum()) for c in (3, 2)]
+
+    def difference(f):
+        return np.subtract(*np.abs(estimates(f)))
+
+    assert difference(freq - 1e-9) * difference(freq + 1e-9) < 0
+    three = estimates(freq)[0]
+    assert amp == pytest.approx(abs(three) * 2**0.5, rel=1e-12)
+    assert turns_apart(phase, np.degrees(np.angle(three)) + 90 * real) < 1e-9
+
+
 # With noise. The Cramér-Rao bound of the frequency is sqrt(24 s^2 / (A^2 n (n^2 - 1))) radians per sample for a sine in
 # white noise of deviation s, sqrt(6 s^2 / ...) for an exponential with s^2 in both parts together (D. C. Rife and
 # R. R. Boorstyn, 1974). Three bins under a Hanning window do not use the ends of the record, where most of the knowledge
@@ -188,6 +221,30 @@ def analyze(qv, power, harmonics, code, fs, fundamental):
     amp, freq, thd, thdn = np.empty(harmonics), np.empty(harmonics), scalar(), scalar()
     assert qv.ZemFunc87(power, len(power), 0, harmonics, code, fs, fundamental, amp, freq, thd, thdn) == 0
     return amp, freq, thd[0], thdn[0]
+
+
+def test_amplitude_comes_from_the_response_before_the_last_step(qv):
+    """The bisection of a Hanning window by hand; the last two responses differ by 3e-8 of themselves."""
+    n, k, N = 512, 25.3, 512.0
+    power = line_power(n, 1, k, 1.5)
+    amp, freq, _, _ = analyze(qv, power, 1, 1, float(n), k)
+
+    def response(d):
+        def D(x):
+            s = np.sin(np.pi * x)
+            return N if abs(s) <= 2.220446049250313e-16 else np.sin(N * np.pi * x) / s
+        return (0.5 * D(d) + (D(d + 1 / N) + D(d - 1 / N)) * 0.25) / 0.5
+
+    peak, neighbour = np.sqrt(power[25]), np.sqrt(power[26])
+    offset, step = 1 / (2 * N), 1 / (4 * N)
+    while step > 1e-8 / N:
+        evaluated = response(offset)
+        error = abs(evaluated / response(1 / N - offset)) - peak / neighbour
+        offset += np.sign(error) * step
+        step *= 0.5
+    assert freq[0] == pytest.approx(25 + N * offset, rel=4 * EPS)
+    assert amp[0] == pytest.approx(N * peak / evaluated, rel=16 * EPS)
+    assert abs(response(offset) / evaluated - 1) > 64 * EPS, "or the test would not tell one from the other"
 
 
 @pytest.mark.parametrize("code", range(9))

@@ -128,6 +128,49 @@ TEST(ToneSingleReal, ReadsAConstantAsFrequencyZeroWithItsAmplitude) {
     EXPECT_NEAR(found.phase[0], 90, 1e-4);
 }
 
+TEST(ToneSingleReal, DoesNotNormaliseThePhase) {
+    const int n = 64;
+    for (double phase : {-170.0, -100.0, 0.0, 179.0}) {
+        Found<double> found(n, 1);
+        ASSERT_EQ(Single(Real(n, {{10.2 / n, 1, phase}}), 1, nullptr, found), 0);
+        // 90 more than an angle from -180 to 180.
+        EXPECT_NEAR(found.phase[0], phase < -90 ? phase + 360 : phase, 1e-6);
+    }
+}
+
+TEST(Tone, ScalesExactlyWithPowersOfTwo) {
+    const int n = 100;
+    Reals x = RandomReals(n, 3), larger = x;
+    Records z = RandomRecords(n, 3), largerZ = z;
+    for (double& v : larger) v *= 1024;
+    for (ComplexRecord& v : largerZ) v = {v.re * 1024, v.im * 1024};
+    Found<double> a(n, 9), b(n, 9);
+    Found<ComplexRecord> c(n, 9), d(n, 9);
+    const auto same = [](const auto& small, const auto& large, int count) {
+        for (int k = 0; k < count; ++k) {
+            EXPECT_EQ(small.freq[k], large.freq[k]);
+            EXPECT_EQ(small.amp[k] * 1024, large.amp[k]);
+            EXPECT_EQ(small.phase[k], large.phase[k]);
+        }
+    };
+    ASSERT_EQ(Single(x, 1, nullptr, a), 0);
+    ASSERT_EQ(Single(larger, 1, nullptr, b), 0);
+    same(a, b, 1);
+    ASSERT_EQ(Single(z, 1, nullptr, c), 0);
+    ASSERT_EQ(Single(largerZ, 1, nullptr, d), 0);
+    same(c, d, 1);
+    ASSERT_EQ(Multi(x, 1, 1, 0.1, 9, a), 0);
+    ASSERT_EQ(Multi(larger, 1, 1, 102.4, 9, b), 0);
+    ASSERT_EQ(a.count, b.count);
+    EXPECT_EQ(a.count, 9);
+    same(a, b, a.count);
+    ASSERT_EQ(Multi(z, 1, 0, 0.1, 9, c), 0);
+    ASSERT_EQ(Multi(largerZ, 1, 0, 102.4, 9, d), 0);
+    ASSERT_EQ(c.count, d.count);
+    EXPECT_EQ(c.count, 9);
+    same(c, d, c.count);
+}
+
 TEST(ToneSingleReal, HalvesTheAmplitudeAtTheEndsOfItsBins) {
     // A search that ends one bin below the tone sees 0, -1/2 and 1 of it on its three bins. Its frequency comes to lie
     // on the first of them, where the kernel is 1, -1/2 and 0: a fit of 1/4 over 5/4, which is halved.
