@@ -190,6 +190,26 @@ TEST(SpecHarmonicAnalyzer, RefusesInItsOrder) {
     EXPECT_TRUE(out.untouched());
 }
 
+TEST(SpecHarmonicAnalyzer, StaysInItsArraysForAnyBits) {
+    std::mt19937_64 engine(13);
+    const auto bits = [&] { return std::bit_cast<double>(engine()); };
+    for (int i = 0; i < 3000; ++i) {
+        const int n = 1 + static_cast<int>(engine() % 40);
+        Reals power = RandomReals(n, i);
+        if (i % 3 == 0) power[engine() % n] = bits();
+        const int harmonics = static_cast<int>(engine() % 12);
+        Analysis out(harmonics);
+        const double fs = i % 2 ? bits() : 1, fundamental = i % 4 > 1 ? bits() : 0.01 + 0.5 * (i % 100) / 100;
+        const auto fftSize = static_cast<std::int32_t>(engine()) >> (engine() % 31);
+        const Status status = ZemFunc87(power, n, fftSize, harmonics, static_cast<std::uint32_t>(i % 9), fs,
+                                        fundamental, out.amp, out.freq, out.thd, out.thdPlusNoise);
+        EXPECT_TRUE(status == 0 || status == -20003 || status == -20067) << status;
+        if (status == -20003) {
+            EXPECT_LE(n, 4);
+        }
+    }
+}
+
 TEST(SpecHarmonicAnalyzer, TakesTheLongestTransform) {
     // 2n of the largest n would not fit 32 bits; a given size that does needs no more bins than there are.
     const Analysis out = Analyze(Lines(), 2, 10, 128, INT32_MAX);

@@ -368,6 +368,31 @@ TEST(ToneMulti, AllowsRoomBeyondEveryPeak) {
     EXPECT_EQ(found.count, 1);
 }
 
+TEST(Tone, EndsForAnyBits) {
+    std::mt19937_64 engine(12);
+    const auto bits = [&] { return std::bit_cast<double>(engine()); };
+    for (int i = 0; i < 300; ++i) {
+        const int n = 3 + static_cast<int>(engine() % 30);
+        Reals x = RandomReals(n, i);
+        Records z = RandomRecords(n, i);
+        if (i % 3 == 0)
+            for (double& v : x) v = bits();
+        x[engine() % n] = bits();
+        z[engine() % n].im = bits();
+        const double dt = i % 2 ? std::fabs(bits()) : 1, search[] = {i % 5 ? bits() : 0.2, i % 7 ? bits() : 1.0};
+        Found<double> f(n, 5);
+        Found<ComplexRecord> c(n, 5);
+        for (std::uint32_t mode : {0u, 1u, 2u, 3u}) {
+            EXPECT_EQ(SingleEx(x, n, dt, search, mode, f), 0);
+            EXPECT_EQ(SingleEx(z, n, dt, search, mode, c), 0);
+            EXPECT_EQ(MultiEx(x, n, dt, i % 3, mode, bits(), 5, f), 0);
+            EXPECT_EQ(MultiEx(z, n, dt, i % 3, mode, bits(), 5, c), 0);
+        }
+        EXPECT_LE(f.count, 5);
+        EXPECT_LE(c.count, 5);
+    }
+}
+
 // The extended forms
 
 TEST(ToneSingleEx, TellsTheStepsInEveryMode) {

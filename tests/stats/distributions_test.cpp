@@ -275,5 +275,39 @@ TEST(Distributions, RiseMonotonicallyBetweenTheirEnds) {
     rises("F", -1, 30, [](double x) { return Value(ZemFunc83, x, 4, 9); });
 }
 
+TEST(Distributions, EndWithAProbabilityAQuantileOrAStatusForAnyBits) {
+    std::mt19937_64 engine(11);
+    for (int i = 0; i < 3000; ++i) {
+        const double x = std::bit_cast<double>(engine());
+        // Degrees of freedom of every size, and of both signs.
+        const auto dof = [&] { return static_cast<std::int32_t>(engine()) >> (engine() % 31); };
+        const std::int32_t dof1 = dof(), dof2 = dof();
+        Reals out = Output(1);
+        const auto probability = [&](Status status) {
+            EXPECT_TRUE(status == 0 || status == -20052 || status == -20104) << status;
+            if (status == 0 && !std::isnan(x)) {
+                EXPECT_TRUE((out[0] >= 0 && out[0] <= 1) || (dof1 == 0 && std::isnan(out[0])));
+            }
+        };
+        probability(ZemFunc134(x, out));
+        probability(ZemFunc181(x, dof1, out));
+        probability(ZemFunc190(x, dof1, out));
+        probability(ZemFunc83(x, dof1, dof2, out));
+        // Random bits are seldom a probability; random mantissas are.
+        for (double p : {x, static_cast<double>(engine() >> 11) * 0x1p-53}) {
+            const auto quantile = [&](Status status) {
+                EXPECT_TRUE(status == 0 || status == -20052 || status == -20053) << status;
+                if (status == 0) {
+                    EXPECT_FALSE(std::isnan(out[0])) << p << ", " << dof1 << ", " << dof2;
+                }
+            };
+            quantile(ZemFunc106(p, out));
+            quantile(ZemFunc107(p, dof1, out));
+            quantile(ZemFunc104(p, dof1, dof2, out));
+            if (dof1 < 100000000) quantile(ZemFunc108(p, dof1, out));
+        }
+    }
+}
+
 }  // namespace
 }  // namespace quorvan::testing
