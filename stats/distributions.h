@@ -1,8 +1,9 @@
 // Cumulative distribution functions of the normal, Student's t, chi-square and F distributions, and their inverses.
 //
-// The normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The other inverses are bisections with the fixed
-// tolerance 1e-4: robust, not accurate, and meant so. Statuses: -20052 for degrees of freedom out of range, -20053 for
-// a probability outside [0, 1] (NaN too), -20104 for a NaN argument where told. A failing check leaves the output.
+// The normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The other inverses are bisections with the
+// fixed tolerance 1e-4: robust, not accurate, and meant so. Statuses: -20052 for degrees of freedom out of range,
+// -20053 for a probability outside [0, 1] (NaN too), -20104 for a NaN argument where told. A failing check leaves the
+// output.
 #pragma once
 
 #include "frame/types.h"
