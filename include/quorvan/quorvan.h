@@ -1270,6 +1270,130 @@ QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t
 
 /** @} */
 
+/** @defgroup distributions Probability distributions
+ * The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The normal pair
+ * are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions bisect with a fixed
+ * tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical values, not for digits.
+ * After a status the output is as it was, except where NaN is told. A NaN probability gives -20053.
+ * @{
+ */
+
+/**
+ * DistErf.
+ * The error function, 2 / sqrt(pi) times the integral of exp(-t^2) from 0 to x. Always succeeds.
+ * Method: rational approximations, Cephes Math Library, S. L. Moshier.
+ * @param out written: from -1 to 1; NaN for NaN
+ */
+QV_API QvStatus ZemFunc70(double x, double* out);
+#define QvDistErf ZemFunc70
+
+/**
+ * DistErfc.
+ * The complementary error function, 1 - erf(x), without cancellation for large x. Always succeeds.
+ * Below exp(-709.78), from x of 26.64 on, it is 0.
+ * Method: rational approximations, Cephes Math Library, S. L. Moshier.
+ * @param out written: from 2 to 0; NaN for NaN
+ */
+QV_API QvStatus ZemFunc71(double x, double* out);
+#define QvDistErfc ZemFunc71
+
+/**
+ * DistNormalCdf.
+ * The distribution function of the standard normal distribution, right to 1.2e-5. Always succeeds.
+ * Method: Abramowitz and Stegun (1964), 26.2.16.
+ * @param x in standard deviations from the mean
+ * @param out written: the probability of a value at or below x
+ * @code
+ * double p;
+ * QvDistNormalCdf(1.96, &p);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc134(double x, double* out);
+#define QvDistNormalCdf ZemFunc134
+
+/**
+ * DistNormalInverse.
+ * The quantile of the standard normal distribution, right to 4.5e-4. That of 0.5 is near 0, not exactly 0.
+ * Method: Abramowitz and Stegun (1964), 26.2.23.
+ * @param p a probability, 0 to 1
+ * @param out written: the quantile; -Inf for 0, +Inf for 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc106(double p, double* out);
+#define QvDistNormalInverse ZemFunc106
+
+/**
+ * DistTCdf.
+ * The distribution function of Student's t distribution, from the incomplete beta function.
+ * @param dof degrees of freedom
+ * @param out written: the probability of a value at or below t
+ * @retval -20052 dof is below 1
+ * @retval -20104 t is NaN; out is NaN
+ */
+QV_API QvStatus ZemFunc181(double t, int32_t dof, double* out);
+#define QvDistTCdf ZemFunc181
+
+/**
+ * DistTInverse.
+ * The quantile of Student's t distribution, by bisection between -10000 and 10000; no other quantile lies outside.
+ * @param p a probability, 0 to 1
+ * @param dof degrees of freedom
+ * @param out written: the quantile, within 1e-4 below it; -Inf for 0, +Inf for 1
+ * @retval -20052 dof is below 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc107(double p, int32_t dof, double* out);
+#define QvDistTInverse ZemFunc107
+
+/**
+ * DistChiSquareCdf.
+ * The distribution function of the chi-square distribution, from the incomplete gamma function. It is 0 up to 0.
+ * @param dof degrees of freedom; 0 is allowed and gives NaN above 0
+ * @param out written: the probability of a value at or below x
+ * @retval -20052 dof is below 0
+ */
+QV_API QvStatus ZemFunc190(double x, int32_t dof, double* out);
+#define QvDistChiSquareCdf ZemFunc190
+
+/**
+ * DistChiSquareInverse.
+ * The quantile of the chi-square distribution, by bisection. The upper end of the bracket grows in steps of 5000.
+ * @param p a probability, 0 to 1
+ * @param dof degrees of freedom
+ * @param out written: the quantile, within 1e-4 below it; 0 for 0, +Inf for 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ * @retval -20052 dof is below 1
+ */
+QV_API QvStatus ZemFunc108(double p, int32_t dof, double* out);
+#define QvDistChiSquareInverse ZemFunc108
+
+/**
+ * DistFCdf.
+ * The distribution function of the F distribution, from the incomplete beta function. It is 0 up to 0.
+ * @param dof1 degrees of freedom of the numerator
+ * @param dof2 degrees of freedom of the denominator
+ * @param out written: the probability of a value at or below x
+ * @retval -20052 dof1 or dof2 is below 1
+ * @retval -20104 x is NaN; out is NaN
+ */
+QV_API QvStatus ZemFunc83(double x, int32_t dof1, int32_t dof2, double* out);
+#define QvDistFCdf ZemFunc83
+
+/**
+ * DistFInverse.
+ * The quantile of the F distribution, by bisection between 1e-6 and 10000; no other quantile lies outside.
+ * @param p a probability, 0 to 1
+ * @param dof1 degrees of freedom of the numerator
+ * @param dof2 degrees of freedom of the denominator
+ * @param out written: the quantile, within 1e-4 below it; 0 for 0, +Inf for 1
+ * @retval -20052 dof1 or dof2 is below 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
+#define QvDistFInverse ZemFunc104
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
@@ -3531,6 +3655,240 @@ QV_API const char* ZemFunc240(int32_t code);
 
 /** @} */
 
+/** @defgroup tones Harmonic and tone analysis
+ * Sinusoids in data, to much better accuracy than one bin of a spectrum: the harmonics in a given power spectrum, a
+ * fundamental and its harmonics in a time record, and the extraction of one or several tones.
+ * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins around
+ * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
+ * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
+ * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
+ * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
+ * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
+ * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
+ * frequency; the synthesis of the modes 2 and 3 takes that half again.
+ * Tones of complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give
+ * besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that in
+ * decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
+ * @{
+ */
+
+/**
+ * SpecHarmonicAnalyzer.
+ * The harmonics in a power spectrum, with frequencies interpolated by the shape of the window.
+ * A fundamental outside the spectrum, or in the main lobe of bin 0, is replaced by the largest bin beyond that lobe.
+ * Harmonics that the spectrum does not reach are 0. A distortion that would divide by zero is 1e9.
+ * Method: bisection for the offset at which the window's response has the ratio of the two largest bins.
+ * @param power read, [n]: a one-sided power spectrum
+ * @param fftSize points of the transform that it is of; below 1: 2n
+ * @param harmonics how many, the fundamental included
+ * @param window code of the window that it was taken through, 0 to 8
+ * @param fs sampling rate
+ * @param fundamental in the unit of fs
+ * @param amp written, [harmonics]: root mean square amplitudes
+ * @param freq written, [harmonics]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: all but the fundamental in percent of the whole, from amplitudes
+ * @retval -20003 n is below 1; or it is not above the half-width of the main lobe, rounded up, and the fundamental is not in it
+ * @retval -20067 fs or fundamental is 0
+ * @retval -20061 the window is above 8
+ */
+QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32_t harmonics, uint32_t window, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecHarmonicAnalyzer ZemFunc87
+
+/**
+ * SpecToneHarmonics.
+ * A fundamental, its harmonics and the distortion of a time record.
+ * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
+ * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
+ * After a failure, what has not been found is 0.
+ * @param x read, [n]
+ * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
+ * @param fs sampling rate
+ * @param fundamental a guess, in the unit of fs, right to 5 percent of fs
+ * @param amp written, [harmonics if max(harmonics, 1) == harmonics else n]: peak amplitudes
+ * @param freq written, [harmonics if max(harmonics, 1) == harmonics else n]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: what is left without the fundamental in percent of the whole, by root mean squares about the mean
+ * @retval -20003 n is below 1
+ * @retval -20059 fs or fundamental is not above 0
+ * @retval -20001 memory is exhausted
+ * @retval -20017 the largest bin near the fundamental, or near a harmonic, is the last one
+ * @retval -20060 a tone is not finite; or x is constant; or the fundamental has no amplitude
+ * @retval -20020 a tone lies outside 0 to fs/2
+ */
+QV_API QvStatus ZemFunc362(const double* x, int64_t n, int32_t harmonics, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecToneHarmonics ZemFunc362
+
+/**
+ * ToneSingleReal.
+ * The strongest tone of a real record.
+ * A band in which no bin lies is taken as the bin nearest to its middle; one outside the spectrum, or of no width, as
+ * the whole spectrum. Silence has the amplitude 0.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0; 0 is allowed, and frequencies are then infinite
+ * @retval -20001 memory is exhausted
+ * @code
+ * double freq, amp, phase;
+ * QvToneSingleReal(x, 1000, 1e-4, NULL, &freq, &amp, &phase);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc377(const double* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleReal ZemFunc377
+
+/**
+ * ToneSingleRealEx.
+ * The strongest tone of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleReal
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc378(const double* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleRealEx ZemFunc378
+
+/**
+ * ToneMultiReal.
+ * The strongest tones of a real record.
+ * The first count elements of the arrays are written. Tones should be some bins apart: closer ones show one peak.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc379(const double* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiReal ZemFunc379
+
+/**
+ * ToneMultiRealEx.
+ * The strongest tones of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc380(const double* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiRealEx ZemFunc380
+
+/**
+ * ToneSingleComplex.
+ * The strongest tone of a complex record.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc381(const QvComplex* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleComplex ZemFunc381
+
+/**
+ * ToneSingleComplexEx.
+ * The strongest tone of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleComplex
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc382(const QvComplex* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleComplexEx ZemFunc382
+
+/**
+ * ToneMultiComplex.
+ * The strongest tones of a complex record.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc383(const QvComplex* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiComplex ZemFunc383
+
+/**
+ * ToneMultiComplexEx.
+ * The strongest tones of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiComplexEx ZemFunc384
+
+/** @} */
+
 /** @defgroup transforms Transforms
  * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
  * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
@@ -3937,6 +4295,126 @@ QV_API QvStatus ZemFunc467(const QvComplex* x, int64_t n, double* out);
  */
 QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, QvComplex* out);
 #define QvCrossPowerComplex ZemFunc468
+
+/** @} */
+
+/** @defgroup variance_analysis Analysis of variance and contingency
+ * Analysis of variance with one, two and three factors, and the chi-square test of a contingency table.
+ * The level of an observation is any integer that fits 32 bits, not an index: levels are numbered as they are first
+ * seen. In the forms with two and three factors every cell holds the same number of observations, and the number of
+ * levels of a factor carries a sign: positive for a fixed factor, negative for a random one.
+ * A table holds rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that of the
+ * error; its F is never written. A significance is the probability of an F at least as large by chance.
+ * All sums are taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation has.
+ * Statuses stand in the order in which they are tested.
+ * @{
+ */
+
+/**
+ * AnovaOneWay.
+ * One-way analysis of variance. The levels need not have equally many observations.
+ * An f of NaN, from data without any variance, gives a significance of NaN.
+ * @param y read, [n]: the observations
+ * @param level read, [n]: the level of each
+ * @param levels how many distinct levels there are
+ * @param ssA written: sum of squares between the levels
+ * @param msA written: its mean square, with levels - 1 degrees of freedom
+ * @param f written: msA / msError
+ * @param significance written: of f
+ * @param ssError written: sum of squares within the levels
+ * @param msError written: its mean square, with n - levels degrees of freedom
+ * @param ssTotal written: sum of squares about the mean
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20042 levels is below 2, or not below n
+ * @retval -20001 memory is exhausted
+ * @retval -20043 there are more distinct levels than told; nothing is written
+ * @retval -20044 there are fewer; ssTotal is written
+ * @code
+ * QvAnovaOneWay(y, instrument, 25, 5, &ssA, &msA, &f, &significance, &ssError, &msError, &ssTotal);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc6(const double* y, const int64_t* level, int64_t n, int64_t levels, double* ssA, double* msA, double* f, double* significance, double* ssError, double* msError, double* ssTotal);
+#define QvAnovaOneWay ZemFunc6
+
+/**
+ * AnovaTwoWay.
+ * Two-way analysis of variance of balanced data.
+ * F of A has the mean square of AB as its denominator if B is random, else that of the error; F of B likewise. All three
+ * significances take the degrees of freedom of the error for the denominator, in mixed models too.
+ * With one observation a cell the interaction serves as the error, and the row AB and sigAB are 0.
+ * @param y read, [n]: the observations
+ * @param levelA read, [n]: the level of factor A of each
+ * @param levelB read, [n]: the level of factor B of each
+ * @param perCell observations in each cell
+ * @param levelsA levels of A, negative for a random factor
+ * @param levelsB levels of B, negative for a random factor
+ * @param table written, [16]: rows A, B, AB, error
+ * @param sigA written: significance of A
+ * @param sigB written: significance of B
+ * @param sigAB written: significance of the interaction
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20045 n is not perCell |levelsA| |levelsB|
+ * @retval -20042 a factor has fewer than 2 levels
+ * @retval -20048 perCell is 1 and a factor is random
+ * @retval -20001 memory is exhausted
+ * @retval -20043 a factor has more distinct levels than told
+ * @retval -20047 a cell holds another number of observations
+ */
+QV_API QvStatus ZemFunc7(const double* y, const int64_t* levelA, const int64_t* levelB, int64_t n, int64_t perCell, int64_t levelsA, int64_t levelsB, double* table, double* sigA, double* sigB, double* sigAB);
+#define QvAnovaTwoWay ZemFunc7
+
+/**
+ * AnovaThreeWay.
+ * Three-way analysis of variance of balanced data.
+ * The denominator of each F follows from which factors are random: the row whose expected mean square has the same
+ * terms but for the tested one. Where there is none, F and the significance are -1.
+ * @param y read, [n]: the observations
+ * @param levelA read, [n]: the level of factor A of each
+ * @param levelB read, [n]: the level of factor B of each
+ * @param levelC read, [n]: the level of factor C of each
+ * @param perCell observations in each cell, at least 2
+ * @param levelsA levels of A, negative for a random factor
+ * @param levelsB levels of B, negative for a random factor
+ * @param levelsC levels of C, negative for a random factor
+ * @param table written, [32]: rows A, B, C, AB, AC, BC, ABC, error
+ * @param sigA written: significance of A
+ * @param sigB written: significance of B
+ * @param sigC written: significance of C
+ * @param sigAB written: significance of AB
+ * @param sigAC written: significance of AC
+ * @param sigBC written: significance of BC
+ * @param sigABC written: significance of ABC
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20045 n is not perCell |levelsA| |levelsB| |levelsC|
+ * @retval -20044 perCell is below 2
+ * @retval -20042 a factor has fewer than 2 levels
+ * @retval -20001 memory is exhausted
+ * @retval -20043 a factor has more distinct levels than told
+ * @retval -20047 a cell holds another number of observations
+ */
+QV_API QvStatus ZemFunc8(const double* y, const int64_t* levelA, const int64_t* levelB, const int64_t* levelC, int64_t n, int64_t perCell, int64_t levelsA, int64_t levelsB, int64_t levelsC, double* table, double* sigA, double* sigB, double* sigC, double* sigAB, double* sigAC, double* sigBC, double* sigABC);
+#define QvAnovaThreeWay ZemFunc8
+
+/**
+ * ContingencyChiSquare.
+ * Tests whether the rows and the columns of a table of counts are independent.
+ * A row or a column of zeros divides by zero: the results are not finite.
+ * @param rows taken as a signed number
+ * @param cols taken as a signed number
+ * @param counts read, [rows * cols]: the table, row-major
+ * @param chiSquare written: the sum of (observed - expected)^2 / expected
+ * @param significance written: the probability of at least that much by chance
+ * @retval -20056 rows or cols is negative
+ * @retval -20055 rows or cols is below 2
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20056 a count is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc31(uint32_t rows, uint32_t cols, const int32_t* counts, double* chiSquare, double* significance);
+#define QvContingencyChiSquare ZemFunc31
 
 /** @} */
 
