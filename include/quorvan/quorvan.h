@@ -2707,6 +2707,30 @@ QV_API void ZemFunc470(void* block);
  */
 
 /**
+ * PolyRootsMultiple.
+ * The roots of a complex polynomial, with multiple roots kept together.
+ * The multiplicities come from approximate greatest common divisors with the derivative, found by singular values at a
+ * tolerance of 1e-10; with them held fixed the roots are refined by Gauss-Newton steps, on which a multiple root is as
+ * well conditioned as a simple one (Z. Zeng, Math. Comp. 74, 2005). Roots that lie closer than their coefficients can
+ * tell come back as one multiple root. High zero coefficients lower the degree; the rest of roots stays unwritten.
+ * @param c read, [n]: the coefficients in ascending powers, the constant first
+ * @param n their number
+ * @param roots written, [n - 1]: the roots, each as often as its multiplicity says, the root 0 last
+ * @retval -20003 n is below 1
+ * @retval -20063 a coefficient is NaN, infinite or of the largest magnitude
+ * @retval -20111 all coefficients are 0
+ * @retval -20021 the polynomial is a constant
+ * @retval -20062 the refinement or an eigenvalue did not converge; nothing is written
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvComplex c[4] = {{-1, 0}, {3, 0}, {-3, 0}, {1, 0}};
+ * QvPolyRootsMultiple(c, 4, roots);  // 1, three times
+ * @endcode
+ */
+QV_API QvStatus ZemFunc300(const QvComplex* c, uint32_t n, QvComplex* roots);
+#define QvPolyRootsMultiple ZemFunc300
+
+/**
  * MatLagProduct.
  * The normal matrix of linear prediction, unscaled: X^H X of the matrix X whose row t holds x[t], x[t - 1], ..., x[t
  * - p].
@@ -3007,6 +3031,38 @@ QV_API QvFftPlan* ZemFunc260(int64_t size);
  */
 QV_API void ZemFunc261(QvFftPlan* plan);
 #define QvFftPlanRelease ZemFunc261
+
+/** @} */
+
+/** @defgroup polynomial_roots Polynomial roots with their multiplicities
+ * The roots of a real polynomial, found in a way that keeps multiple roots together: first the structure of
+ * multiplicities, through a chain of approximate greatest common divisors of the polynomial and its derivative, then the
+ * distinct roots as simple roots of a divisor. The method is for accuracy on low and moderate degrees.
+ * @{
+ */
+
+/**
+ * PolyRootsReal.
+ * The roots of a real polynomial, with multiple roots kept together.
+ * Z. Zeng, Math. Comp. 74 (2005), at a tolerance of 1e-10; degrees 1 and 2 directly. Where no consistent structure is
+ * found, the eigenvalues of the companion matrix. High zero coefficients lower the degree; the rest of roots stays
+ * unwritten.
+ * @param c read, [n]: the coefficients in ascending powers, the constant first
+ * @param n their number
+ * @param roots written, [n - 1]: the roots, each as often as its multiplicity says, the root 0 last
+ * @retval -20003 n is below 1
+ * @retval -20063 a coefficient is NaN, infinite or of the largest magnitude
+ * @retval -20111 all coefficients are 0
+ * @retval -20021 the polynomial is a constant
+ * @retval -20062 an eigenvalue or a singular value did not converge; nothing is written
+ * @retval -20001 memory is exhausted
+ * @code
+ * double c[4] = {-1, 3, -3, 1};
+ * QvPolyRootsReal(c, 4, roots);  // 1, three times
+ * @endcode
+ */
+QV_API QvStatus ZemFunc299(const double* c, uint32_t n, QvComplex* roots);
+#define QvPolyRootsReal ZemFunc299
 
 /** @} */
 
