@@ -1519,6 +1519,220 @@ QV_API void ZemFunc261(QvFftPlan* plan);
 
 /** @} */
 
+/** @defgroup random Noise, low-discrepancy sequences and shuffles
+ * Each generator keeps a stream of its own for each thread: kinds called in turn do not disturb each other, and two
+ * threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982).
+ * A seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
+ * negative one takes the clock on the thread's first call of that generator and goes on later. The seed is applied
+ * before n is tested.
+ * A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the seed
+ * if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever its seed.
+ * Seeding from the clock goes through srand and rand of the C library, whose state the process shares where the
+ * system has it so.
+ * Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them with -20061.
+ * @{
+ */
+
+/**
+ * GenUniformNoise.
+ * Uniform noise in [0, 1): draws of the core generator.
+ * @param n samples
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double out[1000];
+ * QvGenUniformNoise(1000, 7, out);  // the same samples at every call
+ * QvGenUniformNoise(1000, 0, out);  // goes on behind them
+ * @endcode
+ */
+QV_API QvStatus ZemFunc182(int64_t n, int32_t seed, double* out);
+#define QvGenUniformNoise ZemFunc182
+
+/**
+ * GenWhiteNoise.
+ * Uniform white noise in [-amplitude, amplitude): (u - 0.5) (2 amplitude) for draws u.
+ * @param n samples
+ * @param amplitude half the width; its sign is kept
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc185(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenWhiteNoise ZemFunc185
+
+/**
+ * GenGaussianNoise.
+ * Normal noise of mean 0 by the polar method (Marsaglia and Bray 1964).
+ * Deviates come in pairs; the second one waits for the next output, also of a later call.
+ * @param n samples
+ * @param deviation standard deviation; any number, it is a plain factor
+ * @param seed positive restarts and drops the waiting deviate, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the stream stands at 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc84(int64_t n, double deviation, int32_t seed, double* out);
+#define QvGenGaussianNoise ZemFunc84
+
+/**
+ * GenPeriodicRandomNoise.
+ * Noise of period n: the sum of cosines of one amplitude and random phases at all lines between zero frequency and half
+ * the sampling rate, without both.
+ * @param n samples, one period
+ * @param amplitude of each spectral line
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc387(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenPeriodicRandomNoise ZemFunc387
+
+/**
+ * RngShuffleReal.
+ * Puts an array in random order (Fisher and Yates, from the last place down). The draws do not depend on perm.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc396(double* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleReal ZemFunc396
+
+/**
+ * RngShuffleComplex.
+ * RngShuffleReal for complex numbers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc397(QvComplex* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleComplex ZemFunc397
+
+/**
+ * RngShuffleInt.
+ * RngShuffleReal for integers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc398(int32_t* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleInt ZemFunc398
+
+/**
+ * GenGammaNoise.
+ * Gamma variates of integer order: -ln of a product of uniform draws below order 6, else rejection under a Lorentzian
+ * (Ahrens and Dieter 1974).
+ * @param n samples
+ * @param order the waiting time for so many events of rate 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20140 order is below 1
+ * @retval -20061 the stream stands at 0, from order 6 on
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc388(int64_t n, int32_t order, int32_t seed, int32_t reset, double* out);
+#define QvGenGammaNoise ZemFunc388
+
+/**
+ * GenPoissonNoise.
+ * Poisson variates, whole numbers: a product of uniform draws against exp(-mean) below a mean of 12, else rejection
+ * under a Lorentzian.
+ * @param n samples
+ * @param mean events expected
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 mean is negative, infinite or NaN, or so large that ln Gamma(mean + 1) overflows
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc389(int64_t n, double mean, int32_t seed, int32_t reset, double* out);
+#define QvGenPoissonNoise ZemFunc389
+
+/**
+ * GenBinomialNoise.
+ * Binomial variates, numbers of successes: by single trials below 25 of them, by the Poisson product for a mean below
+ * 1 of the rarer outcome, else by rejection under a Lorentzian.
+ * @param n samples
+ * @param trials in one sample
+ * @param probability of a success
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 trials is negative
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc390(int64_t n, int32_t trials, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBinomialNoise ZemFunc390
+
+/**
+ * GenBernoulliNoise.
+ * Ones with the given probability, else zeros: 1 where probability - 0.5 exceeds white noise of amplitude 0.5.
+ * @param n samples
+ * @param probability of a 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc414(int64_t n, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBernoulliNoise ZemFunc414
+
+/**
+ * GenHaltonSequence.
+ * The radical inverse of consecutive integers (van der Corput 1935, Halton 1960): their digits in the base, mirrored at
+ * the point. It starts with 0 and fills [0, 1) evenly.
+ * The integers have 32 bits and turn negative behind 2^31 - 1; then a reset is needed.
+ * @param n samples
+ * @param base its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this base
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the base in force is 0, 1 or -1; nothing changes
+ * @retval -20059 the sequence has used up the integers
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc412(int64_t n, int32_t base, int32_t reset, double* out);
+#define QvGenHaltonSequence ZemFunc412
+
+/**
+ * GenWeylSequence.
+ * The multiples of a step modulo 1 (Weyl 1916), accumulated. It starts with 0 and fills [0, 1) evenly if the step is
+ * irrational.
+ * @param n samples
+ * @param step its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this step
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 the stored value is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc413(int64_t n, double step, int32_t reset, double* out);
+#define QvGenWeylSequence ZemFunc413
+
+/** @} */
+
 /** @defgroup spectrum Spectrum measurements
  * From time records to spectra, and from spectra to numbers. Records have any length n, not only powers of two.
  * Forward transforms are unscaled, X[k] = sum of x[j] exp(-2 pi i j k / n); inverses carry 1/n; power spectra carry
