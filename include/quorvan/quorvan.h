@@ -2146,6 +2146,178 @@ QV_API const char* ZemFunc240(int32_t code);
 
 /** @} */
 
+/** @defgroup time_domain Time-domain operations
+ * Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal block by
+ * block; where the blocks are cut makes no difference. They keep their state for each thread and operation, so that
+ * a thread runs one stream an operation; a first call on a thread starts as a reset does.
+ * @{
+ */
+
+/**
+ * IntegrateSimpson.
+ * The running integral by the rule of Simpson: out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the integral; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ * @code
+ * QvIntegrateSimpson(speed, n, 0.01, speed[0], speed[n - 1], distance);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc95(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvIntegrateSimpson ZemFunc95
+
+/**
+ * Differentiate.
+ * The derivative by central differences: out[i] = (x[i + 1] - x[i - 1]) (0.5 / dt).
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ */
+QV_API QvStatus ZemFunc56(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvDifferentiate ZemFunc56
+
+/**
+ * DifferentiateMethod.
+ * The derivative by differences: (x[i + 1] - x[i - 1]) / 2, (8 x[i + 1] - x[i + 2] - 8 x[i - 1] + x[i - 2]) / 12,
+ * x[i + 1] - x[i] or x[i] - x[i - 1], over dt.
+ * The factor is formed once as a reciprocal.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial read, [nInitial]: the samples in front of the first, in order; the first ones given count
+ * @param nInitial at least 1, 2, 0, 1 for the methods 0 to 3
+ * @param final read, [nFinal]: the samples behind the last, in order
+ * @param nFinal at least 1, 2, 1, 0 for the methods 0 to 3
+ * @param method 0 central of second order, 1 central of fourth order, 2 forward, 3 backward
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1, or a boundary array of method 0, 2 or 3 is too short
+ * @retval -20016 dt is 0 or negative
+ * @retval -20006 a boundary array of method 1 has fewer than two values
+ * @retval -20061 method is above 3
+ */
+QV_API QvStatus ZemFunc367(double* x, int64_t n, double dt, const double* initial, int64_t nInitial, const double* final, int64_t nFinal, uint32_t method, double* out);
+#define QvDifferentiateMethod ZemFunc367
+
+/**
+ * Decimate.
+ * Reduces the sampling rate: one result for each whole block of factor samples; the tail is dropped.
+ * @param x read, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor]: the results
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc53(const double* x, int64_t n, int64_t factor, uint32_t average, double* out);
+#define QvDecimate ZemFunc53
+
+/**
+ * DecimateComplex.
+ * Decimate for complex samples.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor], may be null: the results; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc360(QvComplex* x, int64_t n, int64_t factor, uint32_t average, QvComplex* out);
+#define QvDecimateComplex ZemFunc360
+
+/**
+ * DecimateContinuous.
+ * Decimates an endless signal block by block, in place: all results together are those of Decimate on the joined
+ * signal.
+ * With averaging and a block that ends before the offset the count may be negative: there are no results.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ * @code
+ * int64_t count;
+ * QvDecimateContinuous(block, 1024, 10, 1, 0, 0, &count);  // block[0] to block[count - 1]
+ * @endcode
+ */
+QV_API QvStatus ZemFunc417(double* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuous ZemFunc417
+
+/**
+ * DecimateContinuousComplex.
+ * DecimateContinuous for complex samples, with a state of its own.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc418(QvComplex* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuousComplex ZemFunc418
+
+/**
+ * DetectLevelCrossing.
+ * The first crossing of a level in a block. Rising: a sample below level - |hysteresis| arms, a later one at or above
+ * the level is the crossing. Falling: above level + |hysteresis|, then at or below the level.
+ * The rest of the block is not looked at, and the next crossing needs arming again.
+ * @param x read, [n]: a block of the signal
+ * @param n samples in this block, 0 or more
+ * @param level the level to cross
+ * @param hysteresis its absolute value counts
+ * @param slope 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts a new signal
+ * @param index written: of the crossing in this block, -1 if there is none
+ * @param found written: 1 if there is one, else 0
+ * @retval -20004 n is negative; a reset has been done
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc419(const double* x, int64_t n, double level, double hysteresis, int32_t slope, int32_t reset, int64_t* index, int32_t* found);
+#define QvDetectLevelCrossing ZemFunc419
+
+/**
+ * DetectLevelCrossings.
+ * DetectLevelCrossing for several signals at once, with states of their own.
+ * @param x read, [channels * n]: one row of n samples a channel
+ * @param channels signals
+ * @param n samples of each signal in this block
+ * @param levels read, [channels]: the levels to cross
+ * @param hysteresis read, [channels]: their absolute values count
+ * @param slopes read, [channels]: 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts new signals
+ * @param indices written, [channels]: of the crossings in this block, -1 where there is none
+ * @param found written, [channels]: 1 where there is one, else 0
+ * @retval -20003 channels or n is below 1
+ * @retval -20058 channels differs from what the stream was started with
+ * @retval -20001 memory is exhausted; a start that found none needs a reset
+ */
+QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const double* levels, const double* hysteresis, const int32_t* slopes, int32_t reset, int64_t* indices, int32_t* found);
+#define QvDetectLevelCrossings ZemFunc420
+
+/** @} */
+
 /** @defgroup transforms Transforms
  * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
  * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
