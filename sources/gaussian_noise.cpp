@@ -5,6 +5,7 @@
 #include "frame/status.h"
 #include "frame/thread_registry.h"
 #include "sources/noise.h"
+#include "sources/random_draws.h"
 #include "sources/random_stream.h"
 
 namespace quorvan {
@@ -15,11 +16,11 @@ struct Deviates {
 };
 
 // (u1, u2) uniform in the circle, s = u1² + u2²: u sqrt(-2 ln(s) / s).
-Deviates PolarDeviates(RngStream* stream) noexcept {
+Deviates PolarDeviates(RandomDraws& draws) noexcept {
     double u1, u2, s;
     do {
-        u1 = 2.0 * RngUniform(stream) - 1.0;
-        u2 = 2.0 * RngUniform(stream) - 1.0;
+        u1 = 2.0 * draws.Next() - 1.0;
+        u2 = 2.0 * draws.Next() - 1.0;
         s = u2 * u2 + u1 * u1;
     } while (s >= 1.0 || s == 0.0);
     const double f = std::sqrt(-2.0 * std::log(s) / s);
@@ -47,10 +48,11 @@ Status GenGaussianNoise(Count n, double deviation, std::int32_t seed, double* ou
     } else if (RngIsStuck(stream)) {
         done = status::kInvalidSelection;
     } else {
+        RandomDraws draws(&stream, n);
         for (Count i = 0; i < n; ++i) {
             double value = spare;
             if (!have_spare) {
-                const Deviates drawn = PolarDeviates(&stream);
+                const Deviates drawn = PolarDeviates(draws);
                 value = drawn.now;
                 spare = drawn.spare;
             }

@@ -4,6 +4,26 @@
 #include <ctime>
 
 namespace quorvan {
+namespace {
+
+// value factor^count, remainder by the modulus with the sign of the value, which is below the modulus.
+std::int32_t Jumped(std::int32_t value, std::int32_t factor, std::int32_t modulus, std::int32_t count) noexcept {
+    for (; count > 0; count /= 2) {
+        if (count % 2) value = value * factor % modulus;
+        factor = factor * factor % modulus;
+    }
+    return value;
+}
+
+}  // namespace
+
+void RngSkip(std::int32_t count, RngStream* stream) noexcept {
+    if (count < 1) return;
+    RngAdvance(stream);  // single: a seed in x may still have any size
+    stream->x = Jumped(stream->x, kFactorX, kModulusX, count - 1);
+    stream->y = Jumped(stream->y, kFactorY, kModulusY, count - 1);
+    stream->z = Jumped(stream->z, kFactorZ, kModulusZ, count - 1);
+}
 
 void RngSeed(std::int32_t seed, RngStream* stream) noexcept {
     if (seed == 0) return;

@@ -46,6 +46,9 @@ QV_INLINE std::int32_t RngPhase15(RngStream* stream) noexcept {
     return static_cast<std::int32_t>((v - static_cast<std::int32_t>(v)) * 32768.0);
 }
 
+// Leaves out the next `count` draws.
+void RngSkip(std::int32_t count, RngStream* stream) noexcept;
+
 // Sets the components from a seed; 0 leaves them as they stand. y and z take 14 bits, x the whole seed.
 void RngSeed(std::int32_t seed, RngStream* stream) noexcept;
 

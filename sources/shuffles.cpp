@@ -4,6 +4,7 @@
 
 #include "frame/status.h"
 #include "frame/thread_registry.h"
+#include "sources/random_draws.h"
 #include "sources/random_stream.h"
 
 namespace quorvan {
@@ -16,17 +17,17 @@ Status Shuffle(T* data, Count n, std::int32_t seed, RngStream ThreadState::*owne
     if (n < 1) return status::kSamplesNotPositive;
     ThreadState* state = ThreadStateGet();
     if (!state) return status::kOutOfMemory;
-    RngStream stream = state->*owned;
+    RngStream& stream = state->*owned;
     RngBegin(seed, &stream);
     if (seed >= 0) RngSeed(seed, &stream);
     if (perm)
         for (Count i = 0; i < n; ++i) perm[i] = i;
+    RandomDraws draws(&stream, n - 1);
     for (Count i = n - 1; i >= 1; --i) {
-        const Count j = static_cast<Count>(RngUniform(&stream) * (i + 1));
+        const Count j = static_cast<Count>(draws.Next() * (i + 1));
         std::swap(data[i], data[j]);
         if (perm) std::swap(perm[i], perm[j]);
     }
-    state->*owned = stream;
     return status::kSuccess;
 }
 

@@ -8,39 +8,40 @@
 #include "frame/status.h"
 #include "frame/thread_registry.h"
 #include "sources/noise.h"
+#include "sources/random_draws.h"
 #include "sources/random_stream.h"
 #include "stats/special/ln_gamma.h"
 
 namespace quorvan {
 namespace {
 
-double SmallGamma(std::int32_t order, RngStream* stream) noexcept {
+double SmallGamma(std::int32_t order, RandomDraws& draws) noexcept {
     double product = 1.0;
-    for (std::int32_t i = 0; i < order; ++i) product *= RngUniform(stream);
+    for (std::int32_t i = 0; i < order; ++i) product *= draws.Next();
     return -std::log(product);
 }
 
 // Comparisons that NaN must fail stand as the acceptance, so that a ratio 0/0 draws again.
-double LargeGamma(std::int32_t order, RngStream* stream) noexcept {
+double LargeGamma(std::int32_t order, RandomDraws& draws) noexcept {
     const double am = order - 1.0, s = std::sqrt(2.0 * am + 1.0);
     for (;;) {
         double v1, v2;
         do {
-            v1 = 2.0 * RngUniform(stream) - 1.0;
-            v2 = 2.0 * RngUniform(stream) - 1.0;
+            v1 = 2.0 * draws.Next() - 1.0;
+            v2 = 2.0 * draws.Next() - 1.0;
         } while (v1 * v1 + v2 * v2 > 1.0);
         const double y = v2 / v1, em = s * y + am;
         if (em <= 0.0) continue;
-        const double w = RngUniform(stream);
+        const double w = draws.Next();
         if (w <= std::exp(std::log(em / am) * am - s * y) * (y * y + 1.0)) return em;
     }
 }
 
-double SmallPoisson(double limit, RngStream* stream) noexcept {
+double SmallPoisson(double limit, RandomDraws& draws) noexcept {
     double k = -1.0, product = 1.0;
     do {
         k += 1.0;
-        product *= RngUniform(stream);
+        product *= draws.Next();
     } while (product > limit);
     return k;
 }
@@ -54,48 +55,48 @@ struct LargePoisson {
           ln_mean(std::log(mean)),
           ln_peak(ln_mean * mean - SpecLnGamma(mean + 1.0)) {}
 
-    double Draw(RngStream* stream) const noexcept {
+    double Draw(RandomDraws& draws) const noexcept {
         for (;;) {
             double y;
-            do y = std::tan(kPi * RngUniform(stream));
+            do y = std::tan(kPi * draws.Next());
             while (y * width + mean < 0.0);
             const double em = std::floor(y * width + mean);
             const double t = std::exp(ln_mean * em - SpecLnGamma(em + 1.0) - ln_peak);
-            if (RngUniform(stream) <= t * (y * y + 1.0) * 0.9) return em;
+            if (draws.Next() <= t * (y * y + 1.0) * 0.9) return em;
         }
     }
 };
 
 // The generator draws with the probability p of at most 1/2.
-double CountedBinomial(std::int32_t trials, double p, RngStream* stream) noexcept {
+double CountedBinomial(std::int32_t trials, double p, RandomDraws& draws) noexcept {
     double count = 0.0;
-    for (std::int32_t i = 0; i < trials; ++i) count += RngUniform(stream) < p ? 1.0 : 0.0;
+    for (std::int32_t i = 0; i < trials; ++i) count += draws.Next() < p ? 1.0 : 0.0;
     return count;
 }
 
 // A mean below 1: the Poisson variate of the same mean, cut at the number of trials.
-double RareBinomial(std::int32_t trials, double limit, RngStream* stream) noexcept {
+double RareBinomial(std::int32_t trials, double limit, RandomDraws& draws) noexcept {
     double product = 1.0;
     std::int64_t j = 0;
     do {
-        product *= RngUniform(stream);
+        product *= draws.Next();
         if (product < limit) break;
         ++j;
     } while (j <= trials);
     return static_cast<double>(std::min<std::int64_t>(trials, j));
 }
 
-double LargeBinomial(const RngBinomialCache& kept, double mean, double width, RngStream* stream) noexcept {
+double LargeBinomial(const RngBinomialCache& kept, double mean, double width, RandomDraws& draws) noexcept {
     for (;;) {
         double y, em;
         do {
-            y = std::tan(kPi * RngUniform(stream));
+            y = std::tan(kPi * draws.Next());
             em = y * width + mean;
         } while (em < 0.0 || em >= kept.trialsReal + 1.0);
         em = std::floor(em);
         const double ln_mass = kept.lnGammaTrials - SpecLnGamma(em + 1.0) - SpecLnGamma(kept.trialsReal - em + 1.0) +
                                em * kept.lnP + (kept.trialsReal - em) * kept.lnQ;
-        if (RngUniform(stream) <= std::exp(ln_mass) * ((y * y + 1.0) * (width * 1.2))) return em;
+        if (draws.Next() <= std::exp(ln_mass) * ((y * y + 1.0) * (width * 1.2))) return em;
     }
 }
 
@@ -123,14 +124,10 @@ Status GenGammaNoise(Count n, std::int32_t order, std::int32_t seed, std::int32_
     if (!state) return status::kOutOfMemory;
     RngBeginWithReset(&seed, reset, &state->gammaStream);
     if (seed >= 0) RngSeed(seed, &state->gammaStream);
-    RngStream stream = state->gammaStream;
-    if (order < 6) {
-        for (Count i = 0; i < n; ++i) out[i] = SmallGamma(order, &stream);
-    } else {
-        if (RngIsStuck(stream)) return status::kInvalidSelection;
-        for (Count i = 0; i < n; ++i) out[i] = LargeGamma(order, &stream);
-    }
-    state->gammaStream = stream;
+    const bool small = order < 6;
+    if (!small && RngIsStuck(state->gammaStream)) return status::kInvalidSelection;
+    RandomDraws draws(&state->gammaStream, n);
+    for (Count i = 0; i < n; ++i) out[i] = small ? SmallGamma(order, draws) : LargeGamma(order, draws);
     return status::kSuccess;
 }
 
@@ -145,14 +142,13 @@ Status GenPoissonNoise(Count n, double mean, std::int32_t seed, std::int32_t res
     if (!state) return status::kOutOfMemory;
     RngBeginWithReset(&seed, reset, &state->poissonStream);
     if (seed >= 0) RngSeed(seed, &state->poissonStream);
-    RngStream stream = state->poissonStream;
+    RandomDraws draws(&state->poissonStream, n);
     if (small) {
         const double limit = std::exp(-mean);
-        for (Count i = 0; i < n; ++i) out[i] = SmallPoisson(limit, &stream);
+        for (Count i = 0; i < n; ++i) out[i] = SmallPoisson(limit, draws);
     } else {
-        for (Count i = 0; i < n; ++i) out[i] = large.Draw(&stream);
+        for (Count i = 0; i < n; ++i) out[i] = large.Draw(draws);
     }
-    state->poissonStream = stream;
     return status::kSuccess;
 }
 
@@ -166,7 +162,7 @@ Status GenBinomialNoise(Count n, std::int32_t trials, double probability, std::i
     if (!state) return status::kOutOfMemory;
     if (RngBeginWithReset(&seed, reset, &state->binomialStream)) state->binomialCache = RngBinomialCache{};
     if (seed >= 0) RngSeed(seed, &state->binomialStream);
-    RngStream stream = state->binomialStream;
+    RandomDraws draws(&state->binomialStream, n);
 
     const bool mirrored = !(probability <= 0.5);
     const double p = mirrored ? 1.0 - probability : probability, mean = trials * p;
@@ -177,17 +173,16 @@ Status GenBinomialNoise(Count n, std::int32_t trials, double probability, std::i
         }
     };
     if (trials < 25) {
-        fill([&] { return CountedBinomial(trials, p, &stream); });
+        fill([&] { return CountedBinomial(trials, p, draws); });
     } else if (mean < 1.0) {
         const double limit = std::exp(-mean);
-        fill([&] { return RareBinomial(trials, limit, &stream); });
+        fill([&] { return RareBinomial(trials, limit, draws); });
     } else {
         Refresh(&state->binomialCache, trials, p);
         const RngBinomialCache& kept = state->binomialCache;
         const double width = std::sqrt(2.0 * mean * kept.q);
-        fill([&] { return LargeBinomial(kept, mean, width, &stream); });
+        fill([&] { return LargeBinomial(kept, mean, width, draws); });
     }
-    state->binomialStream = stream;
     return status::kSuccess;
 }
 

@@ -133,31 +133,48 @@ TEST(NoiseSeed, APositiveSeedRestartsAtEveryCallAnd0GoesOn) {
 
 TEST(NoiseSeed, EveryCutIntoTwoOrThreeCallsGivesTheSameAsOne) {
     constexpr Size n = 40;
-    for (const Seeded& kind : kSeeded) {
-        if (!kind.joins) continue;
-        SCOPED_TRACE(kind.name);
-        Reals whole(n), joined(n);
-        ASSERT_EQ(kind.generate(n, 123, whole), 0);
-        for (Size first = 1; first < n; ++first)
-            for (Size second = first; second < n; ++second) {
-                ASSERT_EQ(kind.generate(first, 123, joined), 0);
-                if (second > first) {
-                    ASSERT_EQ(kind.generate(second - first, 0, joined + first), 0);
+    // Draws are made ahead and what was not taken is given back: also of seeds that wrap and turn x negative.
+    for (const std::int32_t seed : {123, 12558213, 0x7FFFFFFF}) {
+        for (const Seeded& kind : kSeeded) {
+            if (!kind.joins) continue;
+            SCOPED_TRACE(kind.name);
+            Reals whole(n), joined(n);
+            ASSERT_EQ(kind.generate(n, seed, whole), 0);
+            for (Size first = 1; first < n; ++first)
+                for (Size second = first; second < n; ++second) {
+                    ASSERT_EQ(kind.generate(first, seed, joined), 0);
+                    if (second > first) {
+                        ASSERT_EQ(kind.generate(second - first, 0, joined + first), 0);
+                    }
+                    ASSERT_EQ(kind.generate(n - second, -5, joined + second), 0);  // goes on like 0
+                    ExpectSame(whole, joined);
                 }
-                ASSERT_EQ(kind.generate(n - second, -5, joined + second), 0);  // goes on like 0
+        }
+        for (const Resettable& kind : kResettable) {
+            SCOPED_TRACE(kind.name);
+            Reals whole(n), joined(n);
+            ASSERT_EQ(kind.generate(n, seed, 1, whole), 0);
+            for (Size cut = 1; cut < n; ++cut) {
+                ASSERT_EQ(kind.generate(cut, seed, 1, joined), 0);
+                ASSERT_EQ(kind.generate(n - cut, 99, 0, joined + cut), 0);  // without a reset the seed means nothing
                 ExpectSame(whole, joined);
             }
-    }
-    for (const Resettable& kind : kResettable) {
-        SCOPED_TRACE(kind.name);
-        Reals whole(n), joined(n);
-        ASSERT_EQ(kind.generate(n, 123, 1, whole), 0);
-        for (Size cut = 1; cut < n; ++cut) {
-            ASSERT_EQ(kind.generate(cut, 123, 1, joined), 0);
-            ASSERT_EQ(kind.generate(n - cut, 99, 0, joined + cut), 0);  // without a reset the seed means nothing
-            ExpectSame(whole, joined);
         }
     }
+}
+
+TEST(NoiseSeed, TheStreamStandsBehindTheDrawsThatWereTaken) {
+    // The shuffle of n takes n - 1 draws: as many single ones leave the same components.
+    for (const std::int32_t seed : {7, 12558213, 0x7FFFFFFF})
+        for (const Size n : {2, 3, 5, 6, 13, 257, 258, 700}) {
+            std::vector<double> data(n), out(n - 1);
+            ASSERT_EQ(ZemFunc396(data.data(), n, seed, nullptr), 0);
+            for (Size i = 0; i < n - 1; ++i) ASSERT_EQ(ZemFunc182(1, i == 0 ? seed : 0, &out[i]), 0);
+            const RngStream &ahead = ThreadStateGet()->shuffleRealStream, &single = ThreadStateGet()->uniformStream;
+            EXPECT_EQ(ahead.x, single.x);
+            EXPECT_EQ(ahead.y, single.y);
+            EXPECT_EQ(ahead.z, single.z);
+        }
 }
 
 TEST(NoiseSeed, LongCallsStepSideBySideAsSingleDrawsDo) {
