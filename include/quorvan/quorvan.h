@@ -3298,6 +3298,220 @@ QV_API QvStatus ZemFunc366(const double* x, int64_t n, int32_t polarity, int64_t
 
 /** @} */
 
+/** @defgroup random Noise, low-discrepancy sequences and shuffles
+ * Each generator keeps a stream of its own for each thread: kinds called in turn do not disturb each other, and two
+ * threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982).
+ * A seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
+ * negative one takes the clock on the thread's first call of that generator and goes on later. The seed is applied
+ * before n is tested.
+ * A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the seed
+ * if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever its seed.
+ * Seeding from the clock goes through srand and rand of the C library, whose state the process shares where the
+ * system has it so.
+ * Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them with -20061.
+ * @{
+ */
+
+/**
+ * GenUniformNoise.
+ * Uniform noise in [0, 1): draws of the core generator.
+ * @param n samples
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double out[1000];
+ * QvGenUniformNoise(1000, 7, out);  // the same samples at every call
+ * QvGenUniformNoise(1000, 0, out);  // goes on behind them
+ * @endcode
+ */
+QV_API QvStatus ZemFunc182(int64_t n, int32_t seed, double* out);
+#define QvGenUniformNoise ZemFunc182
+
+/**
+ * GenWhiteNoise.
+ * Uniform white noise in [-amplitude, amplitude): (u - 0.5) (2 amplitude) for draws u.
+ * @param n samples
+ * @param amplitude half the width; its sign is kept
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc185(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenWhiteNoise ZemFunc185
+
+/**
+ * GenGaussianNoise.
+ * Normal noise of mean 0 by the polar method (Marsaglia and Bray 1964).
+ * Deviates come in pairs; the second one waits for the next output, also of a later call.
+ * @param n samples
+ * @param deviation standard deviation; any number, it is a plain factor
+ * @param seed positive restarts and drops the waiting deviate, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the stream stands at 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc84(int64_t n, double deviation, int32_t seed, double* out);
+#define QvGenGaussianNoise ZemFunc84
+
+/**
+ * GenPeriodicRandomNoise.
+ * Noise of period n: the sum of cosines of one amplitude and random phases at all lines between zero frequency and half
+ * the sampling rate, without both.
+ * @param n samples, one period
+ * @param amplitude of each spectral line
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc387(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenPeriodicRandomNoise ZemFunc387
+
+/**
+ * RngShuffleReal.
+ * Puts an array in random order (Fisher and Yates, from the last place down). The draws do not depend on perm.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc396(double* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleReal ZemFunc396
+
+/**
+ * RngShuffleComplex.
+ * RngShuffleReal for complex numbers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc397(QvComplex* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleComplex ZemFunc397
+
+/**
+ * RngShuffleInt.
+ * RngShuffleReal for integers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc398(int32_t* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleInt ZemFunc398
+
+/**
+ * GenGammaNoise.
+ * Gamma variates of integer order: -ln of a product of uniform draws below order 6, else rejection under a Lorentzian
+ * (Ahrens and Dieter 1974).
+ * @param n samples
+ * @param order the waiting time for so many events of rate 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20140 order is below 1
+ * @retval -20061 the stream stands at 0, from order 6 on
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc388(int64_t n, int32_t order, int32_t seed, int32_t reset, double* out);
+#define QvGenGammaNoise ZemFunc388
+
+/**
+ * GenPoissonNoise.
+ * Poisson variates, whole numbers: a product of uniform draws against exp(-mean) below a mean of 12, else rejection
+ * under a Lorentzian.
+ * @param n samples
+ * @param mean events expected
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 mean is negative, infinite or NaN, or so large that ln Gamma(mean + 1) overflows
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc389(int64_t n, double mean, int32_t seed, int32_t reset, double* out);
+#define QvGenPoissonNoise ZemFunc389
+
+/**
+ * GenBinomialNoise.
+ * Binomial variates, numbers of successes: by single trials below 25 of them, by the Poisson product for a mean below
+ * 1 of the rarer outcome, else by rejection under a Lorentzian.
+ * @param n samples
+ * @param trials in one sample
+ * @param probability of a success
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 trials is negative
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc390(int64_t n, int32_t trials, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBinomialNoise ZemFunc390
+
+/**
+ * GenBernoulliNoise.
+ * Ones with the given probability, else zeros: 1 where probability - 0.5 exceeds white noise of amplitude 0.5.
+ * @param n samples
+ * @param probability of a 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc414(int64_t n, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBernoulliNoise ZemFunc414
+
+/**
+ * GenHaltonSequence.
+ * The radical inverse of consecutive integers (van der Corput 1935, Halton 1960): their digits in the base, mirrored at
+ * the point. It starts with 0 and fills [0, 1) evenly.
+ * The integers have 32 bits and turn negative behind 2^31 - 1; then a reset is needed.
+ * @param n samples
+ * @param base its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this base
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the base in force is 0, 1 or -1; nothing changes
+ * @retval -20059 the sequence has used up the integers
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc412(int64_t n, int32_t base, int32_t reset, double* out);
+#define QvGenHaltonSequence ZemFunc412
+
+/**
+ * GenWeylSequence.
+ * The multiples of a step modulo 1 (Weyl 1916), accumulated. It starts with 0 and fills [0, 1) evenly if the step is
+ * irrational.
+ * @param n samples
+ * @param step its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this step
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 the stored value is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc413(int64_t n, double step, int32_t reset, double* out);
+#define QvGenWeylSequence ZemFunc413
+
+/** @} */
+
 /** @defgroup spectrum Spectrum measurements
  * From time records to spectra, and from spectra to numbers. Records have any length n, not only powers of two.
  * Forward transforms are unscaled, X[k] = sum of x[j] exp(-2 pi i j k / n); inverses carry 1/n; power spectra carry
@@ -3708,6 +3922,178 @@ QV_API QvStatus ZemFunc340(const double* x, int64_t n, int64_t intervals, double
  */
 QV_API const char* ZemFunc240(int32_t code);
 #define QvStatusMessage ZemFunc240
+
+/** @} */
+
+/** @defgroup time_domain Time-domain operations
+ * Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal block by
+ * block; where the blocks are cut makes no difference. They keep their state for each thread and operation, so that
+ * a thread runs one stream an operation; a first call on a thread starts as a reset does.
+ * @{
+ */
+
+/**
+ * IntegrateSimpson.
+ * The running integral by the rule of Simpson: out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the integral; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ * @code
+ * QvIntegrateSimpson(speed, n, 0.01, speed[0], speed[n - 1], distance);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc95(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvIntegrateSimpson ZemFunc95
+
+/**
+ * Differentiate.
+ * The derivative by central differences: out[i] = (x[i + 1] - x[i - 1]) (0.5 / dt).
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ */
+QV_API QvStatus ZemFunc56(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvDifferentiate ZemFunc56
+
+/**
+ * DifferentiateMethod.
+ * The derivative by differences: (x[i + 1] - x[i - 1]) / 2, (8 x[i + 1] - x[i + 2] - 8 x[i - 1] + x[i - 2]) / 12,
+ * x[i + 1] - x[i] or x[i] - x[i - 1], over dt.
+ * The factor is formed once as a reciprocal.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial read, [nInitial]: the samples in front of the first, in order; the first ones given count
+ * @param nInitial at least 1, 2, 0, 1 for the methods 0 to 3
+ * @param final read, [nFinal]: the samples behind the last, in order
+ * @param nFinal at least 1, 2, 1, 0 for the methods 0 to 3
+ * @param method 0 central of second order, 1 central of fourth order, 2 forward, 3 backward
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1, or a boundary array of method 0, 2 or 3 is too short
+ * @retval -20016 dt is 0 or negative
+ * @retval -20006 a boundary array of method 1 has fewer than two values
+ * @retval -20061 method is above 3
+ */
+QV_API QvStatus ZemFunc367(double* x, int64_t n, double dt, const double* initial, int64_t nInitial, const double* final, int64_t nFinal, uint32_t method, double* out);
+#define QvDifferentiateMethod ZemFunc367
+
+/**
+ * Decimate.
+ * Reduces the sampling rate: one result for each whole block of factor samples; the tail is dropped.
+ * @param x read, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor]: the results
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc53(const double* x, int64_t n, int64_t factor, uint32_t average, double* out);
+#define QvDecimate ZemFunc53
+
+/**
+ * DecimateComplex.
+ * Decimate for complex samples.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor], may be null: the results; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc360(QvComplex* x, int64_t n, int64_t factor, uint32_t average, QvComplex* out);
+#define QvDecimateComplex ZemFunc360
+
+/**
+ * DecimateContinuous.
+ * Decimates an endless signal block by block, in place: all results together are those of Decimate on the joined
+ * signal.
+ * With averaging and a block that ends before the offset the count may be negative: there are no results.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ * @code
+ * int64_t count;
+ * QvDecimateContinuous(block, 1024, 10, 1, 0, 0, &count);  // block[0] to block[count - 1]
+ * @endcode
+ */
+QV_API QvStatus ZemFunc417(double* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuous ZemFunc417
+
+/**
+ * DecimateContinuousComplex.
+ * DecimateContinuous for complex samples, with a state of its own.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc418(QvComplex* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuousComplex ZemFunc418
+
+/**
+ * DetectLevelCrossing.
+ * The first crossing of a level in a block. Rising: a sample below level - |hysteresis| arms, a later one at or above
+ * the level is the crossing. Falling: above level + |hysteresis|, then at or below the level.
+ * The rest of the block is not looked at, and the next crossing needs arming again.
+ * @param x read, [n]: a block of the signal
+ * @param n samples in this block, 0 or more
+ * @param level the level to cross
+ * @param hysteresis its absolute value counts
+ * @param slope 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts a new signal
+ * @param index written: of the crossing in this block, -1 if there is none
+ * @param found written: 1 if there is one, else 0
+ * @retval -20004 n is negative; a reset has been done
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc419(const double* x, int64_t n, double level, double hysteresis, int32_t slope, int32_t reset, int64_t* index, int32_t* found);
+#define QvDetectLevelCrossing ZemFunc419
+
+/**
+ * DetectLevelCrossings.
+ * DetectLevelCrossing for several signals at once, with states of their own.
+ * @param x read, [channels * n]: one row of n samples a channel
+ * @param channels signals
+ * @param n samples of each signal in this block
+ * @param levels read, [channels]: the levels to cross
+ * @param hysteresis read, [channels]: their absolute values count
+ * @param slopes read, [channels]: 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts new signals
+ * @param indices written, [channels]: of the crossings in this block, -1 where there is none
+ * @param found written, [channels]: 1 where there is one, else 0
+ * @retval -20003 channels or n is below 1
+ * @retval -20058 channels differs from what the stream was started with
+ * @retval -20001 memory is exhausted; a start that found none needs a reset
+ */
+QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const double* levels, const double* hysteresis, const int32_t* slopes, int32_t reset, int64_t* indices, int32_t* found);
+#define QvDetectLevelCrossings ZemFunc420
 
 /** @} */
 
