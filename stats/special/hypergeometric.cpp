@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "frame/types.h"
+#include "stats/special/divergent_series.h"
+#include "stats/special/estimate.h"
 #include "stats/special/gamma_ratio.h"
 #include "stats/special/two_double.h"
 
@@ -12,27 +14,10 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kGood = 8.881784197001252e-16;  // 4 epsilon
-constexpr double kAsymptoticFactor = 30;         // on the error estimate of the asymptotic form
-constexpr double kLargestExponent = 700;         // of the exponential in Kummer's transformation
-constexpr double kLongest = 20000;               // terms of a series
-// An estimate beyond says that no digit need hold: rubbish looks as if it had one or two.
-constexpr double kUseless = 1e-3;
-
-struct Estimate {
-    double value, error;  // the error relative
-
-    bool Good() const noexcept { return error <= kGood; }
-};
-
-Estimate Better(Estimate a, Estimate b) noexcept { return b.error < a.error ? b : a; }
-
-// Any estimate of the form of a sum: what rounding in the largest term, and the neglected rest, leave of it.
-Estimate Judged(double sum, double largest, double rest) noexcept {
-    if (!std::isfinite(sum) || !std::isfinite(largest)) return {sum, kInf};
-    if (sum == 0) return {0, largest == 0 && rest < kEpsilon ? 0 : kInf};
-    return {sum, kEpsilon + (kEpsilon * largest + rest) / std::fabs(sum)};
-}
+constexpr double kAsymptoticFactor = 30;  // on the error estimate of the asymptotic form
+constexpr double kAsymptoticGood = kAsymptoticFactor * 8.881784197001252e-16;
+constexpr double kLargestExponent = 700;  // of the exponential in Kummer's transformation
+constexpr double kLongest = 20000;        // terms of a series
 
 double TermLimit(double a, double b, double x) noexcept {
     const double wanted = 200 + 2 * (std::fabs(a) + std::fabs(b) + std::fabs(x));
@@ -97,30 +82,6 @@ Estimate Transformed(double a, double b, double x, bool long_sum) noexcept {
     return sum;
 }
 
-// 2F0(p, q; ; z), down to its smallest term; the error is relative to 1.
-Estimate Divergent(double p, double q, double z) noexcept {
-    double sum = 1, term = 1, largest = 1, last = 1;
-    for (double n = 0; n < 500; n += 1) {
-        const double quotient = (p + n) * (q + n) / (n + 1) * z;
-        if (quotient == 0) {
-            last = 0;
-            break;
-        }
-        const double next = term * quotient, size = std::fabs(next);
-        if (p + n > 0 && q + n > 0 && size >= std::fabs(term)) {
-            last = std::fabs(term);
-            break;
-        }
-        if (size > 1e300) return {sum, kInf};
-        term = next;
-        sum += term;
-        last = size;
-        if (size > largest) largest = size;
-        if (size <= 0.25 * kEpsilon * std::fabs(sum) && p + n > 0 && q + n > 0) break;
-    }
-    return {sum, kEpsilon * largest + last};
-}
-
 // Abramowitz and Stegun 13.5.1: of
 //   Gamma(b)/Gamma(a)   e^x |x|^(a-b) 2F0(b-a, 1-a; 1/x)
 //   Gamma(b)/Gamma(b-a) |x|^-a        2F0(a, a-b+1; -1/x)
@@ -128,13 +89,13 @@ Estimate Divergent(double p, double q, double z) noexcept {
 Estimate Asymptotic(double a, double b, double x) noexcept {
     const double size = std::fabs(x);
     if (IsPole(a)) {
-        const Estimate sum = Divergent(a, a - b + 1, -1 / x);
+        const Estimate sum = DivergentSeries(a, a - b + 1, -1 / x);
         const double weight = GammaWeight(0, size, -a, b, 1, b - a, 1) * (x > 0 && std::fmod(a, 2) != 0 ? -1 : 1);
         return Judged(weight * sum.value, 0, kAsymptoticFactor * std::fabs(weight) * sum.error);
     }
     const double growing = GammaWeight(x, size, a - b, b, 1, a, 1);
     const double algebraic = GammaWeight(0, size, -a, b, 1, b - a, 1);
-    const Estimate sum = x > 0 ? Divergent(b - a, 1 - a, 1 / x) : Divergent(a, a - b + 1, -1 / x);
+    const Estimate sum = x > 0 ? DivergentSeries(b - a, 1 - a, 1 / x) : DivergentSeries(a, a - b + 1, -1 / x);
     const double weight = x > 0 ? growing : algebraic, other = x > 0 ? algebraic : growing;
     if (std::isinf(weight) && x > 0 && std::isfinite(other) && sum.error < 0.1) return {weight * sum.value, 0};
     return Judged(weight * sum.value, 0, kAsymptoticFactor * (std::fabs(weight) * sum.error + std::fabs(other)));
@@ -165,7 +126,7 @@ Estimate BestForm(double x, double a, double b) noexcept {
     const bool asymptotic_first = !pole && std::fabs(x) >= 40;
     if (asymptotic_first) {
         best = Better(best, Asymptotic(a, b, x));
-        if (best.error <= kAsymptoticFactor * kGood) return best;
+        if (best.error <= kAsymptoticGood) return best;
     }
     best = Better(best, PowerSeries(a, b, x));
     if (best.Good()) return best;
@@ -173,10 +134,10 @@ Estimate BestForm(double x, double a, double b) noexcept {
     if (!transform_first) best = Better(best, Transformed(a, b, x, false));
     if (best.Good()) return best;
     if (!asymptotic_first) best = Better(best, Asymptotic(a, b, x));
-    if (best.error <= kAsymptoticFactor * kGood) return best;
+    if (best.error <= kAsymptoticGood) return best;
     best =
         Better(best, x > 0 || std::fabs(x) > kLargestExponent ? LongSeries({a, 0}, b, x) : Transformed(a, b, x, true));
-    if (best.error <= kAsymptoticFactor * kGood) return best;
+    if (best.error <= kAsymptoticGood) return best;
     return Better(best, x > 0 ? Transformed(a, b, x, true) : LongSeries({a, 0}, b, x));
 }
 
@@ -190,7 +151,7 @@ double SpecHyperg1F1(double x, double a, double b) noexcept {
     if (a == b) return std::exp(x);
     if (std::isinf(x)) return AtInfinity(x, a, b);
     const Estimate best = BestForm(x, a, b);
-    return best.error < kUseless ? best.value : kNaN;
+    return best.Usable();
 }
 
 }  // namespace quorvan

@@ -1,0 +1,17 @@
+// The second confluent hypergeometric function.
+#pragma once
+
+namespace quorvan {
+
+// U(a, b, x), the solution of Kummer's equation that falls as x^-a (F. G. Tricomi, 1947). The argument x stands before
+// the parameters. Complex at x < 0 and NaN there, but for a or a - b + 1 = 0, -1, -2, ... with a real power.
+//   a or a - b + 1 = 0, -1, ...   a polynomial, by recurrence in a (times x^(1-b))
+//   large x                       x^-a 2F0(a, a-b+1; -1/x)             Abramowitz and Stegun 13.5.2
+//   b not whole                   from two 1F1                         13.1.3
+//   b whole                       its limit, with psi and ln x         13.1.6
+//   where these cancel            the integral of e^(-xt) t^(a-1) (1+t)^(b-a-1) / Gamma(a), 13.2.5, by the trapezoidal
+//                                 rule in ln t for a in [4, 6), and the recurrence 13.4.15 down from there
+// Peak error: see the table of docs/accuracy.md.
+double SpecHypergU(double x, double a, double b) noexcept;
+
+}  // namespace quorvan
