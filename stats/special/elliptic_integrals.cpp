@@ -22,9 +22,8 @@ struct Reduced {
 };
 
 Reduced Reduce(double phi) noexcept {
-    double n = std::floor(phi / kHalfPi);
+    const double n = 2 * std::nearbyint(phi / kPi);
     if (std::fabs(n) > 0x1p52) return {phi / kHalfPi, 0};
-    if (std::fmod(n, 2) != 0) n += 1;
     const double head = n * kHalfPi;
     return {n, (phi - head) - (std::fma(n, kHalfPi, -head) + n * kHalfPiRest)};
 }

@@ -29,8 +29,15 @@ inline Estimate Better(Estimate a, Estimate b) noexcept { return b.error < a.err
 inline Estimate Judged(double sum, double largest, double rest) noexcept {
     constexpr double kInf = std::numeric_limits<double>::infinity();
     if (!std::isfinite(sum) || !std::isfinite(largest)) return {sum, kInf};
-    if (sum == 0) return {0, largest == 0 && rest < kEpsilon ? 0 : kInf};
+    if (sum == 0) return {0, kInf};
     return {sum, kEpsilon + (kEpsilon * largest + rest) / std::fabs(sum)};
+}
+
+// The same of a sum in pairs of doubles: some 2^-98 of the largest term for each of the many roundings. What cancels to
+// exactly 0 is a zero of the function, as far as pairs can tell.
+inline Estimate JudgedPair(double sum, double largest) noexcept {
+    if (sum == 0) return {0, 0x1p-98 * largest};
+    return Judged(sum, 0, 0x1p-98 * largest);
 }
 
 }  // namespace quorvan

@@ -62,7 +62,7 @@ Estimate LongSeries(TwoDouble a, TwoDouble b, double c, TwoDouble x) noexcept {
     for (int i = 0; i < kLongest; ++i) {
         const double n = i;
         const TwoDouble an = a + n, bn = b + n, cn = TwoSum(c, n);
-        if (an.hi == 0 || bn.hi == 0) return Judged(sum.hi, 0, 0x1p-98 * largest);
+        if (an.hi == 0 || bn.hi == 0) return JudgedPair(sum.hi, largest);
         term = term * ((an * bn * x) / (cn * (n + 1)));
         sum = sum + term;
         const double size = std::fabs(term.hi);
@@ -70,7 +70,7 @@ Estimate LongSeries(TwoDouble a, TwoDouble b, double c, TwoDouble x) noexcept {
         if (!(size < 1e300)) break;
         const double ratio = std::fmax(std::fabs(an.hi * bn.hi * x.hi / (cn.hi * (n + 1))), std::fabs(x.hi));
         if (size <= 0x1p-60 * std::fabs(sum.hi) * (1 - ratio) && an.hi > 0 && bn.hi > 0 && cn.hi > 0) {
-            return Judged(sum.hi, 0, 0x1p-98 * largest);
+            return JudgedPair(sum.hi, largest);
         }
     }
     return {sum.hi, kInf};

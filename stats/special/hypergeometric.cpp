@@ -65,8 +65,7 @@ Estimate LongSeries(TwoDouble a, double b, double x) noexcept {
         if (size <= 0x1p-60 * std::fabs(sum.hi) && settled) break;
         if (n + 1 >= limit) return {sum.hi, kInf};
     }
-    // Some 2^-100 of the largest term for each of the many roundings.
-    return Judged(sum.hi, 0, 0x1p-98 * largest);
+    return JudgedPair(sum.hi, largest);
 }
 
 // e^x 1F1(b - a; b; -x). `long_sum` in pairs of doubles, b - a without loss.
@@ -118,7 +117,7 @@ double AtInfinity(double x, double a, double b) noexcept {
 Estimate BestForm(double x, double a, double b) noexcept {
     const bool pole = IsPole(b);
     Estimate best{kNaN, kInf};
-    const bool transform_first = !pole && std::fabs(b - a) < 0.001 * std::fabs(a);
+    const bool transform_first = !pole && (std::fabs(b - a) < 0.001 * std::fabs(a) || IsPole(b - a));
     if (transform_first) {
         best = Transformed(a, b, x, false);
         if (best.Good()) return best;

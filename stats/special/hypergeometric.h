@@ -6,7 +6,7 @@ namespace quorvan {
 
 // 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ... (Abramowitz and Stegun 13.1.2).
 // b = 0, -1, -2, ... gives +Inf unless a ends the series before the pole, or a = b < 0: e^x. NaN gives NaN.
-//   |b - a| < |a|/1000   e^x 1F1(b - a; b; -x) first (13.1.27)
+//   |b - a| < |a|/1000   e^x 1F1(b - a; b; -x) first (13.1.27); also where that is a polynomial
 //   |x| >= 40            the asymptotic form first (13.5.1), its estimate of the error taken 30 times
 //   else                 the power series
 // Each comes with an estimate of its error. Above 4 epsilon (120 epsilon for the asymptotic form) the other forms are
