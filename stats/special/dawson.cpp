@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 
@@ -30,13 +30,13 @@ double SpecDawson(double x) noexcept {
     const double size = std::fabs(x);
     if (size < 3.25) {
         const double z = x * x;
-        return x * Polynomial(z, kAN) / Polynomial(z, kAD);
+        const PolynomialPair a = Polynomials(z, kAN, kAD);
+        return x * a.first / a.second;
     }
     if (size > 1e9) return 0.5 / x;
     const double z = 1 / (x * x);
-    const double rest =
-        size < 6.25 ? Polynomial(z, kBN) / MonicPolynomial(z, kBD) : Polynomial(z, kCN) / MonicPolynomial(z, kCD);
-    return 0.5 * (1 + z * rest) / x;
+    const PolynomialPair rest = size < 6.25 ? Polynomials<true>(z, kBN, kBD) : Polynomials<true>(z, kCN, kCD);
+    return 0.5 * (1 + z * rest.first / rest.second) / x;
 }
 
 }  // namespace quorvan

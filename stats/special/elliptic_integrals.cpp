@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "frame/types.h"
-#include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 namespace {
@@ -32,38 +32,46 @@ Reduced Reduce(double phi) noexcept {
 // m,
 //   tan(phi_(k+1) - phi_k) = (b_k/a_k) tan phi_k, a, b the arithmetic and geometric means, c_(k+1) = (a_k - b_k)/2,
 //   F = phi_n / (2^n a_n), E(phi) = E/K F + sum of c_k sin phi_k.
+// phi_k is kept as t = tan phi_k and the number of half turns to the nearest multiple of pi: phi_(k+1) lies less than a
+// quarter turn from twice that multiple, unless its tangent passes the pole on the way.
 struct Landen {
     double f, sum;  // sum only where wanted
 };
 
 template <bool kWithSum>
-Landen Descend(double phi, double t, double m, double b) noexcept {
-    double a = 1, c = std::sqrt(m), power = 1, periods = 0, sum = 0;
-    while (std::fabs(c / a) > kEpsilon) {
+Landen Descend(double t, double m, double b) noexcept {
+    constexpr double kLeastDivisor = 1e-100;  // a pole of the tangent, with a square in range
+    double a = 1, c = std::sqrt(m), power = 1, half_turns = 0, sum = 0;
+    while (c > kEpsilon * a) {
         const double r = b / a;
-        phi += std::atan(t * r) + periods * kPi;
-        periods = std::trunc((phi + kHalfPi) / kPi);
-        t = t * (1 + r) / (1 - r * t * t);
+        double divisor = 1 - r * t * t;
+        half_turns += half_turns;
+        if (divisor < 0) half_turns += t < 0 ? -1 : 1;
+        if (divisor == 0) divisor = kLeastDivisor;
+        t = t * (1 + r) / divisor;
         c = 0.5 * (a - b);
         b = std::sqrt(a * b);
         a = a - c;
         power += power;
-        if constexpr (kWithSum) sum += c * std::sin(phi);
+        if constexpr (kWithSum) {
+            const double sine = t / std::sqrt(1 + t * t);
+            sum += std::fmod(half_turns, 2) != 0 ? -c * sine : c * sine;
+        }
     }
-    return {(std::atan(t) + periods * kPi) / (power * a), sum};
+    return {(std::atan(t) + half_turns * kPi) / (power * a), sum};
 }
 
 // F, or E, of 0 <= phi <= pi/2 and 0 < m < 1.
 template <bool kSecond>
 double FirstQuarter(double phi, double m) noexcept {
-    const double t = std::tan(phi), b = std::sqrt(1 - m);
-    const double from_end = 1 / (b * t);
-    const bool other_end = std::fabs(t) > 10 && std::fabs(from_end) < 10;
-    const double angle = other_end ? std::atan(from_end) : phi;
-    const Landen landen = Descend<kSecond>(angle, other_end ? from_end : t, m, b);
+    const double t = std::tan(phi), b = std::sqrt(1 - m), from_end = 1 / (b * t);
+    const bool other_end = t > 10 && from_end < 10;
+    const Landen landen = Descend<kSecond>(other_end ? from_end : t, m, b);
     if constexpr (!kSecond) return other_end ? SpecEllipticK(m) - landen.f : landen.f;
     const double whole = SpecEllipticE(m), part = whole / SpecEllipticK(m) * landen.f + landen.sum;
-    return other_end ? whole + m * std::sin(phi) * std::sin(angle) - part : part;
+    // sin(phi) sin(e) from the tangents.
+    const double sines = t / std::sqrt(1 + t * t) * (from_end / std::sqrt(1 + from_end * from_end));
+    return other_end ? whole + m * sines - part : part;
 }
 
 // The first terms of both in powers of phi, for |phi| <= kSmallAngle, where the transformation would round more.
@@ -103,7 +111,8 @@ double SpecEllipticK(double m) noexcept {
     const double q = 1 - m;
     if (q == 0) return kInf;
     if (q <= kEpsilon) return kLn4 - 0.5 * std::log(q);
-    return Polynomial(q, kP) - std::log(q) * Polynomial(q, kQ);
+    const PolynomialPair p = Polynomials(q, kP, kQ);
+    return p.first - std::log(q) * p.second;
 }
 
 double SpecEllipticE(double m) noexcept {
@@ -111,14 +120,23 @@ double SpecEllipticE(double m) noexcept {
                                     1.07350949056076193403E-2, 7.77395492516787092951E-3, 7.58395289413514708519E-3,
                                     1.15688436810574127319E-2, 2.18317996015557253103E-2, 5.68051945617860553470E-2,
                                     4.43147180560990850618E-1, 1.00000000000000000299E0};
-    static constexpr double kQ[] = {3.27954898576485872656E-5, 1.00962792679356715133E-3, 6.50609489976927491433E-3,
-                                    1.68862163993311317300E-2, 2.61769742454493659583E-2, 3.34833904888224918614E-2,
-                                    4.27180926518931511717E-2, 5.85936634471101055642E-2, 9.37499997197644278445E-2,
-                                    2.49999999999888314361E-1};
+    // With the factor q as a last coefficient 0.
+    static constexpr double kQ[] = {3.27954898576485872656E-5,
+                                    1.00962792679356715133E-3,
+                                    6.50609489976927491433E-3,
+                                    1.68862163993311317300E-2,
+                                    2.61769742454493659583E-2,
+                                    3.34833904888224918614E-2,
+                                    4.27180926518931511717E-2,
+                                    5.85936634471101055642E-2,
+                                    9.37499997197644278445E-2,
+                                    2.49999999999888314361E-1,
+                                    0};
     if (!InRange(m)) return kNaN;
     const double q = 1 - m;
     if (q == 0) return 1;
-    return Polynomial(q, kP) - std::log(q) * (q * Polynomial(q, kQ));
+    const PolynomialPair p = Polynomials(q, kP, kQ);
+    return p.first - std::log(q) * p.second;
 }
 
 double SpecEllipticF(double phi, double m) noexcept {

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "frame/types.h"
-#include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 namespace {
@@ -23,7 +23,8 @@ Fresnel BySeries(double x, double x2) noexcept {
                                      1.22262789024179030997E-5,  8.68029542941784300606E-4,  4.12142090722199792936E-2,
                                      1.00000000000000000118E0};
     const double t = x2 * x2;
-    return {x * x2 * Polynomial(t, kSN) / MonicPolynomial(t, kSD), x * Polynomial(t, kCN) / Polynomial(t, kCD)};
+    const PolynomialPair s = Polynomials<true>(t, kSN, kSD), c = Polynomials(t, kCN, kCD);
+    return {x * x2 * s.first / s.second, x * c.first / c.second};
 }
 
 // x > 0.
@@ -46,8 +47,8 @@ Fresnel ByAuxiliary(double x, double x2) noexcept {
                                      8.39158816283118707363E-19, 1.86958710162783236342E-22};
     constexpr double kHalfPi = 0.5 * kPi;
     const double t = kPi * x2, u = 1 / (t * t);
-    const double f = 1 - u * Polynomial(u, kFN) / MonicPolynomial(u, kFD);
-    const double g = Polynomial(u, kGN) / (MonicPolynomial(u, kGD) * t);
+    const PolynomialPair fs = Polynomials<true>(u, kFN, kFD), gs = Polynomials<true>(u, kGN, kGD);
+    const double f = 1 - u * fs.first / fs.second, g = gs.first / (gs.second * t);
     // x^2 less whole multiples of 4, with what its rounding took.
     const double lost = std::fma(x, x, -x2);
     const double angle = kHalfPi * ((x2 - 4 * std::nearbyint(0.25 * x2)) + lost);

@@ -5,9 +5,9 @@
 
 #include "frame/types.h"
 #include "stats/special/digamma.h"
+#include "stats/special/double_double.h"
 #include "stats/special/estimate.h"
 #include "stats/special/gamma_ratio.h"
-#include "stats/special/two_double.h"
 
 namespace quorvan {
 namespace {
@@ -35,16 +35,19 @@ struct Argument {
 };
 
 Estimate PowerSeries(const Parameters& p, double x) noexcept {
+    const bool ends = IsPole(p.a) || IsPole(p.b);
     double sum = 1, term = 1, largest = 1;
-    for (int i = 0; i < kLongest; ++i) {
-        const double n = i, an = p.a + n, bn = p.b + n, cn = p.c + n;
+    for (double n = 0; n < kLongest; n += 1) {
+        const double an = p.a + n, bn = p.b + n, cn = p.c + n;
+        if (ends && (an == 0 || bn == 0)) return Judged(sum, largest, 0);
         const double quotient = an * bn * x / (cn * (n + 1));
-        if (quotient == 0 && (an == 0 || bn == 0)) return Judged(sum, largest, 0);
         term *= quotient;
         sum += term;
         const double size = std::fabs(term);
-        if (size > largest) largest = size;
-        if (!(size < kInf)) break;
+        if (size > largest) {
+            largest = size;
+            if (std::isinf(size)) break;
+        }
         if (size <= kEpsilon * std::fabs(sum) && an > 0 && bn > 0 && cn > 0) {
             // The quotients tend to x one-sidedly: the rest is below a geometric series.
             const double ratio = std::fmax(std::fabs(quotient), std::fabs(x));
@@ -56,24 +59,24 @@ Estimate PowerSeries(const Parameters& p, double x) noexcept {
 }
 
 // The same in pairs of doubles.
-Estimate LongSeries(TwoDouble a, TwoDouble b, double c, TwoDouble x) noexcept {
-    TwoDouble sum{1, 0}, term{1, 0};
+Estimate LongSeries(DoubleDouble a, DoubleDouble b, double c, DoubleDouble x) noexcept {
+    DoubleDouble sum{1, 0}, term{1, 0};
     double largest = 1;
     for (int i = 0; i < kLongest; ++i) {
         const double n = i;
-        const TwoDouble an = a + n, bn = b + n, cn = TwoSum(c, n);
-        if (an.hi == 0 || bn.hi == 0) return JudgedPair(sum.hi, largest);
-        term = term * ((an * bn * x) / (cn * (n + 1)));
+        const DoubleDouble shift{n, 0}, an = a + shift, bn = b + shift, cn = ExactSum(c, n);
+        if (an.high == 0 || bn.high == 0) return JudgedPair(sum.high, largest);
+        term = term * ((an * bn * x) / (cn * DoubleDouble{n + 1, 0}));
         sum = sum + term;
-        const double size = std::fabs(term.hi);
+        const double size = std::fabs(term.high);
         if (size > largest) largest = size;
         if (!(size < 1e300)) break;
-        const double ratio = std::fmax(std::fabs(an.hi * bn.hi * x.hi / (cn.hi * (n + 1))), std::fabs(x.hi));
-        if (size <= 0x1p-60 * std::fabs(sum.hi) * (1 - ratio) && an.hi > 0 && bn.hi > 0 && cn.hi > 0) {
-            return JudgedPair(sum.hi, largest);
+        const double ratio = std::fmax(std::fabs(an.high * bn.high * x.high / (cn.high * (n + 1))), std::fabs(x.high));
+        if (size <= 0x1p-60 * std::fabs(sum.high) * (1 - ratio) && an.high > 0 && bn.high > 0 && cn.high > 0) {
+            return JudgedPair(sum.high, largest);
         }
     }
-    return {sum.hi, kInf};
+    return {sum.high, kInf};
 }
 
 // Gamma(c) Gamma(d)/(Gamma(c-a) Gamma(c-b)) 2F1(a, b; 1-d; 1-x)
@@ -172,7 +175,7 @@ Estimate Terminating(const Parameters& p, double x) noexcept {
 // The sums in pairs of doubles, with c - a, c - b and x/(x-1) without loss.
 Estimate Long(const Parameters& p, double x) noexcept {
     constexpr double kMost = 0.99;  // beyond, a series would be too long
-    const TwoDouble a{p.a, 0}, b{p.b, 0}, ca = TwoSum(p.c, -p.a), cb = TwoSum(p.c, -p.b), at{x, 0};
+    const DoubleDouble a{p.a, 0}, b{p.b, 0}, ca = ExactSum(p.c, -p.a), cb = ExactSum(p.c, -p.b), at{x, 0};
     Estimate best{kNaN, kInf};
     if (std::fabs(x) < kMost) {
         best = LongSeries(a, b, p.c, at);
@@ -180,8 +183,8 @@ Estimate Long(const Parameters& p, double x) noexcept {
         best = Better(best, LongSeries(ca, cb, p.c, at).Times(std::pow(1 - x, p.d)));
         if (best.error <= kAccepted) return best;
     }
-    const TwoDouble moved = at / TwoSum(x, -1);
-    if (x >= 0 || std::fabs(moved.hi) > kMost) return best;
+    const DoubleDouble moved = at / ExactSum(x, -1);
+    if (x >= 0 || std::fabs(moved.high) > kMost) return best;
     best = Better(best, LongSeries(a, cb, p.c, moved).Times(std::pow(1 - x, -p.a)));
     if (best.error <= kAccepted) return best;
     return Better(best, LongSeries(ca, b, p.c, moved).Times(std::pow(1 - x, -p.b)));
@@ -198,8 +201,8 @@ double Evaluate(double x, double a, double b, double c, double cut) noexcept {
     if (std::isinf(a) || std::isinf(b) || std::isinf(c)) return kNaN;
     if (x == 0 || ((a == 0 || b == 0) && c != 0)) return 1;
     if (x < 1 && (b == c || a == c) && std::isfinite(x)) return std::pow(1 - x, b == c ? -a : -b);
-    const TwoDouble ca = TwoSum(c, -a), difference = ca + -b;
-    const Parameters p{a, b, c, ca.hi, c - b, difference.hi};
+    const DoubleDouble ca = ExactSum(c, -a), difference = ca + DoubleDouble{-b, 0};
+    const Parameters p{a, b, c, ca.high, c - b, difference.high};
 
     const bool a_ends = IsPole(a), b_ends = IsPole(b);
     if (IsPole(c) && !(a_ends && a > c) && !(b_ends && b > c)) return kInf;

@@ -5,9 +5,9 @@
 
 #include "frame/types.h"
 #include "stats/special/divergent_series.h"
+#include "stats/special/double_double.h"
 #include "stats/special/estimate.h"
 #include "stats/special/gamma_ratio.h"
-#include "stats/special/two_double.h"
 
 namespace quorvan {
 namespace {
@@ -49,34 +49,34 @@ Estimate PowerSeries(double a, double b, double x) noexcept {
 }
 
 // The power series of 1F1(a_hi + a_lo; b; x) in pairs of doubles.
-Estimate LongSeries(TwoDouble a, double b, double x) noexcept {
-    const double limit = TermLimit(a.hi, b, x);
-    TwoDouble sum{1, 0}, term{1, 0};
+Estimate LongSeries(DoubleDouble a, double b, double x) noexcept {
+    const double limit = TermLimit(a.high, b, x);
+    DoubleDouble sum{1, 0}, term{1, 0};
     double largest = 1;
     for (double n = 0; n < limit; n += 1) {
-        const TwoDouble an = a + n, bn = TwoSum(b, n);
-        if (an.hi == 0) break;
-        term = term * ((an * x) / (bn * (n + 1)));
+        const DoubleDouble an = a + DoubleDouble{n, 0}, bn = ExactSum(b, n), xn{x, 0}, factorial{n + 1, 0};
+        if (an.high == 0) break;
+        term = term * ((an * xn) / (bn * factorial));
         sum = sum + term;
-        const double size = std::fabs(term.hi);
+        const double size = std::fabs(term.high);
         if (size > largest) largest = size;
-        if (!(largest < 1e300)) return {sum.hi, kInf};
-        const bool settled = Settled(an.hi, bn.hi, x * an.hi / (bn.hi * (n + 1)));
-        if (size <= 0x1p-60 * std::fabs(sum.hi) && settled) break;
-        if (n + 1 >= limit) return {sum.hi, kInf};
+        if (!(largest < 1e300)) return {sum.high, kInf};
+        const bool settled = Settled(an.high, bn.high, x * an.high / (bn.high * (n + 1)));
+        if (size <= 0x1p-60 * std::fabs(sum.high) && settled) break;
+        if (n + 1 >= limit) return {sum.high, kInf};
     }
-    return JudgedPair(sum.hi, largest);
+    return JudgedPair(sum.high, largest);
 }
 
 // e^x 1F1(b - a; b; -x). `long_sum` in pairs of doubles, b - a without loss.
 Estimate Transformed(double a, double b, double x, bool long_sum) noexcept {
     if (std::fabs(x) > kLargestExponent) return {kNaN, kInf};
-    const TwoDouble difference = TwoSum(b, -a);
-    Estimate sum = long_sum ? LongSeries(difference, b, -x) : PowerSeries(difference.hi, b, -x);
+    const DoubleDouble difference = ExactSum(b, -a);
+    Estimate sum = long_sum ? LongSeries(difference, b, -x) : PowerSeries(difference.high, b, -x);
     sum.value *= std::exp(x);
-    if (!long_sum && difference.lo != 0) {
+    if (!long_sum && difference.low != 0) {
         // d ln 1F1 / d ln(b - a) is at most about |x|.
-        sum.error += std::fabs(difference.lo / difference.hi) * (std::fabs(x) < 1 ? std::fabs(x) : 1);
+        sum.error += std::fabs(difference.low / difference.high) * (std::fabs(x) < 1 ? std::fabs(x) : 1);
     }
     return sum;
 }

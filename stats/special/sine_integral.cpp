@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "frame/types.h"
-#include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 namespace {
@@ -21,8 +21,8 @@ template <std::size_t A, std::size_t B, std::size_t C, std::size_t D>
 SineCosine ByAuxiliary(double x, const double (&fn)[A], const double (&fd)[B], const double (&gn)[C],
                        const double (&gd)[D]) noexcept {
     const double z = 1 / (x * x), s = std::sin(x), c = std::cos(x);
-    const double f = Polynomial(z, fn) / (x * MonicPolynomial(z, fd));
-    const double g = z * Polynomial(z, gn) / MonicPolynomial(z, gd);
+    const PolynomialPair fs = Polynomials<true>(z, fn, fd), gs = Polynomials<true>(z, gn, gd);
+    const double f = fs.first / (x * fs.second), g = z * gs.first / gs.second;
     return {kHalfPi - f * c - g * s, f * s - g * c};
 }
 
@@ -69,8 +69,8 @@ inline SineCosine Both(double x) noexcept {
     if (x > 1e9) return {kHalfPi - std::cos(x) / x, std::sin(x) / x};
     if (x > 4) return x < 8 ? ByAuxiliary(x, kFN4, kFD4, kGN4, kGD4) : ByAuxiliary(x, kFN8, kFD8, kGN8, kGD8);
     const double z = x * x;
-    return {x * Polynomial(z, kSN) / Polynomial(z, kSD),
-            kEulerGamma + std::log(x) + z * Polynomial(z, kCN) / Polynomial(z, kCD)};
+    const PolynomialPair s = Polynomials(z, kSN, kSD), c = Polynomials(z, kCN, kCD);
+    return {x * s.first / s.second, kEulerGamma + std::log(x) + z * c.first / c.second};
 }
 
 }  // namespace

@@ -15,8 +15,9 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kAccepted = 48 * kEpsilon;  // estimate with which a closed form is taken
-constexpr double kMostSteps = 1e6;           // of the recurrence
+constexpr double kAccepted = 48 * kEpsilon;    // estimate with which a closed form is taken
+constexpr double kAsymptotic = 12 * kEpsilon;  // the same of the asymptotic series
+constexpr double kMostSteps = 1e6;             // of the recurrence
 
 // U(a - steps) from U(a) and U(a + 1) by U(a-1) = (x - b + 2a) U(a) - a (a-b+1) U(a+1). Downwards U is not the minimal
 // solution for x > 0, and the recurrence is stable. Scaled, so that the sign of what overflows is right.
@@ -90,43 +91,54 @@ Estimate Limit(double x, double a, double b) noexcept {
     return Judged(first + second, 2 * (std::fabs(weight) * largest + std::fabs(finite_weight) * largest_finite), 0);
 }
 
+struct Neighbours {
+    double at, above;  // U(a, b, x) and U(a+1, b, x)
+};
+
 // The integral for a >= 4 and x > 0, with t = t0 e^s from the peak t0 of the integrand outwards. The strip in which the
 // integrand is analytic is pi/2 wide on either side, and its Gaussian peak narrows as a and b grow: the step h follows.
-double Integral(double x, double a, double b) noexcept {
+// The integrand of U(a+1) is that of U(a) times t/((1+t) a).
+Neighbours Integral(double x, double a, double b) noexcept {
     // x t^2 + (x - b + 1) t - a = 0 at the peak.
     const double p = x - b + 1, root = std::sqrt(p * p + 4 * a * x);
     const double t0 = p > 0 ? 2 * a / (p + root) : (root - p) / (2 * x);
     const double power = b - a - 1;
-    const double curvature = a + std::fabs(b) + 1;
-    const double h = std::fmin(0.2, 0.6 / std::sqrt(curvature));
-    // The summands beside the peak, over that at the peak, up to where they vanish.
-    const auto side = [=](double step) noexcept {
-        double sum = 0;
+    const double h = std::fmin(0.2, 0.6 / std::sqrt(a + std::fabs(b) + 1));
+    double sum = 1, sum_above = t0 / (1 + t0);
+    // The summands on one side of the peak, over that at the peak, up to where they vanish.
+    const auto add_side = [&](double step) noexcept {
+        const double factor = std::exp(step);
+        double grown = 1;
         for (double k = 1; k < 5000; k += 1) {
-            const double s = step * k, beyond = t0 * std::expm1(s);
-            const double value = std::exp(a * s + power * std::log1p(beyond / (1 + t0)) - x * beyond);
+            grown *= factor;
+            const double t = t0 * grown, beyond = t - t0;
+            const double value = std::exp(a * step * k + power * std::log1p(beyond / (1 + t0)) - x * beyond);
             sum += value;
+            sum_above += value * (t / (1 + t));
             if (value < 0x1p-60) break;
         }
-        return sum;
     };
-    const double sum = side(-h) + 1 + side(h);
-    const double direct = GammaWeight(-x * t0, t0, a, 1, 1, a, 1) * std::pow(1 + t0, power);
-    if (std::isfinite(direct) && direct > 1e-290) return h * sum * direct;
-    return h * sum * GammaWeight(power * std::log1p(t0) - x * t0, t0, a, 1, 1, a, 1);
+    add_side(-h);
+    add_side(h);
+    double weight = GammaWeight(-x * t0, t0, a, 1, 1, a, 1) * std::pow(1 + t0, power);
+    if (!(std::isfinite(weight) && weight > 1e-290)) {
+        weight = GammaWeight(power * std::log1p(t0) - x * t0, t0, a, 1, 1, a, 1);
+    }
+    return {h * sum * weight, h * sum_above * weight / a};
 }
 
 double FromIntegral(double x, double a, double b) noexcept {
-    if (a >= 4) return Integral(x, a, b);
+    if (a >= 4) return Integral(x, a, b).at;
     const double steps = std::ceil(4 - a);
     if (steps > kMostSteps) return kNaN;
-    return StepDown(a + steps, Integral(x, a + steps, b), Integral(x, a + steps + 1, b), steps, x, b);
+    const Neighbours top = Integral(x, a + steps, b);
+    return StepDown(a + steps, top.at, top.above, steps, x, b);
 }
 
 double Positive(double x, double a, double b) noexcept {
     if (x >= 8) {
         const Estimate asymptotic = Asymptotic(x, a, b);
-        if (asymptotic.Good()) return asymptotic.value;
+        if (asymptotic.error <= kAsymptotic) return asymptotic.value;
     }
     const bool whole = b == std::floor(b), mirrored = whole && b < 1;
     // U(a, b, x) = x^(1-b) U(a-b+1, 2-b, x), 13.1.29.
