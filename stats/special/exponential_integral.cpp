@@ -50,10 +50,12 @@ double ByFraction(double x, std::int32_t n) noexcept {
     return value * std::exp(-x);
 }
 
+// e^-x/(x+n) (1 + w + (1 - 2l) w^2 + (1 - 8l + 6l^2) w^3 + (1 - 22l + 58l^2 - 24l^3) w^4), w = n/(x+n)^2, l = x/n.
 double ByLargeOrder(double x, double n) noexcept {
-    const double sum = x + n, y = 1 / (sum * sum);
-    const double third = y * n * (6 * x * x - 8 * n * x + n * n);
-    return std::exp(-x) / sum * (1 + y * (n + y * (n * (n - 2 * x) + third)));
+    const double sum = x + n, w = n / (sum * sum), l = x / n;
+    const double fourth = w * (1 + l * (-22 + l * (58 - l * 24)));
+    const double third = w * (1 + l * (-8 + l * 6) + fourth);
+    return std::exp(-x) / sum * (1 + w * (1 + w * (1 - 2 * l + third)));
 }
 
 }  // namespace

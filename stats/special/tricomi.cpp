@@ -69,8 +69,8 @@ Estimate Limit(double x, double a, double b) noexcept {
     for (double k = 0; k < 500; k += 1) {
         term = factor * psi;
         sum += term;
-        // psi is a sum itself.
-        const double size = std::fabs(factor) * (std::fabs(psi) + 1);
+        // psi is a sum itself, and its rounding is the same in all terms.
+        const double size = std::fabs(factor) * (std::fabs(psi) + 8);
         if (size > largest) largest = size;
         if (size <= 0.25 * kEpsilon * std::fabs(sum) && k > -a) break;
         psi += 1 / (a + k) - 1 / (k + 1) - 1 / (n + 1 + k);
@@ -95,7 +95,7 @@ struct Neighbours {
     double at, above;  // U(a, b, x) and U(a+1, b, x)
 };
 
-// The integral for a >= 4 and x > 0, with t = t0 e^s from the peak t0 of the integrand outwards. The strip in which the
+// The integral for a > 0 and x > 0, with t = t0 e^s from the peak t0 of the integrand outwards. The strip in which the
 // integrand is analytic is pi/2 wide on either side, and its Gaussian peak narrows as a and b grow: the step h follows.
 // The integrand of U(a+1) is that of U(a) times t/((1+t) a).
 Neighbours Integral(double x, double a, double b) noexcept {
@@ -112,7 +112,9 @@ Neighbours Integral(double x, double a, double b) noexcept {
         for (double k = 1; k < 5000; k += 1) {
             grown *= factor;
             const double t = t0 * grown, beyond = t - t0;
-            const double value = std::exp(a * step * k + power * std::log1p(beyond / (1 + t0)) - x * beyond);
+            const double relative = beyond / (1 + t0);  // ln((1+t)/(1+t0)) without loss beside the peak and far from it
+            const double logarithm = relative > -0.5 ? std::log1p(relative) : std::log((1 + t) / (1 + t0));
+            const double value = std::exp(a * step * k + power * logarithm - x * beyond);
             sum += value;
             sum_above += value * (t / (1 + t));
             if (value < 0x1p-60) break;
@@ -127,9 +129,13 @@ Neighbours Integral(double x, double a, double b) noexcept {
     return {h * sum * weight, h * sum_above * weight / a};
 }
 
+// The summands fall like e^(a s) below the peak, so a is raised to 4 at least; but where a - b + 1 < 0 the terms of the
+// recurrence have opposite signs, and only a below kLeastDirect is raised, to 1/2 at least.
 double FromIntegral(double x, double a, double b) noexcept {
-    if (a >= 4) return Integral(x, a, b).at;
-    const double steps = std::ceil(4 - a);
+    constexpr double kLeastDirect = 0.05;
+    const double least = a - b + 1 >= 0 ? 4 : a >= kLeastDirect ? kLeastDirect : 0.5;
+    if (a >= least) return Integral(x, a, b).at;
+    const double steps = std::ceil(least - a);
     if (steps > kMostSteps) return kNaN;
     const Neighbours top = Integral(x, a + steps, b);
     return StepDown(a + steps, top.at, top.above, steps, x, b);

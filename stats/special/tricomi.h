@@ -10,7 +10,7 @@ namespace quorvan {
 //   b not whole                   from two 1F1                         13.1.3
 //   b whole                       its limit, with psi and ln x         13.1.6
 //   where these cancel            the integral of e^(-xt) t^(a-1) (1+t)^(b-a-1) / Gamma(a), 13.2.5, by the trapezoidal
-//                                 rule in ln t for a in [4, 6), and the recurrence 13.4.15 down from there
+//                                 rule in ln t, and the recurrence 13.4.15 down from there where a is small
 // Peak error: see the table of docs/accuracy.md.
 double SpecHypergU(double x, double a, double b) noexcept;
 
