@@ -15,9 +15,10 @@ namespace quorvan {
 //                                3.7252902984619132e-09 of a whole number the limit with psi (15.3.10 to 15.3.12)
 //   else                         the power series, up to 10,000 terms
 // Each sum comes with an estimate of its error; above 4 epsilon (1-x)^d 2F1(c-a, c-b; c; x) and the other forms are
-// tried, and the power series in pairs of doubles, and the best is taken. NaN where no digit holds. Peak error: see the
-// table of docs/accuracy.md. Cephes Math Library, S. L. Moshier: hyp2f1 (Methods and Programs for Mathematical
-// Functions, 1989).
+// tried, and the power series in pairs of doubles, and the best is taken. NaN where no digit holds.
+// Peak error for |x| < 1 2.3e-14 with |a|, |b|, |c| <= 10 and 7.3e-13 with 40; 6.2e-14 down to x = -1000. Weak beside x
+// = 1 where d is near but not at a whole number: 7.7e-9. Cephes Math Library, S. L. Moshier: hyp2f1 (Methods and
+// Programs for Mathematical Functions, 1989).
 double SpecHyperg2F1(double x, double a, double b, double c) noexcept;  // cut at -0.2
 
 // The same function by the same rules with the cut at -0.5.

@@ -129,11 +129,11 @@ Neighbours Integral(double x, double a, double b) noexcept {
     return {h * sum * weight, h * sum_above * weight / a};
 }
 
-// The summands fall like e^(a s) below the peak, so a is raised to 4 at least; but where a - b + 1 < 0 the terms of the
-// recurrence have opposite signs, and only a below kLeastDirect is raised, to 1/2 at least.
+// The summands fall like e^(a s) below the peak, so a is raised to 4 at least; but where a - b + 1 is far below 0
+// the terms of the recurrence have opposite signs, and only a below kLeastDirect is raised, to 1/2 at least.
 double FromIntegral(double x, double a, double b) noexcept {
     constexpr double kLeastDirect = 0.05;
-    const double least = a - b + 1 >= 0 ? 4 : a >= kLeastDirect ? kLeastDirect : 0.5;
+    const double least = a - b + 1 >= -2 ? 4 : a >= kLeastDirect ? kLeastDirect : 0.5;
     if (a >= least) return Integral(x, a, b).at;
     const double steps = std::ceil(least - a);
     if (steps > kMostSteps) return kNaN;

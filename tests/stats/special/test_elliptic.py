@@ -152,7 +152,7 @@ for name in ("SpecEllipticK", "SpecEllipticE"):
 # Beyond pi/2 the remainder of phi is exact to u pi/2.
 for name in ("SpecEllipticF", "SpecEllipticEIncomplete"):
     region(name, "0.015 < phi < pi/2, m in (0, 1)", lambda: square(0.015, HALF_PI, 0, 1, 1, 120), 24, scipy=1e-13)
-    region(name, "|phi| <= 0.015", lambda: pairs(logarithmic(1e-300, 0.015, many(60)), rng(2).uniform(0, 1, many(60))), 3,
+    region(name, "abs(phi) <= 0.015", lambda: pairs(logarithmic(1e-300, 0.015, many(60)), rng(2).uniform(0, 1, many(60))), 3,
            scipy=1e-13)
     region(name, "on both sides of the cuts",
            lambda: [(p, m) for p in (0.015, math.atan(10)) for m in (0.1, 0.5, 0.9, 0.999) for p in
@@ -163,25 +163,25 @@ for name in ("SpecEllipticF", "SpecEllipticEIncomplete"):
            lambda: pairs(rng(4).uniform(0.015, HALF_PI, many(50)), one_less(1e-15, 1e-2, 5, 50)), 24)
     region(name, "phi < pi/2, 1e-20 < m < 0.1",
            lambda: pairs(rng(6).uniform(0.015, HALF_PI, many(50)), logarithmic(1e-20, 0.1, many(50))), 24, scipy=1e-13)
-    region(name, "|phi| in [pi/2, 100]", lambda: square(-100, 100, 0, 0.99, 7, 60), 24, scipy=1e-12)
+    region(name, "abs(phi) in [pi/2, 100]", lambda: square(-100, 100, 0, 0.99, 7, 60), 24, scipy=1e-12)
 
 # An absolute error of u |u| in the amplitude, doubled in each of the steps and halved on the way back; the arcsine loses
 # 1/sqrt(1 - m) beside 1, which shows in cn and dn where m is near 1.
 for name in ("sn", "cn", "dn"):
     name = "SpecJacobiElliptic " + name
-    region(name, "|u| <= 10, m in [1e-9, 0.9]", lambda: square(-10, 10, 1e-9, 0.9, 8, 60), 40, mixed=True, scipy=1e-13)
-    region(name, "|u| <= 10, 1e-9 < 1 - m < 0.1", lambda: pairs(rng(9).uniform(-10, 10, many(60)), one_less(1e-9, 0.1)), 1200,
+    region(name, "abs(u) <= 10, m in [1e-9, 0.9]", lambda: square(-10, 10, 1e-9, 0.9, 8, 60), 40, mixed=True, scipy=1e-13)
+    region(name, "abs(u) <= 10, 1e-9 < 1 - m < 0.1", lambda: pairs(rng(9).uniform(-10, 10, many(60)), one_less(1e-9, 0.1)), 1200,
            mixed=True)
-    region(name, "|u| <= 10, m < 1e-9", lambda: pairs(rng(10).uniform(-10, 10, many(40)), logarithmic(1e-20, 1e-9, many(40))),
+    region(name, "abs(u) <= 10, m < 1e-9", lambda: pairs(rng(10).uniform(-10, 10, many(40)), logarithmic(1e-20, 1e-9, many(40))),
            8, mixed=True, scipy=1e-14)
-    region(name, "|u| <= 4, 1 - m < 1e-9", lambda: pairs(rng(11).uniform(-4, 4, many(40)), one_less(1.2e-16, 1e-9, 12, 40)), 8,
+    region(name, "abs(u) <= 4, 1 - m < 1e-9", lambda: pairs(rng(11).uniform(-4, 4, many(40)), one_less(1.2e-16, 1e-9, 12, 40)), 8,
            mixed=True, scipy=1e-13)
     region(name, "4 < u <= 30, 1 - m < 1e-9",
            lambda: pairs(rng(13).uniform(4, 30, many(40)), one_less(1.2e-16, 1e-9, 14, 40)), 12000, mixed=True)
-region("SpecJacobiElliptic phi", "|u| <= pi/2, m in (0, 1)", lambda: square(-1.57, 1.57, 0, 1, 15, 80), 8, scipy=1e-13)
+region("SpecJacobiElliptic phi", "abs(u) <= pi/2, m in (0, 1)", lambda: square(-1.57, 1.57, 0, 1, 15, 80), 8, scipy=1e-13)
 
 # Rational forms: two polynomials of positive sums or beside 1, two or three more operations.
-region("SpecDawson", "|x| < 3.25", lambda: grid(-3.25, 3.25, many(300)), 8, scipy=1e-14)
+region("SpecDawson", "abs(x) < 3.25", lambda: grid(-3.25, 3.25, many(300)), 8, scipy=1e-14)
 region("SpecDawson", "[3.25, 6.25)", lambda: grid(3.25, 6.25, many(200)), 8, scipy=1e-14)
 region("SpecDawson", "[6.25, 1e10]", lambda: logarithmic(6.25, 1e10, many(200)), 6, scipy=1e-14)
 region("SpecDawson", "1e-300 <= x <= 1e-3", lambda: logarithmic(1e-300, 1e-3, many(100)), 6, scipy=1e-14)
@@ -226,12 +226,12 @@ for name in ("SpecHyperbolicSineIntegral", "SpecHyperbolicCosineIntegral"):
     region(name, "[18, 88]", lambda: grid(18, 88, many(120)), 10, scipy=1e-14)
 
 # The stated sum: the exponentials of the Gammas and e^w cancel as D falls from e^(x^2/4) to e^(-x^2/4).
-region("SpecParabolicCylinder", "|v|, |x| <= 2, against its own sum", lambda: square(-2, 2, -2, 2, 22, 80), 600, mixed=True)
-region("SpecParabolicCylinder", "|v| <= 8, x in [-6, 0], against its own sum", lambda: square(-6, 0, -8, 8, 23, 80), 1e6,
+region("SpecParabolicCylinder", "abs(v), abs(x) <= 2, against its own sum", lambda: square(-2, 2, -2, 2, 22, 80), 600, mixed=True)
+region("SpecParabolicCylinder", "abs(v) <= 8, x in [-6, 0], against its own sum", lambda: square(-6, 0, -8, 8, 23, 80), 1e6,
        mixed=True)
 # The short Gamma series: 2e-9 times the terms, up to e^(x^2/4) of them.
-region("SpecParabolicCylinder, D_v", "|v|, |x| <= 1", lambda: square(-1, 1, -1, 1, 24, 60), 5e-9 / U, mixed=True, scipy=5e-9)
-region("SpecParabolicCylinder, D_v", "|v|, |x| <= 3", lambda: square(-3, 3, -3, 3, 25, 60), 1e-6 / U, mixed=True, scipy=1e-6)
+region("SpecParabolicCylinder, D_v", "abs(v), abs(x) <= 1", lambda: square(-1, 1, -1, 1, 24, 60), 5e-9 / U, mixed=True, scipy=5e-9)
+region("SpecParabolicCylinder, D_v", "abs(v), abs(x) <= 3", lambda: square(-3, 3, -3, 3, 25, 60), 1e-6 / U, mixed=True, scipy=1e-6)
 
 
 @pytest.mark.parametrize("which", REGIONS, ids=lambda r: f"{r.function} {r.label}")
