@@ -1628,6 +1628,34 @@ QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, doubl
 
 /** @} */
 
+/** @defgroup integration Integration of sampled data
+ * The definite integral of equally spaced samples by closed Newton-Cotes rules. Each rule takes as many whole panels as
+ * fit; the intervals left over at the end go through the next lower rule, so that every sample is used.
+ * @{
+ */
+
+/**
+ * IntegrateSamples.
+ * The integral from the first sample to the last, exact for polynomials of degree 1, 3, 3 and 5 where whole panels fit.
+ * With h = |dt| a panel is h/3 (1, 4, 1), h/8 (3, 9, 9, 3) or h/45 (14, 64, 24, 64, 14); the rest is one interval by the
+ * trapezoid, two by Simpson's rule, three by the 3/8 rule.
+ * @param x read, [n]: the samples
+ * @param n their number: at least 2, 3, 4, 5 for rules 0 to 3
+ * @param dt the distance of two samples; its sign is ignored
+ * @param rule 0: trapezoid; 1: Simpson; 2: Simpson's 3/8; 3: Boole
+ * @param result written: the integral, in units of x times those of dt; unwritten on an error
+ * @retval -20008 n is too small for the rule
+ * @retval -20061 rule is above 3
+ * @code
+ * double area;
+ * QvIntegrateSamples(samples, 1001, 0.001, 1, &area);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule, double* result);
+#define QvIntegrateSamples ZemFunc230
+
+/** @} */
+
 /** @defgroup memory Release of memory
  * A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of complex
  * data, and arrays whose length only the operation knows. Each is one block of memory, and one entry, known under
