@@ -113,7 +113,8 @@ Estimate PositiveLimit(const Parameters& p, Argument at, double m) noexcept {
     double psi = std::log(at.rest) - SpecDigamma(1) - SpecDigamma(m + 1) + SpecDigamma(p.ca) + SpecDigamma(p.cb);
     double factor = ReciprocalGamma(m + 1), sum = 0, largest = 0;
     for (double k = 0; k < kLongest; k += 1) {
-        const double term = factor * psi, size = std::fabs(factor) * (std::fabs(psi) + 1);
+        // psi is a sum itself, and its rounding is the same in all terms.
+        const double term = factor * psi, size = std::fabs(factor) * (std::fabs(psi) + 8);
         sum += term;
         if (size > largest) largest = size;
         if (size <= 0.25 * kEpsilon * std::fabs(sum) && k > -p.ca && k > -p.cb) break;
@@ -155,11 +156,12 @@ Estimate Inside(const Parameters& p, Argument at) noexcept {
     return best;
 }
 
-// x < 0, by x/(x-1), on the side of the larger of |a| and |b| first.
+// x < 0, by x/(x-1). The larger of a and b goes first: then c - a - b of the new parameters is not negative, and the
+// power in front carries all growth.
 Estimate Negative(const Parameters& p, double x) noexcept {
     const double rest = 1 / (1 - x);
     const Argument moved{-x * rest, rest};
-    const Parameters first = std::fabs(p.b) > std::fabs(p.a) ? p : p.Exchanged();
+    const Parameters first = p.b > p.a ? p : p.Exchanged();
     Estimate best = Inside(first.Pfaff(), moved).Times(std::pow(rest, first.a));
     if (best.error <= kAccepted) return best;
     best = Better(best, Inside(first.Exchanged().Pfaff(), moved).Times(std::pow(rest, first.b)));

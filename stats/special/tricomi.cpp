@@ -6,6 +6,7 @@
 #include "frame/types.h"
 #include "stats/special/digamma.h"
 #include "stats/special/divergent_series.h"
+#include "stats/special/double_double.h"
 #include "stats/special/estimate.h"
 #include "stats/special/gamma_ratio.h"
 #include "stats/special/hypergeometric.h"
@@ -46,14 +47,14 @@ Estimate Asymptotic(double x, double a, double b) noexcept {
     return Judged(std::pow(x, -a) * sum.value, 0, std::pow(x, -a) * sum.error);
 }
 
-Estimate SumOfTwo(double first, double second) noexcept {
-    return Judged(first + second, 4 * (std::fabs(first) + std::fabs(second)), 0);
-}
-
-// Gamma(1-b)/Gamma(a-b+1) 1F1(a; b; x) + Gamma(b-1)/Gamma(a) x^(1-b) 1F1(a-b+1; 2-b; x).
+// Gamma(1-b)/Gamma(a-b+1) 1F1(a; b; x) + Gamma(b-1)/Gamma(a) x^(1-b) 1F1(a-b+1; 2-b; x). Beside whole b both Gammas are
+// near poles, where what their arguments lose by rounding counts over the distance.
 Estimate FromTwo(double x, double a, double b) noexcept {
-    return SumOfTwo(GammaWeight(0, 1, 0, 1 - b, 1, a - b + 1, 1) * SpecHyperg1F1(x, a, b),
-                    GammaWeight(0, x, 1 - b, b - 1, 1, a, 1) * SpecHyperg1F1(x, a - b + 1, 2 - b));
+    const double first = GammaWeight(0, 1, 0, 1 - b, 1, a - b + 1, 1) * SpecHyperg1F1(x, a, b);
+    const double second = GammaWeight(0, x, 1 - b, b - 1, 1, a, 1) * SpecHyperg1F1(x, a - b + 1, 2 - b);
+    const double lost = std::fabs(ExactSum(1, -b).low) + std::fabs(ExactSum(2, -b).low);
+    const double roundings = 4 + lost / (kEpsilon * std::fabs(b - std::nearbyint(b)));
+    return Judged(first + second, roundings * (std::fabs(first) + std::fabs(second)), 0);
 }
 
 // b = n + 1, n = 0, 1, ...: with (a)_k = a (a+1) ... (a+k-1),

@@ -110,6 +110,10 @@ region(F, "x in [1, 10], a in (0, 10], b = -5 to 10", cloud(15, 80, uniform(1, 1
 region(F, "x in [10, 100], a, b in (0, 10]", cloud(16, 80, uniform(10, 100), uniform(0, 10), uniform(0, 10)), 200)
 region(F, "x in [100, 1e15], a, b in [-5, 5]", cloud(17, 80, logs(100, 1e15), uniform(-5, 5), uniform(-5, 5)), 100)
 region(F, "x in [1e-15, 0.1], a, b in [-5, 5]", cloud(18, 80, logs(1e-15, 0.1), uniform(-5, 5), uniform(-5, 5)), 200)
+region(F, "x in [1e-3, 100], a in [-4, 6], b within 1e-14 to 0.01 of -5 to 5",
+       derived(cloud(34, 80, logs(1e-3, 100), uniform(-4, 6), whole(-5, 5), logs(1e-14, 1e-2)),
+               lambda x, a, b, d: (x, a, b + d)), 4000)
+region(F, "x in [0.1, 100], a in (0, 5], b in [5, 80]", cloud(35, 60, logs(0.1, 100), uniform(0, 5), uniform(5, 80)), 4000)
 region(F, "x in (0, 20], a in [-10, 0], b in [-10, 10]", cloud(19, 80, uniform(0, 20), uniform(-10, 0), uniform(-10, 10)), 4000)
 region(F, "x in (0, 20], a = -1 to -10, b in [-10, 10]", cloud(20, 80, uniform(0, 20), whole(-10, -1), uniform(-10, 10)), 8000)
 region(F, "x in [1, 50], a in (0, 60], b in [-60, 60]", cloud(21, 60, uniform(1, 50), uniform(0, 60), uniform(-60, 60)), 4000)
@@ -122,6 +126,9 @@ for F, cut in (("SpecHyperg2F1", -0.2), ("SpecHyperg2F1Transformed", -0.5)):
     region(F, f"x in [-1, {cut}), a, b, c in (0, 5]", cloud(24, 100, uniform(-1, cut), *positive), 200, scipy=1e-12)
     region(F, "x in [-1000, -1), a, b, c in (0, 5]",
            derived(cloud(25, 100, logs(1, 1000), *positive), lambda x, a, b, c: (-x, a, b, c)), 4e4)
+    region(F, "x in [-1e100, -100], a, b in [-3, 3], c in (0, 5]",
+           derived(cloud(36, 60, logs(100, 1e100), uniform(-3, 3), uniform(-3, 3), uniform(0.1, 5)),
+                   lambda x, a, b, c: (-x, a, b, c)), 4000)
     region(F, "x in [-1, 1], a, b, c in [-10, 10]",
            cloud(26, 120, uniform(-1, 1), uniform(-10, 10), uniform(-10, 10), uniform(-10, 10)), 1000)
     region(F, "x in [0.5, 1), c - a - b = -5 to 5",
