@@ -74,7 +74,7 @@ class Measured:
 
 
 def measure(qv, functions, which):
-    """Errors against the exact values, and the peak difference from SciPy. Values outside 1e-290 to 1e300 count for nothing.
+    """Errors against the exact values, and the peak difference from SciPy. Values below 1e-290 or beyond the largest double count for nothing.
 
     `functions` gives, by name, the call, the exact value and SciPy's value (or None) of the same arguments."""
     call, exact, witness = functions[which.function]
@@ -82,7 +82,7 @@ def measure(qv, functions, which):
     for point in which.points():
         args = tuple(float(v) for v in (point if isinstance(point, tuple) else (point,)))
         truth = exact(*args)
-        if truth != 0 and not 1e-290 < abs(truth) < 1e300:
+        if truth != 0 and not 1e-290 < abs(truth) < sys.float_info.max:
             continue
         scale = max(1, abs(truth)) if which.mixed else abs(truth)
         value = call(qv, *args)
