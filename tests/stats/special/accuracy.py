@@ -74,7 +74,8 @@ class Measured:
 
 
 def measure(qv, functions, which):
-    """Errors against the exact values, and the peak difference from SciPy. Values below 1e-290 or beyond the largest double count for nothing.
+    """Errors against the exact values, and the peak difference from SciPy. Values below 1e-290 or beyond the largest double
+    count for nothing.
 
     `functions` gives, by name, the call, the exact value and SciPy's value (or None) of the same arguments."""
     call, exact, witness = functions[which.function]
