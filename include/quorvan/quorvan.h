@@ -1394,6 +1394,186 @@ QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
 
 /** @} */
 
+/** @defgroup elliptic Elliptic, hypergeometric and integral functions
+ * Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN, in every output.
+ * The elliptic functions take the parameter m = k^2, not the modulus k. The hypergeometric functions take x before the
+ * parameters. Where an argument goes by address, a null pointer selects the complete integral; the address of 0.0 does not.
+ * @{
+ */
+
+/**
+ * SpecEllipticK.
+ * Null phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
+ * Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1 infinite from |phi| = pi/2 on.
+ * NaN for m outside [0, 1].
+ * Rational forms in 1 - m with its logarithm; the descending Landen transformation (Moshier 1989, ellpk and ellik).
+ * @param m the parameter, 0 to 1
+ * @param phi read, may be null: the amplitude in radians; null selects the complete integral
+ * @code
+ * double phi = 0.5, k = QvSpecEllipticK(0.25, NULL), f = QvSpecEllipticK(0.25, &phi);
+ * @endcode
+ */
+QV_API double ZemFunc318(double m, const double* phi);
+#define QvSpecEllipticK ZemFunc318
+
+/**
+ * SpecEllipticE.
+ * Null phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
+ * Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E.
+ * NaN for m outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
+ * @param m the parameter, 0 to 1
+ * @param phi read, may be null: the amplitude in radians; null selects the complete integral
+ */
+QV_API double ZemFunc319(double m, const double* phi);
+#define QvSpecEllipticE ZemFunc319
+
+/**
+ * SpecJacobiElliptic.
+ * The Jacobian elliptic functions. All outputs are NaN for m outside [0, 1] and for infinite u (but for m = 1).
+ * Arithmetic-geometric mean with at most nine steps; expansions in m below 1e-9 and in 1 - m from 0.999999999 on (Moshier 1989, ellpj).
+ * @param u the argument
+ * @param m the parameter, 0 to 1
+ * @param sn written: sn(u|m) = sin phi
+ * @param cn written: cn(u|m) = cos phi
+ * @param dn written: dn(u|m) = sqrt(1 - m sin^2 phi)
+ * @param phi written, may be null: the amplitude, F(phi, m) = u, in radians
+ */
+QV_API void ZemFunc332(double u, double m, double* sn, double* cn, double* dn, double* phi);
+#define QvSpecJacobiElliptic ZemFunc332
+
+/**
+ * SpecDawson.
+ * Dawson's integral, e^(-x^2) times the integral of e^(t^2) from 0 to x. Odd; 0.5413 at most, near 1/(2x) for large x.
+ * Rational forms with cuts at 3.25 and 6.25, 1/(2x) above 1e9 (Moshier 1989, dawsn).
+ * @param x any
+ */
+QV_API double ZemFunc320(double x);
+#define QvSpecDawson ZemFunc320
+
+/**
+ * SpecFresnel.
+ * The Fresnel integrals, both odd. Above |x| = 36974 both are 0.5 with the sign of x.
+ * Rational forms, by auxiliary functions from x^2 = 2.5625 on (Moshier 1989, fresnl).
+ * @param x any
+ * @param s written: S(x), the integral of sin(pi t^2/2) from 0 to x
+ * @param c written: C(x), the integral of cos(pi t^2/2) from 0 to x
+ */
+QV_API void ZemFunc331(double x, double* s, double* c);
+#define QvSpecFresnel ZemFunc331
+
+/**
+ * SpecExpIntegralN.
+ * E_n(x), the integral of e^(-x t) / t^n from 1 to infinity. NaN for x < 0 or n < 0.
+ * 0 above x = 709.7827128933; at x = 0 1/(n - 1), +Inf for n < 2.
+ * Power series up to x = 1, continued fraction above, an asymptotic form for n above 5000 (Moshier 1989, expn).
+ * @param x at least 0
+ * @param n the order, at least 0
+ */
+QV_API double ZemFunc321(double x, int32_t n);
+#define QvSpecExpIntegralN ZemFunc321
+
+/**
+ * SpecSineIntegral.
+ * Si(x), the integral of sin(t)/t from 0 to x. Odd; pi/2 at +Inf.
+ * Rational forms with cuts at 4 and 8, pi/2 - cos(x)/x above 1e9 (Moshier 1989, sici).
+ * @param x any
+ */
+QV_API double ZemFunc322(double x);
+#define QvSpecSineIntegral ZemFunc322
+
+/**
+ * SpecCosineIntegral.
+ * Ci(x) = gamma + ln|x| + the integral of (cos(t) - 1)/t from 0 to x. -Inf at 0; at negative x the real part, the value at |x|.
+ * Rational forms with cuts at 4 and 8, sin(x)/x above 1e9 (Moshier 1989, sici).
+ * @param x any
+ */
+QV_API double ZemFunc323(double x);
+#define QvSpecCosineIntegral ZemFunc323
+
+/**
+ * SpecHyperbolicSineIntegral.
+ * Shi(x), the integral of sinh(t)/t from 0 to x. Odd; infinite above |x| = 88, well before a double would overflow.
+ * Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+ * @param x any
+ */
+QV_API double ZemFunc325(double x);
+#define QvSpecHyperbolicSineIntegral ZemFunc325
+
+/**
+ * SpecHyperbolicCosineIntegral.
+ * Chi(x) = gamma + ln|x| + the integral of (cosh(t) - 1)/t from 0 to x. -Inf at 0, +Inf above |x| = 88; at negative x the value at |x|.
+ * Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+ * @param x any
+ */
+QV_API double ZemFunc324(double x);
+#define QvSpecHyperbolicCosineIntegral ZemFunc324
+
+/**
+ * SpecHyperg1F1.
+ * Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ...
+ * +Inf for b = 0, -1, -2, ... unless a ends the series before. NaN for infinite parameters, and where no digit would be right.
+ * Power series, Kummer's transformation or asymptotic form, the best by its estimated error (Moshier 1989, hyperg).
+ * @param x any
+ * @param a upper parameter
+ * @param b lower parameter
+ */
+QV_API double ZemFunc316(double x, double a, double b);
+#define QvSpecHyperg1F1 ZemFunc316
+
+/**
+ * SpecHypergU.
+ * Tricomi's confluent hypergeometric function U(a, b, x), which falls like x^-a.
+ * Complex at x < 0, and NaN there unless it is a polynomial (times a whole power of x); at x = 0 infinite for b >= 1.
+ * Two 1F1 or their limit for whole b (Abramowitz and Stegun 13.1.3, 13.1.6), the asymptotic series, or the integral 13.2.5.
+ * @param x at least 0
+ * @param a first parameter
+ * @param b second parameter
+ */
+QV_API double ZemFunc317(double x, double a, double b);
+#define QvSpecHypergU ZemFunc317
+
+/**
+ * SpecHyperg2F1.
+ * Gauss's hypergeometric function 2F1(a, b; c; x) = 1 + a b/c x + a(a+1) b(b+1)/(c(c+1)) x^2/2! + ..., continued to x <= 1.
+ * +Inf for c = 0, -1, -2, ... unless a or b ends the series before. NaN for x > 1 unless it is a polynomial (times a whole
+ * power of 1 - x), and where no digit would be right. At x = 1 infinite for c - a - b <= 0.
+ * Power series up to 0.9, in powers of 1 - x above, by x/(x - 1) below -0.2 (Moshier 1989, hyp2f1).
+ * @param x at most 1; any where the function is a polynomial
+ * @param a first upper parameter
+ * @param b second upper parameter
+ * @param c lower parameter
+ * @code
+ * double log2 = QvSpecHyperg2F1(-1.0, 1.0, 1.0, 2.0); // ln(1 - x)/-x at x = -1
+ * @endcode
+ */
+QV_API double ZemFunc386(double x, double a, double b, double c);
+#define QvSpecHyperg2F1 ZemFunc386
+
+/**
+ * SpecHyperg2F1Transformed.
+ * The same function 2F1(a, b; c; x) with the transformation to x/(x - 1) below -0.5.
+ * @param x at most 1; any where the function is a polynomial
+ * @param a first upper parameter
+ * @param b second upper parameter
+ * @param c lower parameter
+ */
+QV_API double ZemFunc315(double x, double a, double b, double c);
+#define QvSpecHyperg2F1Transformed ZemFunc315
+
+/**
+ * SpecParabolicCylinder.
+ * The parabolic cylinder function D_v(x), from two reciprocal Gammas and Kummer's series, to some 2e-9 for small arguments.
+ * x = +Inf gives 0. x = -Inf gives 0 for whole v >= 0, +Inf for v < 0, and else +Inf or -Inf as the whole part of v is odd or even.
+ * NaN for v = +Inf at finite x, and wherever a sum leaves the range of a double.
+ * @param x the argument
+ * @param v the order
+ */
+QV_API double ZemFunc327(double x, double v);
+#define QvSpecParabolicCylinder ZemFunc327
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
