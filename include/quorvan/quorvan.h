@@ -1475,6 +1475,115 @@ QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule,
 
 /** @} */
 
+/** @defgroup interpolation Interpolation
+ * The value between samples: by the one polynomial or the one diagonal rational function through all of them, by a cubic
+ * spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing spline, which weighs
+ * the fit of the samples against the curvature.
+ * @{
+ */
+
+/**
+ * InterpPolynomial.
+ * The value of the polynomial of degree n - 1 through all samples.
+ * Neville's scheme, along the path of corrections nearest the point. On an error nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample
+ * @retval -20003 n is below 1
+ * @retval -20049 two abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 3}, y[3] = {1, 2, 10}, value, error;
+ * QvInterpPolynomial(x, y, 3, 2, &value, &error);  // 5
+ * @endcode
+ */
+QV_API QvStatus ZemFunc138(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpPolynomial ZemFunc138
+
+/**
+ * InterpRational.
+ * The value of the diagonal rational function through all samples.
+ * The scheme of R. Bulirsch and J. Stoer (Numer. Math. 6, 1964). At a sample the value is that sample. On an error
+ * nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample and at a sample
+ * @retval -20003 n is below 1
+ * @retval -20050 the function has a pole at the point
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc146(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpRational ZemFunc146
+
+/**
+ * InterpSplineSecondDerivatives.
+ * The second derivatives of the interpolating cubic spline, for QvInterpSplineEvaluate.
+ * At a natural end the second derivative is 0. One sample gives 0. On -20049 the array holds partial values.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param first the first derivative at the first sample; above 9.9e29: a natural end
+ * @param last the first derivative at the last sample; above 9.9e29: a natural end
+ * @param second written, [n]: the second derivatives of the spline at the samples
+ * @retval -20003 n is below 1
+ * @retval -20049 two of three consecutive abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvInterpSplineSecondDerivatives(x, y, n, 1e30, 1e30, second);
+ * QvInterpSplineEvaluate(x, y, second, n, 2.5, &value);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc164(const double* x, const double* y, int64_t n, double first, double last, double* second);
+#define QvInterpSplineSecondDerivatives ZemFunc164
+
+/**
+ * InterpSplineEvaluate.
+ * The value of a cubic spline. Beyond the samples the end interval goes on.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param second read, [n]: the second derivatives at the samples
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @retval -20003 n is below 1
+ * @retval -20049 the interval at the point has the width 0, as one sample has
+ */
+QV_API QvStatus ZemFunc163(const double* x, const double* y, const double* second, int64_t n, double point, double* result);
+#define QvInterpSplineEvaluate ZemFunc163
+
+/**
+ * InterpSmoothingSpline.
+ * The values at the samples of the cubic smoothing spline, which minimises
+ * balance sum of w (y - s)^2 + (1 - balance) integral of lambda s''^2.
+ * C. H. Reinsch, Numer. Math. 10 (1967). A balance outside 0 to 1 becomes 8 / (8 + g^3) with g = (x[n - 1] - x[0]) / n.
+ * A balance of exactly 1 copies y. Two samples leave the output untouched. On an error nothing is written, except that a
+ * balance of 1 copies before it finds equal abscissas.
+ * @param x read, [n], may be null: the abscissas, strictly ascending
+ * @param y read and written, [n]: the ordinates; the smoothed values when out is null
+ * @param weights read, [n], may be null: the weights of the samples, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param balance from 0, the least-squares line, to 1, interpolation; outside, it is chosen from the mean interval
+ * @param smoothness read, [n - 1], may be null: the weights of the intervals' curvature, by magnitude; null: all 1
+ * @param out written, [n], may be null: the smoothed values; null: over y
+ * @retval -20006 n is below 2
+ * @retval -20002 x is null
+ * @retval -20049 the abscissas do not ascend strictly; with a balance of 1: two of three consecutive ones are equal
+ * @retval -20141 a weight of a sample or of an interval is 0
+ * @retval -20041 the system is singular (seven samples and more)
+ * @retval -20062 the solver did not converge (fewer than seven samples)
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, int64_t n, double balance, const double* smoothness, double* out);
+#define QvInterpSmoothingSpline ZemFunc285
+
+/** @} */
+
 /** @defgroup matrices Solving, inversion and matrix operations
  * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
  * at the
@@ -2340,6 +2449,138 @@ QV_API QvStatus ZemFunc415(const double* x, int64_t n, int64_t p, uint32_t metho
  */
 QV_API QvStatus ZemFunc416(const QvComplex* x, int64_t n, int64_t p, uint32_t method, QvComplex* out);
 #define QvMatLagProductComplex ZemFunc416
+
+/** @} */
+
+/** @defgroup nonlinear_fit Nonlinear fit
+ * Levenberg-Marquardt fits of a model y = f(x; a) that the caller supplies as a function; the gradient is taken by
+ * central differences. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient.
+ * While a derivative is taken one coefficient is moved in place; it is put back exactly. A model must return: one that
+ * leaves by longjmp or by an exception leaks the library's work memory, and that is its own fault.
+ * @{
+ */
+
+/**
+ * FitNonlinear.
+ * Fits the coefficients of a model to samples, without a limit to the iterations.
+ * The fit ends at the second small change of chi-square in a row, with small below 0.001 or below 1e-5 of it; scale data
+ * whose chi-square is that small. A model that becomes NaN or infinite ends the fit quietly with what was accepted.
+ * K. Levenberg, Quart. Appl. Math. 2 (1944); D. W. Marquardt, SIAM J. 11 (1963).
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 a solver did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double decay(double x, double* a, int32_t m) { return a[0] * exp(-a[1] * x); }
+ * double a[2] = {1, 0.1}, error;
+ * QvFitNonlinear(x, y, fitted, n, decay, a, 2, &error);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc130(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinear ZemFunc130
+
+/**
+ * FitNonlinearAlias (FitNonlinear).
+ * The same entry as ZemFunc130.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc339(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearAlias ZemFunc339
+
+/**
+ * FitNonlinearLimited.
+ * The fit with a limit to its iterations.
+ * A limit of 0 takes no step: the outputs describe the guess.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more; the results are written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc131(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimited ZemFunc131
+
+/**
+ * FitNonlinearLimitedAlias (FitNonlinearLimited).
+ * The same entry as ZemFunc131.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc338(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimitedAlias ZemFunc338
+
+/**
+ * FitNonlinearWeighted.
+ * The fit with weights.
+ * Weights that are all 0 fit like no weights. Without fitted there is no mean squared error. On an error neither is
+ * written; iterations is 0 then, or tells how far the fit came.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ * @retval -20068 a weight is NaN or infinite
+ * @retval -20003 n or m is below 1
+ * @retval -20037 fewer than m samples have a weight
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc374(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeighted ZemFunc374
+
+/**
+ * FitNonlinearWeightedAlias (FitNonlinearWeighted).
+ * The same entry as ZemFunc374.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ */
+QV_API QvStatus ZemFunc375(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeightedAlias ZemFunc375
 
 /** @} */
 
