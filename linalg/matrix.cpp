@@ -41,7 +41,7 @@ struct PlainReal {
 };
 
 // A record fills a register by itself.
-template <ComplexRecord (*kElement)(ComplexRecord)>
+template <ComplexRecord (*kElement)(ComplexRecord) noexcept>
 struct Records {
     void turnTwo(const ComplexRecord* upper, const ComplexRecord* lower, Rows columns, Tile<ComplexRecord>& tile,
                  Rows at) const noexcept {
@@ -52,40 +52,40 @@ struct Records {
     }
     ComplexRecord operator()(ComplexRecord v) const noexcept { return kElement(v); }
 };
-ComplexRecord Itself(ComplexRecord v) { return v; }
-ComplexRecord Conjugate(ComplexRecord v) { return CxConj(v); }
+ComplexRecord Itself(ComplexRecord v) noexcept { return v; }
+ComplexRecord Conjugate(ComplexRecord v) noexcept { return CxConj(v); }
 using PlainComplex = Records<Itself>;
 using Conjugated = Records<Conjugate>;
 
 Rows Least(Rows a, Rows b) noexcept { return a < b ? a : b; }
 
-// Rows that stand further apart than a page are foreseen by no processor.
-template <class T>
-void Prefetch(const T* row, Rows columns) noexcept {
-    constexpr Rows kLine = 64 / sizeof(T);
-    for (Rows j = 0; j < columns; j += kLine) __builtin_prefetch(row + j);
-}
-
-// `rows` by `columns` of `a` into the tile; `below` more rows follow.
+// `rows` by `columns` of `a` into the tile.
 template <class T, class Element>
-void Turn(const T* a, Rows rows, Rows columns, Rows lda, Rows below, Tile<T>& tile, Element element) noexcept {
+void Turn(const T* a, Rows rows, Rows columns, Rows lda, Tile<T>& tile, Element element) noexcept {
     Rows i = 0;
-    for (; i + 2 <= rows; i += 2, a += 2 * lda) {
-        if (i + 1 < below) Prefetch(a + rows * lda, columns), Prefetch(a + (rows + 1) * lda, columns);
-        element.turnTwo(a, a + lda, columns, tile, i);
-    }
+    for (; i + 2 <= rows; i += 2, a += 2 * lda) element.turnTwo(a, a + lda, columns, tile, i);
     if (i == rows) return;
     for (Rows j = 0; j < columns; ++j) tile[j][i] = element(a[j]);
 }
 
+// Asks for the lines that a whole tile will be written to: they stand in as many pages, which no processor foresees.
+template <class T>
+void Foresee(T* out, Rows ldo) noexcept {
+    constexpr Rows kLine = 64 / sizeof(T);
+    for (Rows k = 0; k < kSide; ++k)
+        for (Rows i = 0; i < kSide; i += kLine) __builtin_prefetch(out + k * ldo + i, 1);
+}
+
+// Along the rows, which are read in order.
 template <class T, class Element>
 void Transpose(const T* a, Rows m, Rows n, Rows lda, T* out, Rows ldo, Element element) noexcept {
     Tile<T> tile;
-    for (Rows j = 0; j < n; j += kSide) {
-        const Rows columns = Least(n - j, kSide);
-        for (Rows i = 0; i < m; i += kSide) {
-            const Rows rows = Least(m - i, kSide);
-            Turn(a + i * lda + j, rows, columns, lda, m - i - rows, tile, element);
+    for (Rows i = 0; i < m; i += kSide) {
+        const Rows rows = Least(m - i, kSide);
+        for (Rows j = 0; j < n; j += kSide) {
+            const Rows columns = Least(n - j, kSide);
+            if (rows == kSide && j + 2 * kSide <= n) Foresee(out + (j + kSide) * ldo + i, ldo);
+            Turn(a + i * lda + j, rows, columns, lda, tile, element);
             for (Rows k = 0; k < columns; ++k) {
                 T* to = out + (j + k) * ldo + i;
                 if (rows == kSide)
