@@ -175,6 +175,27 @@ def window_cases(library):
                        f"multiply(x, {scipy_call}, out)", names, same)
 
 
+MATRIX_ORDERS = (8, 64, 512, 1500)
+# Name, number, argument types, Quorvan's arguments, NumPy's statement. NumPy's results are arrays of their own.
+MATRIX_OPERATIONS = (
+    ("solve", 114, "ppip", "pa, pb, n, pout", "x = linalg.solve(a, b)"),
+    ("inverse", 105, "pip", "pa, n, pout", "x = linalg.inv(a)"),
+    ("multiply", 119, "ppiiip", "pa, pa, n, n, n, pout", "matmul(a, a, out)"),
+)
+
+
+def matrix_cases(library):
+    for n in MATRIX_ORDERS:
+        a, b, out = noise(n * n, 1).reshape(n, n), noise(n, 2), aligned(n * n).reshape(n, n)
+        a += np.sqrt(n) * np.eye(n)
+        for name, number, types, arguments, numpy_statement in MATRIX_OPERATIONS:
+            names = dict(f=library.call(number, types), a=a, b=b, out=out, pa=address(a), pb=address(b),
+                         pout=address(out), n=n, linalg=np.linalg, matmul=np.matmul)
+            same = {"solve": "numpy.allclose(kept[0], x)", "inverse": "numpy.allclose(kept, x)"}
+            yield Case(f"linalg_{name}", str(n), f"f({arguments})", numpy_statement, names,
+                       same.get(name, "numpy.allclose(kept, out)"))
+
+
 def peak_cases(library):
     """Windows of three samples find the local maxima above the threshold, and interpolate them besides; an apex between
     samples may pass a threshold that its sample does not, so there is none."""
