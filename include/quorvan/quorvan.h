@@ -1088,6 +1088,86 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup filter_objects Filter objects and the cascade engine
+ * A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay lines of
+ * its stages behind it in the same block of memory. It is created, designed (see the designs of the family below), and
+ * then applied to any number of blocks: the delay lines carry over, and a signal that is cut into blocks comes out as
+ * it would in one piece, to the last bit. MemoryRelease gives the object back.
+ * A stage with the coefficients a and b and the delay line d turns the sample v into
+ * v' = t b[0] + b[1] d[0] + b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line
+ * (direct form II; sums from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude
+ * is 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals.
+ * An object belongs to one thread at a time.
+ * @{
+ */
+
+/**
+ * IirFilterCreate.
+ * Creates a filter with its delay lines at 0. Its coefficients are not set before it is designed.
+ * Null for another kind, for an order below 1, and when memory runs out.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype, at least 1; band kinds have twice this order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(0, 4);
+ * double x[5] = {1}, y[5];
+ * QvIirDesignButterworth(1000, 100, 0, filter);
+ * QvIirCascadeApply(x, 5, filter, y);
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvIirFilter* ZemFunc233(uint32_t kind, int32_t order);
+#define QvIirFilterCreate ZemFunc233
+
+/**
+ * IirStateComplexCreate.
+ * Creates the delay lines with which a filter is applied to complex data, all 0.
+ * Null for a kind above 3, for an order below 1, and when memory runs out.
+ * @param kind of the filter that it will be used with
+ * @param order of the filter that it will be used with
+ */
+QV_API QvIirStateComplex* ZemFunc469(uint32_t kind, int32_t order);
+#define QvIirStateComplexCreate ZemFunc469
+
+/**
+ * IirFilterReset.
+ * Makes the next application, and only that one, start from delay lines of 0.
+ * The delay lines cleared are those of that application: the filter's own, or the ones for complex data.
+ * @param filter handle, may be null: the filter
+ */
+QV_API void ZemFunc235(QvIirFilter* filter);
+#define QvIirFilterReset ZemFunc235
+
+/**
+ * IirCascadeApply.
+ * Filters the next block of a signal. y may be x.
+ * A pending reset is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the record do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc91(const double* x, int64_t n, QvIirFilter* filter, double* y);
+#define QvIirCascadeApply ZemFunc91
+
+/**
+ * IirCascadeApplyComplex.
+ * Filters the next block of a complex signal: its real and its imaginary part, each by itself. y may be x.
+ * A pending reset of the filter is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param state handle: the delay lines, of the same kind and order
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the two records do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, QvIirStateComplex* state, QvComplex* y);
+#define QvIirCascadeApplyComplex ZemFunc466
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.

@@ -1,0 +1,243 @@
+// A stage waits for its own last sample and for the stage before it, so that neither samples nor stages can run side by
+// side. What can is a slanted line across both: while one stage works on sample k, the next one works on sample k - 2,
+// the one after that on k - 4. Each lane of a register is a stage (or the real or imaginary part of one), and after
+// every step the outputs move on by one lane. Two samples apart, and not one, so that the way from stage to stage has
+// two steps of time and only the recurrence within the stages is waited for.
+//
+// Lane 0 holds the last stage, so that the output leaves there.
+#include "filters/cascade_loops.h"
+
+#include "transforms/vectors.h"
+
+#if defined(__SSE2__)
+#include <immintrin.h>
+#endif
+
+namespace quorvan::QV_TARGET {
+namespace {
+
+constexpr double kSmallest = 2.2250738585072014e-308;  // DBL_MIN
+constexpr double kNever = -1;                          // a limit that no magnitude is within
+constexpr int kDistance = 2;                           // samples from stage to stage
+
+typedef std::int64_t PairBits __attribute__((vector_size(16)));
+typedef double Quad __attribute__((vector_size(32)));
+typedef std::int64_t QuadBits __attribute__((vector_size(32)));
+typedef double Octet __attribute__((vector_size(64)));
+typedef std::int64_t OctetBits __attribute__((vector_size(64)));
+
+template <class V>
+struct BitsOf;
+template <>
+struct BitsOf<double> {
+    using Type = std::int64_t;
+};
+template <>
+struct BitsOf<Pair> {
+    using Type = PairBits;
+};
+template <>
+struct BitsOf<Quad> {
+    using Type = QuadBits;
+};
+template <>
+struct BitsOf<Octet> {
+    using Type = OctetBits;
+};
+template <class V>
+using Bits = typename BitsOf<V>::Type;
+
+template <class V>
+QV_INLINE V Magnitude(V v) {
+    return V(Bits<V>(v) & INT64_MAX);
+}
+QV_INLINE double Magnitude(double v) { return __builtin_fabs(v); }
+
+// `v` where its magnitude is above the limit, else 0. NaN stays.
+template <class V>
+QV_INLINE V Flushed(V v, V limit) {
+    return Magnitude(v) <= limit ? V{} : v;
+}
+
+// Whether a lane is within its limit.
+template <class V>
+QV_INLINE bool AnyWithin(V v, V limit) {
+    if constexpr (sizeof(V) == sizeof(double)) {
+        return Magnitude(v) <= limit;
+    } else {
+#if defined(__AVX512F__)
+        if constexpr (sizeof(V) == 64) return _mm512_cmp_pd_mask(__m512d(Magnitude(v)), __m512d(limit), _CMP_LE_OQ);
+#endif
+#if defined(__AVX__)
+        if constexpr (sizeof(V) == 32) return _mm256_movemask_pd(__m256d(Magnitude(v) <= limit));
+#endif
+#if defined(__SSE2__)
+        if constexpr (sizeof(V) == 16) return _mm_movemask_pd(__m128d(Magnitude(v) <= limit));
+#endif
+        bool any = false;
+        for (int i = 0; i < kLanes<V>; ++i) any |= Magnitude(v[i]) <= limit[i];
+        return any;
+    }
+}
+
+// The lanes of `low` from place kBy on, followed by those of `high`.
+template <int kBy, class V, int... I>
+QV_INLINE V MovedDown(V low, V high, std::integer_sequence<int, I...>) {
+    return __builtin_shufflevector(low, high, (kBy + I)...);
+}
+template <int kBy>
+QV_INLINE double MovedDown(double, double high, std::integer_sequence<int, 0>) {
+    return high;
+}
+
+// The sample in every lane, or in every pair of lanes.
+template <int kParts, class V, int... I>
+QV_INLINE V SampleLanes(const double* x, std::integer_sequence<int, I...>) {
+    if constexpr (sizeof(V) == sizeof(double)) {
+        return *x;
+    } else if constexpr (kParts == 1) {
+        return *x - V{};
+    } else {
+        const Pair sample = Load<Pair>(x);
+        return __builtin_shufflevector(sample, sample, (I % 2)...);
+    }
+}
+
+// The output of the last stage.
+template <int kParts, class V>
+QV_INLINE void PutSample(V v, double limit, double* y) {
+    if constexpr (kParts == 2) {
+        Store(y, Flushed(__builtin_shufflevector(v, v, 0, 1), Pair{} + limit));
+    } else if constexpr (sizeof(V) == sizeof(double)) {
+        *y = Flushed(v, limit);
+    } else {
+        *y = Flushed(static_cast<double>(v[0]), limit);
+    }
+}
+
+#if defined(__SSE2__)
+#define QV_KEEP_BRANCH(value) asm("" : "+x"(value))
+#else
+#define QV_KEEP_BRANCH(value)
+#endif
+
+// One register's worth of stages or a few, from first to last; `limit` is that of the output.
+template <class V, int kRegisters, int kWidth, int kParts>
+void Run(const double* a, const double* b, int stages, const double* x, std::ptrdiff_t n, double limit, double* state,
+         double* y) {
+    constexpr int kAll = kRegisters * kLanes<V>, kLast = kRegisters - 1;
+    const int used = stages * kParts;
+    alignas(V) double buffer[kAll];
+    // value(stage, part) in the lane of that stage and part.
+    const auto spread = [&](V(&to)[kRegisters], double unused, auto value) {
+        for (int i = 0; i < kAll; ++i) buffer[i] = i < used ? value(stages - 1 - i / kParts, i % kParts) : unused;
+        for (int r = 0; r < kRegisters; ++r) to[r] = Load<V>(buffer + r * kLanes<V>);
+    };
+
+    V feedback[kWidth][kRegisters], forward[kWidth + 1][kRegisters], delay[kWidth][kRegisters];
+    for (int j = 0; j < kWidth; ++j) {
+        spread(feedback[j], 0, [&](int s, int) { return a[s * kWidth + j]; });
+        spread(delay[j], 0, [&](int s, int part) { return state[(s * kWidth + j) * kParts + part]; });
+    }
+    for (int j = 0; j <= kWidth; ++j) spread(forward[j], 0, [&](int s, int) { return b[s * (kWidth + 1) + j]; });
+    V limits[kRegisters], first[kRegisters], behind[kRegisters];
+    spread(limits, kNever, [](int, int) { return kSmallest; });
+    spread(first, 0, [](int s, int) { return s == 0 ? 1.0 : 0.0; });
+    const auto enters = first[kLast] != V{};  // the first stage always stands in the last register
+    spread(behind, 0, [](int s, int) { return -1.0 * kDistance * s; });
+    V late[kRegisters] = {}, last[kRegisters] = {};  // the outputs of the last step but one, and of the last
+
+    const std::ptrdiff_t lead = kDistance * (stages - 1);
+    // At the ends some stages have no sample to work on: their delay lines stay.
+    const auto step = [&](std::ptrdiff_t k, auto at_ends) __attribute__((always_inline)) {
+        V v[kRegisters], t[kRegisters];
+        for (int r = 0; r < kRegisters; ++r) v[r] = MovedDown<kParts>(late[r], late[r < kLast ? r + 1 : r], Lanes<V>{});
+        if (!at_ends || k < n) v[kLast] = enters ? SampleLanes<kParts, V>(x + k * kParts, Lanes<V>{}) : v[kLast];
+        for (int r = 0; r < kRegisters; ++r) {
+            t[r] = v[r];
+            for (int j = 0; j < kWidth; ++j) t[r] = t[r] - feedback[j][r] * delay[j][r];
+            v[r] = t[r] * forward[0][r];
+            for (int j = 0; j < kWidth; ++j) v[r] = v[r] + forward[j + 1][r] * delay[j][r];
+        }
+        // A branch, and one that is easily foreseen: the next step begins before the comparison is done.
+        bool any = false;
+        for (int r = 0; r < kRegisters; ++r) any |= AnyWithin(t[r], limits[r]);
+        if (any) [[unlikely]]
+            for (int r = 0; r < kRegisters; ++r) {
+                t[r] = Flushed(t[r], limits[r]);
+                QV_KEEP_BRANCH(t[r]);
+            }
+        for (int r = 0; r < kRegisters; ++r) {
+            if constexpr (at_ends) {
+                const V sample = behind[r] + static_cast<double>(k);
+                const auto works = (sample >= V{}) & (sample < V{} + static_cast<double>(n));
+                for (int j = kWidth - 1; j > 0; --j) delay[j][r] = works ? delay[j - 1][r] : delay[j][r];
+                delay[0][r] = works ? t[r] : delay[0][r];
+            } else {
+                for (int j = kWidth - 1; j > 0; --j) delay[j][r] = delay[j - 1][r];
+                delay[0][r] = t[r];
+            }
+            late[r] = last[r];
+            last[r] = v[r];
+        }
+        if (!at_ends || k >= lead) PutSample<kParts>(v[0], limit, y + (k - lead) * kParts);
+    };
+    std::ptrdiff_t k = 0;
+    for (; k < lead; ++k) step(k, std::true_type{});
+    for (; k < n; ++k) step(k, std::false_type{});
+    for (; k < n + lead; ++k) step(k, std::true_type{});
+
+    for (int j = 0; j < kWidth; ++j) {
+        for (int r = 0; r < kRegisters; ++r) Store(buffer + r * kLanes<V>, delay[j][r]);
+        for (int i = 0; i < used; ++i)
+            state[((stages - 1 - i / kParts) * kWidth + j) * kParts + i % kParts] = buffer[i];
+    }
+}
+
+// Registers for so many lanes.
+template <int kWidth, int kParts, class... Arguments>
+void RunLanes(int lanes, Arguments... arguments) {
+    constexpr int kWidest = kLanes<Wide>;
+    if constexpr (kParts == 1)
+        if (lanes == 1) return Run<double, 1, kWidth, kParts>(arguments...);
+    if (lanes <= 2) return Run<Pair, 1, kWidth, kParts>(arguments...);
+    if constexpr (kWidest > 4)
+        if (lanes <= 4) return Run<Quad, 1, kWidth, kParts>(arguments...);
+    if constexpr (kWidest > 2)
+        if (lanes <= kWidest) return Run<Wide, 1, kWidth, kParts>(arguments...);
+    if (lanes <= 2 * kWidest) return Run<Wide, 2, kWidth, kParts>(arguments...);
+    Run<Wide, 3, kWidth, kParts>(arguments...);
+}
+
+// As many stages as the registers hold, then the next ones on the result.
+template <int kParts>
+void Cascade(CascadeStages cascade, const double* x, Count n, double* state, double* y) {
+    constexpr Count kMost = 3 * kLanes<Wide> / kParts;
+    const Count width = cascade.width;
+    for (std::ptrdiff_t first = 0; first < cascade.stages; first += kMost) {
+        const bool ends = cascade.stages - first <= kMost;
+        const int stages = ends ? static_cast<int>(cascade.stages - first) : kMost;
+        const double limit = ends ? kSmallest : kNever;
+        const double *const a = cascade.a + first * width, *const b = cascade.b + first * (width + 1);
+        double* const delays = state + first * width * kParts;
+        if (width == 2)
+            RunLanes<2, kParts>(stages * kParts, a, b, stages, x, n, limit, delays, y);
+        else
+            RunLanes<4, kParts>(stages * kParts, a, b, stages, x, n, limit, delays, y);
+        x = y;
+    }
+}
+
+void Reals(CascadeStages cascade, const double* x, Count n, double* state, double* y) {
+    Cascade<1>(cascade, x, n, state, y);
+}
+
+void Records(CascadeStages cascade, const ComplexRecord* x, Count n, ComplexRecord* state, ComplexRecord* y) {
+    Cascade<2>(cascade, &x->re, n, &state->re, &y->re);
+}
+
+}  // namespace
+
+const CascadeLoops kCascadeLoops = {Reals, Records};
+
+}  // namespace quorvan::QV_TARGET
