@@ -9,9 +9,15 @@ endforeach()
 set(QUORVAN_TARGET_UNITS ${QUORVAN_UNITS})
 list(FILTER QUORVAN_TARGET_UNITS INCLUDE REGEX "\\.target\\.cpp$")
 list(FILTER QUORVAN_UNITS EXCLUDE REGEX "\\.target\\.cpp$")
-# The allocator stands apart: the tests link one that fails on request.
-set(QUORVAN_HEAP ${PROJECT_SOURCE_DIR}/frame/memory.cpp)
+# The allocators stand apart: the tests link others that fail on request and tell mixed blocks.
+set(QUORVAN_HEAP ${PROJECT_SOURCE_DIR}/frame/memory.cpp ${PROJECT_SOURCE_DIR}/linalg/provider_memory.cpp)
 list(REMOVE_ITEM QUORVAN_UNITS ${QUORVAN_HEAP})
+
+# The linear algebra provider: LAPACK and CBLAS with 32-bit integers under their generic names, so that the system's
+# alternatives decide (OpenBLAS, the reference libraries, ...). Debian's libblas carries the CBLAS entries.
+find_library(QUORVAN_LAPACK NAMES lapack REQUIRED)
+find_library(QUORVAN_BLAS NAMES blas REQUIRED)
+set(QUORVAN_PROVIDER ${QUORVAN_LAPACK} ${QUORVAN_BLAS})
 
 # What every unit is compiled with. No contraction and no fast-math: stated orders of operations hold everywhere.
 add_library(quorvan_options INTERFACE)
@@ -68,9 +74,9 @@ set_target_properties(quorvan PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0
 if(NOT WIN32)
     target_link_options(quorvan PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/exports/quorvan.map -Wl,--no-undefined)
 endif()
-target_link_libraries(quorvan PRIVATE m)
+target_link_libraries(quorvan PRIVATE ${QUORVAN_PROVIDER} m)
 
 # For tests only: the same objects over an allocator in which the k-th allocation fails on request.
 add_library(quorvan_testable STATIC EXCLUDE_FROM_ALL ${QUORVAN_OBJECTS}
             ${PROJECT_SOURCE_DIR}/tests/support/failing_heap.cpp)
-target_link_libraries(quorvan_testable PUBLIC quorvan_options m)
+target_link_libraries(quorvan_testable PUBLIC quorvan_options ${QUORVAN_PROVIDER} m)

@@ -1,10 +1,82 @@
 #include "frame/platform.h"
 
+#include <atomic>
+#include <cerrno>
+#include <unistd.h>
+
 namespace quorvan {
+namespace {
+
+constinit pthread_key_t thread_end_key = 0;
+constinit bool thread_ends_noticed = false;
+constinit std::atomic<void (*)() noexcept> thread_end_handler{nullptr};
+
+// Any address but null marks a thread as armed.
+constinit char armed = 0;
+
+extern "C" void QuorvanThreadEnded(void*) {
+    if (auto* handler = thread_end_handler.load()) handler();
+}
+
+}  // namespace
 
 std::mutex& PlanMutex() noexcept {
     static constinit std::mutex mutex;
     return mutex;
+}
+
+void RecursiveMutex::Create() noexcept {
+    pthread_mutexattr_t attributes;
+    if (pthread_mutexattr_init(&attributes) != 0) return;
+    pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_RECURSIVE);
+    pthread_mutexattr_setrobust(&attributes, PTHREAD_MUTEX_ROBUST);
+    created_ = pthread_mutex_init(&mutex_, &attributes) == 0;
+    pthread_mutexattr_destroy(&attributes);
+}
+
+void RecursiveMutex::Close() noexcept {
+    if (created_) pthread_mutex_destroy(&mutex_);
+    created_ = false;
+}
+
+void RecursiveMutex::Lock() noexcept {
+    if (!created_) return;
+    // The last owner ended with it: what it guards is whole all the same, since no owner ends in the middle of a
+    // change.
+    if (pthread_mutex_lock(&mutex_) == EOWNERDEAD) {
+        pthread_mutex_consistent(&mutex_);
+        holds_ = 0;
+    }
+    ++holds_;
+}
+
+void RecursiveMutex::Unlock() noexcept {
+    if (!created_) return;
+    --holds_;
+    pthread_mutex_unlock(&mutex_);
+}
+
+void RecursiveMutex::ReleaseAll() noexcept {
+    if (!created_) return;
+    Lock();
+    for (int holds = holds_; holds > 0; --holds) Unlock();
+}
+
+std::uint32_t CurrentThread() noexcept { return static_cast<std::uint32_t>(gettid()); }
+
+void NoticeThreadEnds(void (*handler)() noexcept) noexcept {
+    thread_end_handler = handler;
+    thread_ends_noticed = pthread_key_create(&thread_end_key, QuorvanThreadEnded) == 0;
+}
+
+void NoticeEndOfThisThread() noexcept {
+    if (thread_ends_noticed) pthread_setspecific(thread_end_key, &armed);
+}
+
+void IgnoreThreadEnds() noexcept {
+    if (thread_ends_noticed) pthread_key_delete(thread_end_key);
+    thread_ends_noticed = false;
+    thread_end_handler = nullptr;
 }
 
 }  // namespace quorvan

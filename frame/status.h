@@ -19,10 +19,10 @@ inline constexpr Status kWarnPulseLevels = 20021;
 // The text of a code, "Unknown error number" for a code without a row. Never null.
 const char* StatusMessage(Status code) noexcept;
 
-// Joins the statuses of successive steps: a later error replaces success or a warning; an earlier error stays.
+// Joins the statuses of successive steps: a later one replaces success, and a later error replaces a warning; an earlier
+// error stays.
 constexpr Status Later(Status earlier, Status later) noexcept {
-    if (earlier < 0) return earlier;
-    return later < 0 ? later : earlier;
+    return earlier == status::kSuccess || (earlier > 0 && later < 0) ? later : earlier;
 }
 
 }  // namespace quorvan

@@ -1528,6 +1528,33 @@ QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, doubl
 
 /** @} */
 
+/** @defgroup integration Integration of sampled data
+ * The definite integral of equally spaced samples by a closed Newton-Cotes rule. Each rule takes as many whole panels as
+ * fit; the samples left over at the end go through the next lower rule that fits them, so that every sample counts.
+ * @{
+ */
+
+/**
+ * IntegrateSamples.
+ * The definite integral from the first sample to the last.
+ * The rules are exact for polynomials of degree 1, 3, 3 and 5 where whole panels fit (Abramowitz and Stegun 25.4).
+ * On an error the result stays unwritten.
+ * @param x read, [n]: the samples
+ * @param n their number, at least rule + 2
+ * @param dt the sampling interval; its sign does not matter
+ * @param rule 0: trapezoid; 1: Simpson; 2: Simpson's 3/8; 3: Boole
+ * @param result written: the integral, in units of x times units of dt
+ * @retval -20008 n is below 2, 3, 4, 5 for rule 0, 1, 2, 3
+ * @retval -20061 the rule is above 3
+ * @code
+ * QvIntegrateSamples(power, 1000, 1e-3, 1, &energy);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule, double* result);
+#define QvIntegrateSamples ZemFunc230
+
+/** @} */
+
 /** @defgroup memory Release of memory
  * A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of complex
  * data, and arrays whose length only the operation knows. Each is one block of memory, and one entry, known under
@@ -1596,6 +1623,35 @@ QV_API QvFftPlan* ZemFunc260(int64_t size);
  */
 QV_API void ZemFunc261(QvFftPlan* plan);
 #define QvFftPlanRelease ZemFunc261
+
+/** @} */
+
+/** @defgroup polynomial_zeros Complex polynomial zeros
+ * All zeros of a polynomial, one after the other: a walk downhill on |p(z)| with limited and turned Newton steps, pure
+ * Newton steps near the zero, and deflation (K. Madsen, BIT 13, 1973). Plain and fast, without a notion of multiplicity.
+ * @{
+ */
+
+/**
+ * PolyZeros.
+ * The zeros of a polynomial with real coefficients.
+ * Zero coefficients at the high end lower the degree: there are as many zeros as the degree says, and the rest of z stays
+ * unwritten. After an error z holds the zeros found so far. Conjugate zeros need not stand side by side.
+ * @param c read, [m]: the coefficients, the highest power first
+ * @param m their number
+ * @param z written, [m - 1]: the zeros in the order found, those at 0 first
+ * @retval -20003 m is below 1
+ * @retval -20063 a coefficient is NaN, or the polynomial is a constant
+ * @retval -20062 a search found no way down at one point
+ * @retval -20116 a derivative became NaN: the coefficients are too large or too far apart
+ * @retval -20001 memory is exhausted
+ * @code
+ * double c[3] = {1, -3, 2};
+ * QvPolyZeros(c, 3, zeros);  // 2 and 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc231(const double* c, int32_t m, QvComplex* z);
+#define QvPolyZeros ZemFunc231
 
 /** @} */
 

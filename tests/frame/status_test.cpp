@@ -231,6 +231,8 @@ TEST(StatusMessage, AnswersWithTheFirstOfTwoRows) {
 
 TEST(Later, KeepsAnEarlierErrorAndTakesALaterOne) {
     EXPECT_EQ(Later(0, 0), 0);
+    EXPECT_EQ(Later(0, 20001), 20001);
+    EXPECT_EQ(Later(20001, 20003), 20001);
     EXPECT_EQ(Later(20001, 0), 20001);
     EXPECT_EQ(Later(20001, -20001), -20001);
     EXPECT_EQ(Later(0, -20001), -20001);

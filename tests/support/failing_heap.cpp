@@ -1,9 +1,12 @@
 #include "tests/support/failing_heap.h"
 
 #include <atomic>
+#include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 
 #include "frame/memory.h"
+#include "linalg/provider_memory.h"
 
 namespace quorvan {
 namespace {
@@ -12,19 +15,46 @@ std::atomic<long> fail_at{-1};
 std::atomic<long> allocations{0};
 std::atomic<long> live_blocks{0};
 
-}  // namespace
+// Every block stands behind a tag of its allocator, so that a block that is released by the other one is seen at once.
+// Blocks of the general heap are aligned to 16 bytes only, deliberately: a provider block among them shows.
+struct alignas(kProviderAlignment) Tag {
+    std::uint64_t allocator;
+    std::uint64_t unused[3];
+};
+constexpr std::uint64_t kGeneral = 0x6745230189ABCDEF;
+constexpr std::uint64_t kProvider = 0xFEDCBA9876543210;
 
-void* HeapAllocate(std::size_t bytes) noexcept {
+void* Allocate(std::size_t bytes, std::uint64_t allocator) {
     if (allocations++ == fail_at) return nullptr;
-    void* block = std::malloc(bytes ? bytes : 1);
-    if (block) ++live_blocks;
+    const std::size_t lead = allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16;
+    if (bytes > SIZE_MAX / 2) return nullptr;
+    void* start = nullptr;
+    if (posix_memalign(&start, alignof(Tag), lead + bytes) != 0) return nullptr;
+    ++live_blocks;
+    auto* block = static_cast<unsigned char*>(start) + lead;
+    reinterpret_cast<std::uint64_t*>(block)[-1] = allocator;
     return block;
 }
 
-void HeapFree(void* block) noexcept {
-    if (block) --live_blocks;
-    std::free(block);
+void Release(void* block, std::uint64_t allocator) {
+    if (!block) return;
+    std::uint64_t& tag = static_cast<std::uint64_t*>(block)[-1];
+    if (tag != allocator) {
+        std::fprintf(stderr,
+                     "a block was released by an allocator that did not make it, or written before its start\n");
+        std::abort();
+    }
+    tag = 0;
+    --live_blocks;
+    std::free(static_cast<unsigned char*>(block) - (allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16));
 }
+
+}  // namespace
+
+void* HeapAllocate(std::size_t bytes) noexcept { return Allocate(bytes ? bytes : 1, kGeneral); }
+void HeapFree(void* block) noexcept { Release(block, kGeneral); }
+void* ProviderAllocate(std::size_t bytes) noexcept { return Allocate(bytes ? bytes : 1, kProvider); }
+void ProviderFree(void* block) noexcept { Release(block, kProvider); }
 
 namespace testing {
 

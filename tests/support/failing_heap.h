@@ -1,4 +1,5 @@
-// The heap of the test build: counts blocks, and fails the k-th allocation from now on request.
+// The heap of the test build, general and provider blocks alike: counts blocks, fails the k-th allocation from now on
+// request, and ends the program when a block is released by the other allocator.
 #pragma once
 
 #include <functional>

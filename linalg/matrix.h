@@ -1,0 +1,42 @@
+// What all matrix routines share: row-major storage without gaps (element (i, j) of m by n at i·n + j), the screen of
+// their input, and the way to and from the provider's column-major blocks.
+//
+// To the provider a row-major m by n matrix is its n by m transpose. A routine that can work on the transpose passes a
+// plain copy; where the orientation matters it passes a transposed one.
+#pragma once
+
+#include <cstddef>
+
+#include "frame/types.h"
+#include "linalg/provider_memory.h"
+
+namespace quorvan {
+
+// The number of elements of an m by n matrix, not wrapped; 0 for a size below 1.
+constexpr std::size_t Elements(Count m, Count n) noexcept {
+    return m < 1 || n < 1 ? 0 : static_cast<std::size_t>(m) * static_cast<std::size_t>(n);
+}
+
+// Whether any element is NaN, infinite, DBL_MAX, or at or below -1.7976931348623e308 (ArrHasNonFinite's limits).
+bool MatScreen(const double* a, std::size_t count) noexcept;
+bool MatScreen(const ComplexRecord* a, std::size_t count) noexcept;
+
+// Row-major m by n to n by m. `out` must not overlap `a`.
+void TransposeTo(const double* a, Count m, Count n, double* out) noexcept;
+void TransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept;
+// The same with the conjugate of each element.
+void ConjugateTransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept;
+inline void ConjugateTransposeTo(const double* a, Count m, Count n, double* out) noexcept { TransposeTo(a, m, n, out); }
+
+// Copies in provider memory, as they stand and transposed; empty when memory is exhausted.
+template <class T>
+ProviderBlock<T> Copied(const T* a, Count m, Count n) noexcept;
+template <class T>
+ProviderBlock<T> Transposed(const T* a, Count m, Count n) noexcept;
+
+// Transposes out of place, or through a temporary when `out` is null or equals `a`.
+Status MatTranspose(double* a, Count m, Count n, double* out) noexcept;
+Status MatTransposeComplex(ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept;  // without conjugation
+Status MatConjugateTranspose(ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept;
+
+}  // namespace quorvan

@@ -1,0 +1,35 @@
+// Linear systems, least squares, inverse and pseudo-inverse over the provider; T is double or ComplexRecord. Row major.
+#pragma once
+
+#include "frame/types.h"
+
+namespace quorvan {
+
+// Minimum-norm least squares of A·X = B, A m by n, nrhs right-hand sides. Below full rank the warning 20001, with the
+// solution. A tolerance at or below 0, or negative, stands for the double epsilon (see the unit). Not screened here.
+template <class T>
+Status SolveLeastSquares(const T* a, Count m, Count n, const T* b, Count nrhs, double tolerance, T* x) noexcept;
+
+// Kinds: 0 general (least squares), 1 positive definite, 2 lower triangular, 3 upper triangular; with their checks.
+template <class T>
+Status MatSolveMany(const T* a, Count m, Count n, std::uint32_t kind, const T* b, Count nrhs, T* x) noexcept;
+template <class T>
+Status MatSolveKind(const T* a, Count m, Count n, const T* b, std::uint32_t kind, T* x) noexcept {
+    return MatSolveMany(a, m, n, kind, b, 1, x);
+}
+
+// The square general system by LU, not screened. x null: over b. -20003, -20041 for a singular matrix.
+Status MatSolve(const double* a, double* b, Count n, double* x) noexcept;
+Status MatSolveUpperTriangular(const double* r, double* b, Count n, double* x) noexcept;
+Status MatSolveUnitLower(const double* l, double* b, Count n, double* x, const Count* pivots) noexcept;
+
+// The general inverse, not screened. out null: over A.
+Status MatInverse(double* a, Count n, double* out) noexcept;
+template <class T>
+Status MatInverseKind(T* a, Count n, Count kind, T* out) noexcept;
+
+// out is n by m; null: over A. A negative tolerance means max(m, n)·s(0)·epsilon.
+template <class T>
+Status MatPseudoInverse(T* a, Count m, Count n, double tolerance, T* out) noexcept;
+
+}  // namespace quorvan

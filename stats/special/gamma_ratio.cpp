@@ -1,0 +1,27 @@
+#include "stats/special/gamma_ratio.h"
+
+#include <cmath>
+
+#include "stats/special/gamma.h"
+#include "stats/special/ln_gamma.h"
+
+namespace quorvan {
+
+bool IsPole(double x) noexcept { return x <= 0 && x == std::floor(x); }
+
+double ReciprocalGamma(double x) noexcept { return IsPole(x) ? 0 : 1 / GammaValue(x); }
+
+double GammaWeight(double exponent, double base, double power, double above0, double above1, double below0,
+                   double below1) noexcept {
+    if (IsPole(below0) || IsPole(below1)) return 0;
+    const double direct = std::exp(exponent) * std::pow(base, power) * (GammaValue(above0) / GammaValue(below0)) *
+                          (GammaValue(above1) / GammaValue(below1));
+    if (std::isfinite(direct) && std::fabs(direct) > 1e-290) return direct;
+    int signs[4];
+    const double over = SpecLnGamma(above0, &signs[0]) + SpecLnGamma(above1, &signs[1]);
+    const double under = SpecLnGamma(below0, &signs[2]) + SpecLnGamma(below1, &signs[3]);
+    const double powers = power == 0 ? exponent : exponent + power * std::log(base);
+    return signs[0] * signs[1] * signs[2] * signs[3] * std::exp(powers + (over - under));
+}
+
+}  // namespace quorvan
