@@ -35,14 +35,15 @@ struct PrototypeSection {
 class SectionSink {
 public:
     template <class Take>
-    SectionSink(Take& take) noexcept
-        : context_(&take),
-          call_([](void* context, const PrototypeSection& section) { (*static_cast<Take*>(context))(section); }) {}
+    SectionSink(const Take& take) noexcept
+        : context_(&take), call_([](const void* context, const PrototypeSection& section) {
+              (*static_cast<const Take*>(context))(section);
+          }) {}
     void operator()(const PrototypeSection& section) const { call_(context_, section); }
 
 private:
-    void* context_;
-    void (*call_)(void*, const PrototypeSection&);
+    const void* context_;
+    void (*call_)(const void*, const PrototypeSection&);
 };
 
 // (order + 1) / 2 sections; a real pole, which every odd order has, comes first. Only the Bessel family can fail, and
