@@ -1,0 +1,83 @@
+// Singular values by the provider's divide and conquer, on the transpose: row-major memory as it stands.
+//
+// With A^T = P·S·Q^H, A = conj(Q)·S·P^T: the provider's vt = Q^H is, read row by row, U; its u = P becomes V by a
+// conjugate transposition.
+#include <algorithm>
+#include <cstring>
+
+#include "linalg/decompositions.h"
+#include "linalg/info.h"
+#include "linalg/lapack_eigen.h"
+#include "linalg/matrix.h"
+
+namespace quorvan {
+namespace {
+
+constexpr char kValuesOnly = 'N', kEconomy = 'S', kFull = 'A';
+
+// The doubles that zgesdd uses at most: (5k + 7)k, and 2·max(m, n)·k + 2k² + k where one side is somewhat longer.
+std::size_t RealWorkCount(Count m, Count n) noexcept {
+    const auto longer = static_cast<std::size_t>(std::max(m, n)), k = static_cast<std::size_t>(std::min(m, n));
+    return std::max((5 * k + 7) * k, 2 * longer * k + 2 * k * k + k);
+}
+
+template <class T>
+Status Decompose(const T* a, Count m, Count n, char job, T* u, double* s, T* v) noexcept {
+    if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
+    const Count k = std::min(m, n);
+    const bool vectors = job != kValuesOnly;
+    const Count columnsU = job == kFull ? m : k, columnsV = job == kFull ? n : k;
+    const std::size_t elementsU = vectors ? Elements(m, columnsU) : 0, elementsV = vectors ? Elements(n, columnsV) : 0;
+
+    const ProviderBlock<T> copy = Copied(a, m, n);
+    const ProviderBlock<T> left(elementsV), right(elementsU);  // the transpose has them the other way round
+    const Block<double> values(static_cast<std::size_t>(k));
+    const Block<double> rwork = RealWork<T>(RealWorkCount(m, n));
+    const Block<Count> iwork(8 * static_cast<std::size_t>(k));
+    if (!copy || !left || !right || !values || !rwork || !iwork) return status::kOutOfMemory;
+
+    Count info = 0;
+    const Status memory = Queried<T>(&info, [&](T* work, Count lwork) {
+        return Gesdd(job, n, m, copy.get(), n, values.get(), left.get(), n, right.get(), columnsU, work, lwork,
+                     rwork.get(), iwork.get());
+    });
+    if (memory != status::kSuccess) return memory;
+    if (info != 0) return StatusOf(info, info::kSingularValues);
+
+    std::memcpy(s, values.get(), static_cast<std::size_t>(k) * sizeof(double));
+    if (!vectors) return status::kSuccess;
+    std::memcpy(u, right.get(), elementsU * sizeof(T));
+    ConjugateTransposeTo(left.get(), columnsV, n, v);
+    return status::kSuccess;
+}
+
+}  // namespace
+
+template <class T>
+Status MatSingularValues(const T* a, Count m, Count n, double* s) noexcept {
+    if (m < 1 || n < 1) return status::kSamplesNotPositive;
+    return Decompose<T>(a, m, n, kValuesOnly, nullptr, s, nullptr);
+}
+
+template <class T>
+Status MatSvd(const T* a, Count m, Count n, T* u, double* s, T* v) noexcept {
+    if (m < 1 || n < 1) return status::kSamplesNotPositive;
+    return Decompose(a, m, n, kEconomy, u, s, v);
+}
+
+template <class T>
+Status MatSvdMode(const T* a, Count m, Count n, Count mode, T* u, double* s, T* v) noexcept {
+    if (m < 1 || n < 1) return status::kSamplesNotPositive;
+    if (!u || !v) return MatSingularValues(a, m, n, s);  // whatever the mode, deliberately
+    if (mode != 0 && mode != 1) return status::kInvalidSelection;
+    return Decompose(a, m, n, mode == 0 ? kFull : kEconomy, u, s, v);
+}
+
+template Status MatSingularValues(const double*, Count, Count, double*) noexcept;
+template Status MatSingularValues(const ComplexRecord*, Count, Count, double*) noexcept;
+template Status MatSvd(const double*, Count, Count, double*, double*, double*) noexcept;
+template Status MatSvd(const ComplexRecord*, Count, Count, ComplexRecord*, double*, ComplexRecord*) noexcept;
+template Status MatSvdMode(const double*, Count, Count, Count, double*, double*, double*) noexcept;
+template Status MatSvdMode(const ComplexRecord*, Count, Count, Count, ComplexRecord*, double*, ComplexRecord*) noexcept;
+
+}  // namespace quorvan
