@@ -91,8 +91,8 @@ QV_INLINE double MovedDown(double, double high, std::integer_sequence<int, 0>) {
 }
 
 // v and v again. GCC 12 takes a wider step than this through memory.
-QV_INLINE Quad Twice(Pair v) { return __builtin_shufflevector(v, v, 0, 1, 0, 1); }
-QV_INLINE Octet Twice(Quad v) { return __builtin_shufflevector(v, v, 0, 1, 2, 3, 0, 1, 2, 3); }
+[[maybe_unused]] QV_INLINE Quad Twice(Pair v) { return __builtin_shufflevector(v, v, 0, 1, 0, 1); }
+[[maybe_unused]] QV_INLINE Octet Twice(Quad v) { return __builtin_shufflevector(v, v, 0, 1, 2, 3, 0, 1, 2, 3); }
 
 // The sample in every lane, or in every pair of lanes.
 template <int kParts, class V>
