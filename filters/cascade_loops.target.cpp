@@ -19,6 +19,7 @@ namespace {
 constexpr double kSmallest = 2.2250738585072014e-308;  // DBL_MIN
 constexpr double kNever = -1;                          // a limit that no magnitude is within
 constexpr int kDistance = 2;                           // samples from stage to stage
+constexpr int kMostRegisters = 3;                      // that side by side still keep their histories at hand
 
 typedef std::int64_t PairBits __attribute__((vector_size(16)));
 typedef double Quad __attribute__((vector_size(32)));
@@ -127,61 +128,94 @@ QV_INLINE void PutSample(V v, double limit, double* y) {
 #define QV_KEEP_BRANCH(value)
 #endif
 
-// One register's worth of stages or a few, from first to last; `limit` is that of the output.
-template <class V, int kRegisters, int kWidth, int kParts>
+enum class Form { kOne, kTwo };
+
+// A history of samples moves on by one; where `works` says so, when it is a mask.
+template <int kWidth, class V>
+QV_INLINE void Push(V (&history)[kWidth], V newest) {
+    for (int j = kWidth - 1; j > 0; --j) history[j] = history[j - 1];
+    history[0] = newest;
+}
+template <int kWidth, class V, class Mask>
+QV_INLINE void Push(V (&history)[kWidth], V newest, Mask works) {
+    for (int j = kWidth - 1; j > 0; --j) history[j] = works ? history[j - 1] : history[j];
+    history[0] = works ? newest : history[0];
+}
+
+// One register's worth of stages or a few, from first to last; `limit` is that of the output. Form one starts from rest
+// and takes no state.
+template <Form kForm, class V, int kRegisters, int kWidth, int kParts>
 void Run(const double* a, const double* b, int stages, const double* x, std::ptrdiff_t n, double limit, double* state,
          double* y) {
+    constexpr bool kTwo = kForm == Form::kTwo;
     constexpr int kAll = kRegisters * kLanes<V>, kLast = kRegisters - 1;
     const int used = stages * kParts;
     alignas(V) double buffer[kAll];
     // value(stage, part) in the lane of that stage and part.
-    const auto spread = [&](V(&to)[kRegisters], double unused, auto value) {
+    const auto spread = [&](double unused, auto value, auto put) {
         for (int i = 0; i < kAll; ++i) buffer[i] = i < used ? value(stages - 1 - i / kParts, i % kParts) : unused;
-        for (int r = 0; r < kRegisters; ++r) to[r] = Load<V>(buffer + r * kLanes<V>);
+        for (int r = 0; r < kRegisters; ++r) put(r, Load<V>(buffer + r * kLanes<V>));
     };
 
-    V feedback[kWidth][kRegisters], forward[kWidth + 1][kRegisters], delay[kWidth][kRegisters];
+    V feedback[kRegisters][kWidth], forward[kRegisters][kWidth + 1], limits[kRegisters], behind[kRegisters], first{};
+    // In form two `past` is the delay line of a stage, in form one its inputs, and then `results` are its outputs.
+    V past[kRegisters][kWidth] = {}, results[kRegisters][kWidth] = {};
     for (int j = 0; j < kWidth; ++j) {
-        spread(feedback[j], 0, [&](int s, int) { return a[s * kWidth + j]; });
-        spread(delay[j], 0, [&](int s, int part) { return state[(s * kWidth + j) * kParts + part]; });
+        spread(
+            0, [&](int s, int) { return a[s * kWidth + j]; }, [&](int r, V v) { feedback[r][j] = v; });
+        if constexpr (kTwo)
+            spread(
+                0, [&](int s, int part) { return state[(s * kWidth + j) * kParts + part]; },
+                [&](int r, V v) { past[r][j] = v; });
     }
-    for (int j = 0; j <= kWidth; ++j) spread(forward[j], 0, [&](int s, int) { return b[s * (kWidth + 1) + j]; });
-    V limits[kRegisters], first[kRegisters], behind[kRegisters];
-    spread(limits, kNever, [](int, int) { return kSmallest; });
-    spread(first, 0, [](int s, int) { return s == 0 ? 1.0 : 0.0; });
-    const auto enters = first[kLast] != V{};  // the first stage always stands in the last register
-    spread(behind, 0, [](int s, int) { return -1.0 * kDistance * s; });
+    for (int j = 0; j <= kWidth; ++j)
+        spread(
+            0, [&](int s, int) { return b[s * (kWidth + 1) + j]; }, [&](int r, V v) { forward[r][j] = v; });
+    spread(
+        kNever, [](int, int) { return kSmallest; }, [&](int r, V v) { limits[r] = v; });
+    spread(
+        0, [](int s, int) { return -1.0 * kDistance * s; }, [&](int r, V v) { behind[r] = v; });
+    // The first stage always stands in the last register.
+    spread(
+        0, [](int s, int) { return s == 0 ? 1.0 : 0.0; }, [&](int, V v) { first = v; });
+    const auto enters = first != V{};
     V late[kRegisters] = {}, last[kRegisters] = {};  // the outputs of the last step but one, and of the last
 
     const std::ptrdiff_t lead = kDistance * (stages - 1);
-    // At the ends some stages have no sample to work on: their delay lines stay.
+    // At the ends some stages have no sample to work on: their histories stay.
     const auto step = [&](std::ptrdiff_t k, auto at_ends) __attribute__((always_inline)) {
-        V v[kRegisters], t[kRegisters];
+        V v[kRegisters], newest[kRegisters];
         for (int r = 0; r < kRegisters; ++r) v[r] = MovedDown<kParts>(late[r], late[r < kLast ? r + 1 : r], Lanes<V>{});
         if (!at_ends || k < n) v[kLast] = enters ? SampleLanes<kParts, V>(x + k * kParts) : v[kLast];
         for (int r = 0; r < kRegisters; ++r) {
-            t[r] = v[r];
-            for (int j = 0; j < kWidth; ++j) t[r] = t[r] - feedback[j][r] * delay[j][r];
-            v[r] = t[r] * forward[0][r];
-            for (int j = 0; j < kWidth; ++j) v[r] = v[r] + forward[j + 1][r] * delay[j][r];
+            V t = v[r];
+            if constexpr (kTwo)
+                for (int j = 0; j < kWidth; ++j) t = t - feedback[r][j] * past[r][j];
+            v[r] = t * forward[r][0];
+            for (int j = 0; j < kWidth; ++j) v[r] = v[r] + forward[r][j + 1] * past[r][j];
+            if constexpr (!kTwo)
+                for (int j = 0; j < kWidth; ++j) v[r] = v[r] - feedback[r][j] * results[r][j];
+            newest[r] = t;
         }
-        // A branch, and one that is easily foreseen: the next step begins before the comparison is done.
-        bool any = false;
-        for (int r = 0; r < kRegisters; ++r) any |= AnyWithin(t[r], limits[r]);
-        if (any) [[unlikely]]
-            for (int r = 0; r < kRegisters; ++r) {
-                t[r] = Flushed(t[r], limits[r]);
-                QV_KEEP_BRANCH(t[r]);
-            }
+        if constexpr (kTwo) {
+            // A branch, and one that is easily foreseen: the next step begins before the comparison is done.
+            bool any = false;
+            for (int r = 0; r < kRegisters; ++r) any |= AnyWithin(newest[r], limits[r]);
+            if (any) [[unlikely]]
+                for (int r = 0; r < kRegisters; ++r) {
+                    newest[r] = Flushed(newest[r], limits[r]);
+                    QV_KEEP_BRANCH(newest[r]);
+                }
+        }
         for (int r = 0; r < kRegisters; ++r) {
             if constexpr (at_ends) {
                 const V sample = behind[r] + static_cast<double>(k);
                 const auto works = (sample >= V{}) & (sample < V{} + static_cast<double>(n));
-                for (int j = kWidth - 1; j > 0; --j) delay[j][r] = works ? delay[j - 1][r] : delay[j][r];
-                delay[0][r] = works ? t[r] : delay[0][r];
+                Push(past[r], newest[r], works);
+                if constexpr (!kTwo) Push(results[r], v[r], works);
             } else {
-                for (int j = kWidth - 1; j > 0; --j) delay[j][r] = delay[j - 1][r];
-                delay[0][r] = t[r];
+                Push(past[r], newest[r]);
+                if constexpr (!kTwo) Push(results[r], v[r]);
             }
             late[r] = last[r];
             last[r] = v[r];
@@ -193,57 +227,62 @@ void Run(const double* a, const double* b, int stages, const double* x, std::ptr
     for (; k < n; ++k) step(k, std::false_type{});
     for (; k < n + lead; ++k) step(k, std::true_type{});
 
-    for (int j = 0; j < kWidth; ++j) {
-        for (int r = 0; r < kRegisters; ++r) Store(buffer + r * kLanes<V>, delay[j][r]);
-        for (int i = 0; i < used; ++i)
-            state[((stages - 1 - i / kParts) * kWidth + j) * kParts + i % kParts] = buffer[i];
-    }
+    if constexpr (kTwo)
+        for (int j = 0; j < kWidth; ++j) {
+            for (int r = 0; r < kRegisters; ++r) Store(buffer + r * kLanes<V>, past[r][j]);
+            for (int i = 0; i < used; ++i)
+                state[((stages - 1 - i / kParts) * kWidth + j) * kParts + i % kParts] = buffer[i];
+        }
 }
 
 // Registers for so many lanes.
-template <int kWidth, int kParts, class... Arguments>
+template <Form kForm, int kWidth, int kParts, class... Arguments>
 void RunLanes(int lanes, Arguments... arguments) {
     constexpr int kWidest = kLanes<Wide>;
     if constexpr (kParts == 1)
-        if (lanes == 1) return Run<double, 1, kWidth, kParts>(arguments...);
-    if (lanes <= 2) return Run<Pair, 1, kWidth, kParts>(arguments...);
+        if (lanes == 1) return Run<kForm, double, 1, kWidth, kParts>(arguments...);
+    if (lanes <= 2) return Run<kForm, Pair, 1, kWidth, kParts>(arguments...);
     if constexpr (kWidest > 4)
-        if (lanes <= 4) return Run<Quad, 1, kWidth, kParts>(arguments...);
+        if (lanes <= 4) return Run<kForm, Quad, 1, kWidth, kParts>(arguments...);
     if constexpr (kWidest > 2)
-        if (lanes <= kWidest) return Run<Wide, 1, kWidth, kParts>(arguments...);
-    if (lanes <= 2 * kWidest) return Run<Wide, 2, kWidth, kParts>(arguments...);
-    Run<Wide, 3, kWidth, kParts>(arguments...);
+        if (lanes <= kWidest) return Run<kForm, Wide, 1, kWidth, kParts>(arguments...);
+    if (lanes <= 2 * kWidest) return Run<kForm, Wide, 2, kWidth, kParts>(arguments...);
+    Run<kForm, Wide, kMostRegisters, kWidth, kParts>(arguments...);
 }
 
 // As many stages as the registers hold, then the next ones on the result.
-template <int kParts>
+template <Form kForm, int kParts>
 void Cascade(CascadeStages cascade, const double* x, Count n, double* state, double* y) {
-    constexpr Count kMost = 3 * kLanes<Wide> / kParts;
+    constexpr Count kMost = kMostRegisters * kLanes<Wide> / kParts;
     const Count width = cascade.width;
     for (std::ptrdiff_t first = 0; first < cascade.stages; first += kMost) {
         const bool ends = cascade.stages - first <= kMost;
         const int stages = ends ? static_cast<int>(cascade.stages - first) : kMost;
-        const double limit = ends ? kSmallest : kNever;
+        const double limit = ends && kForm == Form::kTwo ? kSmallest : kNever;
         const double *const a = cascade.a + first * width, *const b = cascade.b + first * (width + 1);
-        double* const delays = state + first * width * kParts;
+        double* const delays = kForm == Form::kTwo ? state + first * width * kParts : nullptr;
         if (width == 2)
-            RunLanes<2, kParts>(stages * kParts, a, b, stages, x, n, limit, delays, y);
+            RunLanes<kForm, 2, kParts>(stages * kParts, a, b, stages, x, n, limit, delays, y);
         else
-            RunLanes<4, kParts>(stages * kParts, a, b, stages, x, n, limit, delays, y);
+            RunLanes<kForm, 4, kParts>(stages * kParts, a, b, stages, x, n, limit, delays, y);
         x = y;
     }
 }
 
 void Reals(CascadeStages cascade, const double* x, Count n, double* state, double* y) {
-    Cascade<1>(cascade, x, n, state, y);
+    Cascade<Form::kTwo, 1>(cascade, x, n, state, y);
 }
 
 void Records(CascadeStages cascade, const ComplexRecord* x, Count n, ComplexRecord* state, ComplexRecord* y) {
-    Cascade<2>(cascade, &x->re, n, &state->re, &y->re);
+    Cascade<Form::kTwo, 2>(cascade, &x->re, n, &state->re, &y->re);
+}
+
+void FromRest(CascadeStages cascade, const double* x, Count n, double* y) {
+    Cascade<Form::kOne, 1>(cascade, x, n, nullptr, y);
 }
 
 }  // namespace
 
-const CascadeLoops kCascadeLoops = {Reals, Records};
+const CascadeLoops kCascadeLoops = {Reals, Records, FromRest};
 
 }  // namespace quorvan::QV_TARGET

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "filters/cascade_loops.h"
 #include "filters/iir_cascade.h"
 #include "filters/iir_stages.h"
 #include "frame/arrays.h"
@@ -21,23 +22,30 @@ Status CheckSections(IirFamily family, std::uint32_t kind, Count n, const IirSpe
     return (IsBand(kind) ? fh : fl) > fs / 2 ? status::kCutoffOutOfRange : status::kSuccess;
 }
 
-// Direct form I from rest, y[t] = b0 v[t] + b1 v[t-1] + ... - a1 y[t-1] - ..., from the left.
-template <int kWidth>
-void Pass(const IirStage& stage, double* y, Count n) {
-    double in[kWidth] = {}, out[kWidth] = {};
-    for (Count t = 0; t < n; ++t) {
-        const double v = y[t];
-        double sum = stage.b[0] * v;
-        for (int j = 0; j < kWidth; ++j) sum += stage.b[j + 1] * in[j];
-        for (int j = 0; j < kWidth; ++j) sum -= stage.a[j] * out[j];
-        for (int j = kWidth - 1; j > 0; --j) {
-            in[j] = in[j - 1];
-            out[j] = out[j - 1];
-        }
-        in[0] = v;
-        out[0] = y[t] = sum;
+// Runs sections over an array in their order, as many at a time as there is room for: where they run side by side, the
+// array is gone through once.
+class Sections {
+public:
+    Sections(std::uint32_t kind, double* y, Count n) : width_(StageWidth(kind)), y_(y), n_(n) {}
+
+    void Add(const IirStage& stage) {
+        std::copy_n(stage.a, width_, a_ + stages_ * width_);
+        std::copy_n(stage.b, width_ + 1, b_ + stages_ * (width_ + 1));
+        if (++stages_ == kRoom) Run();
     }
-}
+    void Run() {
+        if (stages_ > 0) kCascadeLoops().from_rest({width_, stages_, a_, b_}, y_, n_, y_);
+        stages_ = 0;
+    }
+
+private:
+    static constexpr Count kRoom = 24;
+    const Count width_;
+    double* const y_;
+    const Count n_;
+    Count stages_ = 0;
+    double a_[kRoom * 4], b_[kRoom * 5];
+};
 
 }  // namespace
 
@@ -46,16 +54,17 @@ Status IirFilterSections(IirFamily family, std::uint32_t kind, double* x, Count 
     if (const Status failure = CheckSections(family, kind, n, wanted, order)) return failure;
     y = InPlaceIfNull(y, x);
     if (y != x) std::copy_n(x, n, y);
+    Sections sections(kind, y, n);
     const bool band = IsBand(kind);
     const IirWarp warp = IirPrewarp(kind, wanted.fs, wanted.fl, wanted.fh);
     double closing = 1;
     const auto pass = [&](PrototypeSection section) {
         // Chebyshev bands take the gain off at the end of all.
         if (band && family == IirFamily::kChebyshev) closing *= std::exchange(section.h, 1);
-        const IirStage stage = IirStageOf(kind, warp, section);
-        band ? Pass<4>(stage, y, n) : Pass<2>(stage, y, n);
+        sections.Add(IirStageOf(kind, warp, section));
     };
     const Status outcome = IirPrototypeSections({family, order, band, wanted.ripple, wanted.attenuation}, pass);
+    sections.Run();
     if (closing != 1)
         for (Count t = 0; t < n; ++t) y[t] *= closing;
     return outcome;
