@@ -25,8 +25,8 @@ void IirEllipticSections(const IirPrototype& prototype, SectionSink sink) noexce
     if (odd) sink({PrototypeSection::kRealPole, s0 * c0 / (1 - s0 * s0), 0, 0, 0, 0, 1});
     // Of an even order the trough at frequency 0, to which the ripple goes down, is taken off in the first section.
     double h = odd ? 1 : 1 / std::sqrt(epsilon * epsilon + 1);
-    for (Count j = odd ? 2 : 1; j <= n - 1; j += 2) {
-        const auto [s, c, d] = JacobiSnCnDn(j * K / n, kc);
+    for (Size j = odd ? 2 : 1; j <= n - 1; j += 2) {
+        const auto [s, c, d] = JacobiSnCnDn(static_cast<double>(j) * K / n, kc);
         const double E = 1 - d * d * s0 * s0;
         const double sigma = c * d * s0 * c0 / E, omega = s * d0 / E;
         sink({PrototypeSection::kPairWithZeros, 0, 0, sigma, omega * omega + sigma * sigma, 1 / (k * s), h});

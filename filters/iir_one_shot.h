@@ -7,9 +7,9 @@
 
 namespace quorvan {
 
-// All families but Bessel: each section of the prototype makes one pass in direct form I, without a flush of denormals
-// and without memory. Statuses, in this order: -20003, -20021, -20023, then the levels, and -20020 at last. A cutoff of
-// fs/2 passes.
+// All families but Bessel: the sections of the prototype follow one another over the whole array, each in direct form
+// I, without a flush of denormals and without memory. Statuses, in this order: -20003, -20021, -20023, then the levels,
+// and -20020 at last. A cutoff of fs/2 passes.
 Status IirFilterSections(IirFamily family, std::uint32_t kind, double* x, Count n, const IirSpecification& wanted,
                          Count order, double* y) noexcept;
 

@@ -75,12 +75,12 @@ Status InverseChebyshev(const IirPrototype& prototype, SectionSink sink) {
     const double epsilon = 1 / std::sqrt(std::pow(10.0, prototype.attenuation / 10) - 1);
     const Ellipse axes((std::sqrt(epsilon * epsilon + 1) + 1) / epsilon, n);
     if (Odd(n)) sink(RealPole(1 / axes.sh));
-    Count i = Odd(n) ? 2 : 1;
+    Size i = Odd(n) ? 2 : 1;
     ForEachAngle(n, [&](Count, double theta) {
         const double u = axes.sh * std::cos(theta), v = axes.ch * std::sin(theta), m = u * u + v * v;
         PrototypeSection section = Pair(-u / m, 1 / m);
         section.shape = PrototypeSection::kPairWithZeros;
-        section.zeta = 1 / std::sin(i * kPi / (2.0 * n));
+        section.zeta = 1 / std::sin(static_cast<double>(i) * kPi / (2.0 * n));
         i += 2;
         sink(section);
     });
