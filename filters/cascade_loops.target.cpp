@@ -19,7 +19,8 @@ namespace {
 constexpr double kSmallest = 2.2250738585072014e-308;  // DBL_MIN
 constexpr double kNever = -1;                          // a limit that no magnitude is within
 constexpr int kDistance = 2;                           // samples from stage to stage
-constexpr int kMostRegisters = 3;                      // that side by side still keep their histories at hand
+constexpr Count kFew = 8;  // samples for which filling and emptying the lanes takes longer than stage after stage
+constexpr int kMostRegisters = 3;  // that side by side still keep their histories at hand
 
 typedef std::int64_t PairBits __attribute__((vector_size(16)));
 typedef double Quad __attribute__((vector_size(32)));
@@ -250,14 +251,14 @@ void RunLanes(int lanes, Arguments... arguments) {
     Run<kForm, Wide, kMostRegisters, kWidth, kParts>(arguments...);
 }
 
-// As many stages as the registers hold, then the next ones on the result.
+// As many stages as the registers hold, or one, then the next ones on the result.
 template <Form kForm, int kParts>
 void Cascade(CascadeStages cascade, const double* x, Count n, double* state, double* y) {
-    constexpr Count kMost = kMostRegisters * kLanes<Wide> / kParts;
+    const Count most = n < kFew ? 1 : kMostRegisters * kLanes<Wide> / kParts;
     const Count width = cascade.width;
-    for (std::ptrdiff_t first = 0; first < cascade.stages; first += kMost) {
-        const bool ends = cascade.stages - first <= kMost;
-        const int stages = ends ? static_cast<int>(cascade.stages - first) : kMost;
+    for (std::ptrdiff_t first = 0; first < cascade.stages; first += most) {
+        const bool ends = cascade.stages - first <= most;
+        const int stages = ends ? static_cast<int>(cascade.stages - first) : most;
         const double limit = ends && kForm == Form::kTwo ? kSmallest : kNever;
         const double *const a = cascade.a + first * width, *const b = cascade.b + first * (width + 1);
         double* const delays = kForm == Form::kTwo ? state + first * width * kParts : nullptr;
