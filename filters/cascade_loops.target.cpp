@@ -22,32 +22,11 @@ constexpr int kDistance = 2;                           // samples from stage to 
 constexpr Count kFew = 8;  // samples for which filling and emptying the lanes takes longer than stage after stage
 constexpr int kMostRegisters = 3;  // that side by side still keep their histories at hand
 
-typedef std::int64_t PairBits __attribute__((vector_size(16)));
 typedef double Quad __attribute__((vector_size(32)));
-typedef std::int64_t QuadBits __attribute__((vector_size(32)));
 typedef double Octet __attribute__((vector_size(64)));
-typedef std::int64_t OctetBits __attribute__((vector_size(64)));
 
 template <class V>
-struct BitsOf;
-template <>
-struct BitsOf<double> {
-    using Type = std::int64_t;
-};
-template <>
-struct BitsOf<Pair> {
-    using Type = PairBits;
-};
-template <>
-struct BitsOf<Quad> {
-    using Type = QuadBits;
-};
-template <>
-struct BitsOf<Octet> {
-    using Type = OctetBits;
-};
-template <class V>
-using Bits = typename BitsOf<V>::Type;
+using Bits = decltype(V{} < V{});  // an integer of 64 bits in each lane
 
 template <class V>
 QV_INLINE V Magnitude(V v) {
