@@ -32,7 +32,6 @@ template <class V>
 QV_INLINE V Magnitude(V v) {
     return V(Bits<V>(v) & INT64_MAX);
 }
-QV_INLINE double Magnitude(double v) { return __builtin_fabs(v); }
 
 // `v` where its magnitude is above the limit, else 0. NaN stays.
 template <class V>
@@ -43,32 +42,25 @@ QV_INLINE V Flushed(V v, V limit) {
 // Whether a lane is within its limit.
 template <class V>
 QV_INLINE bool AnyWithin(V v, V limit) {
-    if constexpr (sizeof(V) == sizeof(double)) {
-        return Magnitude(v) <= limit;
-    } else {
 #if defined(__AVX512F__)
-        if constexpr (sizeof(V) == 64) return _mm512_cmp_pd_mask(__m512d(Magnitude(v)), __m512d(limit), _CMP_LE_OQ);
+    if constexpr (sizeof(V) == 64) return _mm512_cmp_pd_mask(__m512d(Magnitude(v)), __m512d(limit), _CMP_LE_OQ);
 #endif
 #if defined(__AVX__)
-        if constexpr (sizeof(V) == 32) return _mm256_movemask_pd(__m256d(Magnitude(v) <= limit));
+    if constexpr (sizeof(V) == 32) return _mm256_movemask_pd(__m256d(Magnitude(v) <= limit));
 #endif
 #if defined(__SSE2__)
-        if constexpr (sizeof(V) == 16) return _mm_movemask_pd(__m128d(Magnitude(v) <= limit));
+    if constexpr (sizeof(V) == 16) return _mm_movemask_pd(__m128d(Magnitude(v) <= limit));
 #endif
-        bool any = false;
-        for (int i = 0; i < kLanes<V>; ++i) any |= Magnitude(v[i]) <= limit[i];
-        return any;
-    }
+    const V magnitude = Magnitude(v);
+    bool any = false;
+    for (int i = 0; i < kLanes<V>; ++i) any |= magnitude[i] <= limit[i];
+    return any;
 }
 
 // The lanes of `low` from place kBy on, followed by those of `high`.
 template <int kBy, class V, int... I>
 QV_INLINE V MovedDown(V low, V high, std::integer_sequence<int, I...>) {
     return __builtin_shufflevector(low, high, (kBy + I)...);
-}
-template <int kBy>
-QV_INLINE double MovedDown(double, double high, std::integer_sequence<int, 0>) {
-    return high;
 }
 
 // v and v again. GCC 12 takes a wider step than this through memory.
@@ -78,9 +70,7 @@ QV_INLINE double MovedDown(double, double high, std::integer_sequence<int, 0>) {
 // The sample in every lane, or in every pair of lanes.
 template <int kParts, class V>
 QV_INLINE V SampleLanes(const double* x) {
-    if constexpr (sizeof(V) == sizeof(double)) {
-        return *x;
-    } else if constexpr (kParts == 1) {
+    if constexpr (kParts == 1) {
         return *x - V{};
     } else {
         const Pair sample = Load<Pair>(x);
@@ -95,10 +85,9 @@ template <int kParts, class V>
 QV_INLINE void PutSample(V v, double limit, double* y) {
     if constexpr (kParts == 2) {
         Store(y, Flushed(__builtin_shufflevector(v, v, 0, 1), Pair{} + limit));
-    } else if constexpr (sizeof(V) == sizeof(double)) {
-        *y = Flushed(v, limit);
     } else {
-        *y = Flushed(static_cast<double>(v[0]), limit);
+        const double out = v[0];
+        *y = __builtin_fabs(out) <= limit ? 0.0 : out;
     }
 }
 
@@ -219,8 +208,6 @@ void Run(const double* a, const double* b, int stages, const double* x, std::ptr
 template <Form kForm, int kWidth, int kParts, class... Arguments>
 void RunLanes(int lanes, Arguments... arguments) {
     constexpr int kWidest = kLanes<Wide>;
-    if constexpr (kParts == 1)
-        if (lanes == 1) return Run<kForm, double, 1, kWidth, kParts>(arguments...);
     if (lanes <= 2) return Run<kForm, Pair, 1, kWidth, kParts>(arguments...);
     if constexpr (kWidest > 4)
         if (lanes <= 4) return Run<kForm, Quad, 1, kWidth, kParts>(arguments...);
