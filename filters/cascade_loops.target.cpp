@@ -57,6 +57,11 @@ QV_INLINE bool AnyWithin(V v, V limit) {
     return any;
 }
 
+template <class V, class Lane, int... I>
+QV_INLINE V Made(Lane lane, std::integer_sequence<int, I...>) {
+    return V{lane(I)...};
+}
+
 // The lanes of `low` from place kBy on, followed by those of `high`.
 template <int kBy, class V, int... I>
 QV_INLINE V MovedDown(V low, V high, std::integer_sequence<int, I...>) {
@@ -117,13 +122,17 @@ template <Form kForm, class V, int kRegisters, int kWidth, int kParts>
 void Run(const double* a, const double* b, int stages, const double* x, std::ptrdiff_t n, double limit, double* state,
          double* y) {
     constexpr bool kTwo = kForm == Form::kTwo;
-    constexpr int kAll = kRegisters * kLanes<V>, kLast = kRegisters - 1;
+    constexpr int kLast = kRegisters - 1;
     const int used = stages * kParts;
-    alignas(V) double buffer[kAll];
     // value(stage, part) in the lane of that stage and part.
     const auto spread = [&](double unused, auto value, auto put) {
-        for (int i = 0; i < kAll; ++i) buffer[i] = i < used ? value(stages - 1 - i / kParts, i % kParts) : unused;
-        for (int r = 0; r < kRegisters; ++r) put(r, Load<V>(buffer + r * kLanes<V>));
+        for (int r = 0; r < kRegisters; ++r)
+            put(r, Made<V>(
+                       [&](int lane) {
+                           const int i = r * kLanes<V> + lane;
+                           return i < used ? value(stages - 1 - i / kParts, i % kParts) : unused;
+                       },
+                       Lanes<V>{}));
     };
 
     V feedback[kRegisters][kWidth], forward[kRegisters][kWidth + 1], limits[kRegisters], behind[kRegisters], first{};
@@ -198,9 +207,10 @@ void Run(const double* a, const double* b, int stages, const double* x, std::ptr
 
     if constexpr (kTwo)
         for (int j = 0; j < kWidth; ++j) {
-            for (int r = 0; r < kRegisters; ++r) Store(buffer + r * kLanes<V>, past[r][j]);
+            double lanes[kRegisters * kLanes<V>];
+            for (int r = 0; r < kRegisters; ++r) Store(lanes + r * kLanes<V>, past[r][j]);
             for (int i = 0; i < used; ++i)
-                state[((stages - 1 - i / kParts) * kWidth + j) * kParts + i % kParts] = buffer[i];
+                state[((stages - 1 - i / kParts) * kWidth + j) * kParts + i % kParts] = lanes[i];
         }
 }
 
