@@ -28,6 +28,7 @@ CONVOLUTIONS = ((100, 100), (1000, 1000), (10000, 100), (10000, 10000), (100000,
 WINDOW_SIZES = (256, 4096, 65536)
 FILTER_ORDERS = (2, 4, 8, 12, 16, 20)
 FILTER_BLOCKS = (64, 1024, 16384, 1048576)
+PEAK_SIZES = (1000, 100000, 1000000)
 
 
 @dataclass
@@ -194,6 +195,51 @@ def cascade_cases(library):
                 yield Case(group, f"{order}x{n}", f"f(px, n, {objects}, pout)", "sosfilt(sections, x)", names,
                            "numpy.allclose(kept, sosfilt(sections, x), rtol=0, atol=1e-11)",
                            cleanup=[lambda h=handle, s=state: (release(h), release(s))])
+
+
+def peak_cases(library):
+    """Windows of three samples find the local maxima above the threshold, and interpolate them besides; an apex between
+    samples may pass a threshold that its sample does not, so there is none."""
+    detect, release = library.call(194, "pidicccpppp"), library.call(234, "p", None)
+    for n in PEAK_SIZES:
+        x, out, arrays = noise(n, 1), np.zeros(1, np.int64), np.zeros(3, np.int64)
+        pointers = [ctypes.c_void_p(arrays.ctypes.data + 8 * k) for k in range(3)]
+        names = dict(f=detect, r=release, x=x, out=out, a=arrays, n=n, px=address(x), pout=address(out), p0=pointers[0],
+                     p1=pointers[1], p2=pointers[2], find_peaks=scipy.signal.find_peaks, low=-1e300)
+        yield Case("peaks_3", str(n), "r(int(a[0])); r(int(a[1])); r(int(a[2])); "
+                   "f(px, n, low, 3, 0, 1, 1, pout, p0, p1, p2)", "find_peaks(x, height=low)", names,
+                   "kept[0] == len(find_peaks(x)[0])")
+
+
+# Name, number, argument types, Quorvan's call, NumPy's statement with the legacy generator and with the new one, mean and
+# standard deviation of a value. The results are other numbers of the same distribution: their means are compared.
+RANDOM = (
+    ("uniform", 182, "icp", "f(n, 7, pout)", "out = r.random_sample(n)", "out = r.random(n)", 0.5, 12**-0.5),
+    ("gaussian", 84, "idcp", "f(n, 1.0, 7, pout)", "out = r.standard_normal(n)", "out = r.standard_normal(n)", 0.0, 1.0),
+    ("gamma", 388, "icccp", "f(n, 3, 7, 1, pout)", "out = r.standard_gamma(3, n)", "out = r.standard_gamma(3, n)",
+     3.0, 3**0.5),
+    ("gamma_large", 388, "icccp", "f(n, 30, 7, 1, pout)", "out = r.standard_gamma(30, n)",
+     "out = r.standard_gamma(30, n)", 30.0, 30**0.5),
+    ("poisson", 389, "idccp", "f(n, 4.0, 7, 1, pout)", "out = r.poisson(4, n)", "out = r.poisson(4, n)", 4.0, 2.0),
+    ("poisson_large", 389, "idccp", "f(n, 40.0, 7, 1, pout)", "out = r.poisson(40, n)", "out = r.poisson(40, n)",
+     40.0, 40**0.5),
+    ("shuffle", 396, "picp", "f(pout, n, 7, None)", "r.shuffle(out)", "r.shuffle(out)", None, None),
+)
+RANDOM_SIZES = (1000, 100000)
+
+
+def random_cases(library, generator):
+    """Beside numpy.random.RandomState ("legacy") or numpy.random.Generator ("new")."""
+    for name, number, types, call, legacy, new, mean, deviation in RANDOM:
+        for n in RANDOM_SIZES:
+            out = aligned(n)
+            out[:] = np.arange(n)
+            rival = np.random.RandomState(7) if generator == "legacy" else np.random.default_rng(7)
+            names = dict(f=library.call(number, types), out=out, pout=address(out), n=n, r=rival)
+            # Each mean has a standard error of deviation / sqrt(n).
+            same = ("sorted(kept) == sorted(out)" if mean is None else
+                    f"abs(kept.mean() - {mean}) < 5 * {deviation} / n**0.5 > abs(out.mean() - {mean})")
+            yield Case(f"random_{name}", str(n), call, legacy if generator == "legacy" else new, names, same)
 
 
 # Name, interval, Quorvan's value at x, SciPy's statement.

@@ -1088,6 +1088,312 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup direct_filters Direct-form and smoothing filters
+ * Filters that take plain coefficient arrays. The transfer function of the direct form is
+ * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
+ * state: the last nb - 1 inputs and the last na - 1 outputs, the oldest first. Zeros start from rest; handing the same
+ * arrays back continues a stream, and a stream may be cut anywhere.
+ * @{
+ */
+
+/**
+ * FilterFir.
+ * Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ...
+ * Each sum is added in this order, so that blocks give the bits of the whole.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ * @code
+ * double state[2] = {0, 0}, b[3] = {0.25, 0.5, 0.25};
+ * QvFilterFir(x, 1000, b, state, 3, y);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc352(const double* x, int64_t n, const double* b, double* inputState, int32_t nb, double* y);
+#define QvFilterFir ZemFunc352
+
+/**
+ * FilterDirect.
+ * Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ...
+ * Outputs of magnitude 2.2250738585072014e-308 and below become 0; without feedback they stay.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na], may be null: the denominator; null: no feedback
+ * @param outputState read and written, [na - 1], may be null: the last outputs, the oldest first; null: no feedback
+ * @param na the length of a; below 1: no feedback
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc92(const double* x, int64_t n, const double* a, double* outputState, int32_t na, const double* b, double* inputState, int32_t nb, double* y);
+#define QvFilterDirect ZemFunc92
+
+/**
+ * FilterFirComplex.
+ * Filters complex samples with real coefficients and without feedback.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc353(const QvComplex* x, int64_t n, const double* b, QvComplex* inputState, int32_t nb, QvComplex* y);
+#define QvFilterFirComplex ZemFunc353
+
+/**
+ * FilterDirectComplex.
+ * Filters complex samples with real coefficients and feedback; the parts are separate streams.
+ * A part of magnitude 2.2250738585072014e-308 and below becomes 0; without feedback it stays.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na], may be null: the denominator; null: no feedback
+ * @param outputState read and written, [na - 1], may be null: the last outputs, the oldest first; null: no feedback
+ * @param na the length of a; below 1: no feedback
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc354(const QvComplex* x, int64_t n, const double* a, QvComplex* outputState, int32_t na, const double* b, QvComplex* inputState, int32_t nb, QvComplex* y);
+#define QvFilterDirectComplex ZemFunc354
+
+/**
+ * FilterZeroPhase.
+ * Filters forwards and backwards: no phase, and the square of the amplitude response.
+ * The signal stands between max(na, nb) zeros on both sides, and both passes start from rest.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na]: the denominator
+ * @param na the length of a
+ * @param b read, [nb]: the numerator
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n, na or nb is below 1
+ * @retval -20046 the padded signal exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFilterZeroPhase(ecg, 1000, a, 3, b, 3, smooth);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc385(const double* x, int64_t n, const double* a, int32_t na, const double* b, int32_t nb, double* y);
+#define QvFilterZeroPhase ZemFunc385
+
+/**
+ * SavitzkyGolayDesign.
+ * The least-squares polynomial filters of a frame.
+ * The polynomial's argument counts samples from the middle: k! times row k of derivatives is the k-th derivative there
+ * for a sampling interval of 1. A. Savitzky and M. J. E. Golay, Anal. Chem. 36 (1964). On an error nothing is written.
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param wantDerivatives not 0: derivatives are written
+ * @param smoother written, [(2 * side + 1) * (2 * side + 1)]: row i is the filter for the sample at position i of a frame
+ * @param derivatives written, [(order + 1) * (2 * side + 1)], may be null: row k gives the coefficient of the k-th power
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20046 2 side + 1 exceeds 2^31 - 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc355(int32_t order, int32_t side, const double* weights, int32_t wantDerivatives, double* smoother, double* derivatives);
+#define QvSavitzkyGolayDesign ZemFunc355
+
+/**
+ * SavitzkyGolayFilter.
+ * Smooths by the least-squares polynomial of each frame.
+ * There is no padding: the first and the last `side` samples come from the polynomials of the first and the last frame.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param y written, [n]: the output; may be x
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20008 n is below 2 side + 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc356(const double* x, int64_t n, int32_t order, int32_t side, const double* weights, double* y);
+#define QvSavitzkyGolayFilter ZemFunc356
+
+/**
+ * SavitzkyGolayFilterComplex.
+ * Smooths the two parts of complex samples, each as a real signal.
+ * There is no padding: the first and the last `side` samples come from the polynomials of the first and the last frame.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param y written, [n]: the output; may be x
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20008 n is below 2 side + 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc357(const QvComplex* x, int64_t n, int32_t order, int32_t side, const double* weights, QvComplex* y);
+#define QvSavitzkyGolayFilterComplex ZemFunc357
+
+/**
+ * FilterMedian.
+ * The running median, y[t] = median of x[t - leftRank .. t + rightRank].
+ * Beyond both ends stand zeros. An even window gives the mean of its two middle values. NaN sorts below all numbers.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param leftRank the samples before each one in its window
+ * @param rightRank the samples behind it; negative: as many as before
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n is below 0
+ * @retval -20032 the left rank is negative
+ * @retval -20008 n is above 0 and not above the right rank
+ * @retval -20046 the window exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFilterMedian(x, 1000, 2, -1, y);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t rightRank, double* y);
+#define QvFilterMedian ZemFunc407
+
+/** @} */
+
+/** @defgroup distributions Probability distributions
+ * The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The normal pair
+ * are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions bisect with a fixed
+ * tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical values, not for digits.
+ * After a status the output is as it was, except where NaN is told. A NaN probability gives -20053.
+ * @{
+ */
+
+/**
+ * DistErf.
+ * The error function, 2 / sqrt(pi) times the integral of exp(-t^2) from 0 to x. Always succeeds.
+ * Method: rational approximations, Cephes Math Library, S. L. Moshier.
+ * @param out written: from -1 to 1; NaN for NaN
+ */
+QV_API QvStatus ZemFunc70(double x, double* out);
+#define QvDistErf ZemFunc70
+
+/**
+ * DistErfc.
+ * The complementary error function, 1 - erf(x), without cancellation for large x. Always succeeds.
+ * Below exp(-709.78), from x of 26.64 on, it is 0.
+ * Method: rational approximations, Cephes Math Library, S. L. Moshier.
+ * @param out written: from 2 to 0; NaN for NaN
+ */
+QV_API QvStatus ZemFunc71(double x, double* out);
+#define QvDistErfc ZemFunc71
+
+/**
+ * DistNormalCdf.
+ * The distribution function of the standard normal distribution, right to 1.2e-5. Always succeeds.
+ * Method: Abramowitz and Stegun (1964), 26.2.16.
+ * @param x in standard deviations from the mean
+ * @param out written: the probability of a value at or below x
+ * @code
+ * double p;
+ * QvDistNormalCdf(1.96, &p);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc134(double x, double* out);
+#define QvDistNormalCdf ZemFunc134
+
+/**
+ * DistNormalInverse.
+ * The quantile of the standard normal distribution, right to 4.5e-4. That of 0.5 is near 0, not exactly 0.
+ * Method: Abramowitz and Stegun (1964), 26.2.23.
+ * @param p a probability, 0 to 1
+ * @param out written: the quantile; -Inf for 0, +Inf for 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc106(double p, double* out);
+#define QvDistNormalInverse ZemFunc106
+
+/**
+ * DistTCdf.
+ * The distribution function of Student's t distribution, from the incomplete beta function.
+ * @param dof degrees of freedom
+ * @param out written: the probability of a value at or below t
+ * @retval -20052 dof is below 1
+ * @retval -20104 t is NaN; out is NaN
+ */
+QV_API QvStatus ZemFunc181(double t, int32_t dof, double* out);
+#define QvDistTCdf ZemFunc181
+
+/**
+ * DistTInverse.
+ * The quantile of Student's t distribution, by bisection between -10000 and 10000; no other quantile lies outside.
+ * @param p a probability, 0 to 1
+ * @param dof degrees of freedom
+ * @param out written: the quantile, within 1e-4 below it; -Inf for 0, +Inf for 1
+ * @retval -20052 dof is below 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc107(double p, int32_t dof, double* out);
+#define QvDistTInverse ZemFunc107
+
+/**
+ * DistChiSquareCdf.
+ * The distribution function of the chi-square distribution, from the incomplete gamma function. It is 0 up to 0.
+ * @param dof degrees of freedom; 0 is allowed and gives NaN above 0
+ * @param out written: the probability of a value at or below x
+ * @retval -20052 dof is below 0
+ */
+QV_API QvStatus ZemFunc190(double x, int32_t dof, double* out);
+#define QvDistChiSquareCdf ZemFunc190
+
+/**
+ * DistChiSquareInverse.
+ * The quantile of the chi-square distribution, by bisection. The upper end of the bracket grows in steps of 5000.
+ * @param p a probability, 0 to 1
+ * @param dof degrees of freedom
+ * @param out written: the quantile, within 1e-4 below it; 0 for 0, +Inf for 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ * @retval -20052 dof is below 1
+ */
+QV_API QvStatus ZemFunc108(double p, int32_t dof, double* out);
+#define QvDistChiSquareInverse ZemFunc108
+
+/**
+ * DistFCdf.
+ * The distribution function of the F distribution, from the incomplete beta function. It is 0 up to 0.
+ * @param dof1 degrees of freedom of the numerator
+ * @param dof2 degrees of freedom of the denominator
+ * @param out written: the probability of a value at or below x
+ * @retval -20052 dof1 or dof2 is below 1
+ * @retval -20104 x is NaN; out is NaN
+ */
+QV_API QvStatus ZemFunc83(double x, int32_t dof1, int32_t dof2, double* out);
+#define QvDistFCdf ZemFunc83
+
+/**
+ * DistFInverse.
+ * The quantile of the F distribution, by bisection between 1e-6 and 10000; no other quantile lies outside.
+ * @param p a probability, 0 to 1
+ * @param dof1 degrees of freedom of the numerator
+ * @param dof2 degrees of freedom of the denominator
+ * @param out written: the quantile, within 1e-4 below it; 0 for 0, +Inf for 1
+ * @retval -20052 dof1 or dof2 is below 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
+#define QvDistFInverse ZemFunc104
+
+/** @} */
+
 /** @defgroup filter_objects Filter objects and the cascade engine
  * A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay lines of
  * its stages behind it in the same block of memory. It is created, designed (see the designs of the family below), and
@@ -2655,6 +2961,115 @@ QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule,
 
 /** @} */
 
+/** @defgroup interpolation Interpolation
+ * The value between samples: by the one polynomial or the one diagonal rational function through all of them, by a cubic
+ * spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing spline, which weighs
+ * the fit of the samples against the curvature.
+ * @{
+ */
+
+/**
+ * InterpPolynomial.
+ * The value of the polynomial of degree n - 1 through all samples.
+ * Neville's scheme, along the path of corrections nearest the point. On an error nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample
+ * @retval -20003 n is below 1
+ * @retval -20049 two abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 3}, y[3] = {1, 2, 10}, value, error;
+ * QvInterpPolynomial(x, y, 3, 2, &value, &error);  // 5
+ * @endcode
+ */
+QV_API QvStatus ZemFunc138(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpPolynomial ZemFunc138
+
+/**
+ * InterpRational.
+ * The value of the diagonal rational function through all samples.
+ * The scheme of R. Bulirsch and J. Stoer (Numer. Math. 6, 1964). At a sample the value is that sample. On an error
+ * nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample and at a sample
+ * @retval -20003 n is below 1
+ * @retval -20050 the function has a pole at the point
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc146(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpRational ZemFunc146
+
+/**
+ * InterpSplineSecondDerivatives.
+ * The second derivatives of the interpolating cubic spline, for QvInterpSplineEvaluate.
+ * At a natural end the second derivative is 0. One sample gives 0. On -20049 the array holds partial values.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param first the first derivative at the first sample; above 9.9e29: a natural end
+ * @param last the first derivative at the last sample; above 9.9e29: a natural end
+ * @param second written, [n]: the second derivatives of the spline at the samples
+ * @retval -20003 n is below 1
+ * @retval -20049 two of three consecutive abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvInterpSplineSecondDerivatives(x, y, n, 1e30, 1e30, second);
+ * QvInterpSplineEvaluate(x, y, second, n, 2.5, &value);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc164(const double* x, const double* y, int64_t n, double first, double last, double* second);
+#define QvInterpSplineSecondDerivatives ZemFunc164
+
+/**
+ * InterpSplineEvaluate.
+ * The value of a cubic spline. Beyond the samples the end interval goes on.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param second read, [n]: the second derivatives at the samples
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @retval -20003 n is below 1
+ * @retval -20049 the interval at the point has the width 0, as one sample has
+ */
+QV_API QvStatus ZemFunc163(const double* x, const double* y, const double* second, int64_t n, double point, double* result);
+#define QvInterpSplineEvaluate ZemFunc163
+
+/**
+ * InterpSmoothingSpline.
+ * The values at the samples of the cubic smoothing spline, which minimises
+ * balance sum of w (y - s)^2 + (1 - balance) integral of lambda s''^2.
+ * C. H. Reinsch, Numer. Math. 10 (1967). A balance outside 0 to 1 becomes 8 / (8 + g^3) with g = (x[n - 1] - x[0]) / n.
+ * A balance of exactly 1 copies y. Two samples leave the output untouched. On an error nothing is written, except that a
+ * balance of 1 copies before it finds equal abscissas.
+ * @param x read, [n], may be null: the abscissas, strictly ascending
+ * @param y read and written, [n]: the ordinates; the smoothed values when out is null
+ * @param weights read, [n], may be null: the weights of the samples, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param balance from 0, the least-squares line, to 1, interpolation; outside, it is chosen from the mean interval
+ * @param smoothness read, [n - 1], may be null: the weights of the intervals' curvature, by magnitude; null: all 1
+ * @param out written, [n], may be null: the smoothed values; null: over y
+ * @retval -20006 n is below 2
+ * @retval -20002 x is null
+ * @retval -20049 the abscissas do not ascend strictly; with a balance of 1: two of three consecutive ones are equal
+ * @retval -20141 a weight of a sample or of an interval is 0
+ * @retval -20041 the system is singular (seven samples and more)
+ * @retval -20062 the solver did not converge (fewer than seven samples)
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, int64_t n, double balance, const double* smoothness, double* out);
+#define QvInterpSmoothingSpline ZemFunc285
+
+/** @} */
+
 /** @defgroup matrices Solving, inversion and matrix operations
  * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
  * at the
@@ -3472,6 +3887,30 @@ QV_API void ZemFunc470(void* block);
  */
 
 /**
+ * PolyRootsMultiple.
+ * The roots of a complex polynomial, with multiple roots kept together.
+ * The multiplicities come from approximate greatest common divisors with the derivative, found by singular values at a
+ * tolerance of 1e-10; with them held fixed the roots are refined by Gauss-Newton steps, on which a multiple root is as
+ * well conditioned as a simple one (Z. Zeng, Math. Comp. 74, 2005). Roots that lie closer than their coefficients can
+ * tell come back as one multiple root. High zero coefficients lower the degree; the rest of roots stays unwritten.
+ * @param c read, [n]: the coefficients in ascending powers, the constant first
+ * @param n their number
+ * @param roots written, [n - 1]: the roots, each as often as its multiplicity says, the root 0 last
+ * @retval -20003 n is below 1
+ * @retval -20063 a coefficient is NaN, infinite or of the largest magnitude
+ * @retval -20111 all coefficients are 0
+ * @retval -20021 the polynomial is a constant
+ * @retval -20062 the refinement or an eigenvalue did not converge; nothing is written
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvComplex c[4] = {{-1, 0}, {3, 0}, {-3, 0}, {1, 0}};
+ * QvPolyRootsMultiple(c, 4, roots);  // 1, three times
+ * @endcode
+ */
+QV_API QvStatus ZemFunc300(const QvComplex* c, uint32_t n, QvComplex* roots);
+#define QvPolyRootsMultiple ZemFunc300
+
+/**
  * MatLagProduct.
  * The normal matrix of linear prediction, unscaled: X^H X of the matrix X whose row t holds x[t], x[t - 1], ..., x[t
  * - p].
@@ -3523,6 +3962,225 @@ QV_API QvStatus ZemFunc416(const QvComplex* x, int64_t n, int64_t p, uint32_t me
 
 /** @} */
 
+/** @defgroup nonlinear_fit Nonlinear fit
+ * Levenberg-Marquardt fits of a model y = f(x; a) that the caller supplies as a function; the gradient is taken by
+ * central differences. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient.
+ * While a derivative is taken one coefficient is moved in place; it is put back exactly. A model must return: one that
+ * leaves by longjmp or by an exception leaks the library's work memory, and that is its own fault.
+ * @{
+ */
+
+/**
+ * FitNonlinear.
+ * Fits the coefficients of a model to samples, without a limit to the iterations.
+ * The fit ends at the second small change of chi-square in a row, with small below 0.001 or below 1e-5 of it; scale data
+ * whose chi-square is that small. A model that becomes NaN or infinite ends the fit quietly with what was accepted.
+ * K. Levenberg, Quart. Appl. Math. 2 (1944); D. W. Marquardt, SIAM J. 11 (1963).
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 a solver did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double decay(double x, double* a, int32_t m) { return a[0] * exp(-a[1] * x); }
+ * double a[2] = {1, 0.1}, error;
+ * QvFitNonlinear(x, y, fitted, n, decay, a, 2, &error);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc130(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinear ZemFunc130
+
+/**
+ * FitNonlinearAlias (FitNonlinear).
+ * The same entry as ZemFunc130.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc339(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearAlias ZemFunc339
+
+/**
+ * FitNonlinearLimited.
+ * The fit with a limit to its iterations.
+ * A limit of 0 takes no step: the outputs describe the guess.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more; the results are written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc131(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimited ZemFunc131
+
+/**
+ * FitNonlinearLimitedAlias (FitNonlinearLimited).
+ * The same entry as ZemFunc131.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc338(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimitedAlias ZemFunc338
+
+/**
+ * FitNonlinearWeighted.
+ * The fit with weights.
+ * Weights that are all 0 fit like no weights. Without fitted there is no mean squared error. On an error neither is
+ * written; iterations is 0 then, or tells how far the fit came.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ * @retval -20068 a weight is NaN or infinite
+ * @retval -20003 n or m is below 1
+ * @retval -20037 fewer than m samples have a weight
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc374(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeighted ZemFunc374
+
+/**
+ * FitNonlinearWeightedAlias (FitNonlinearWeighted).
+ * The same entry as ZemFunc374.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ */
+QV_API QvStatus ZemFunc375(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeightedAlias ZemFunc375
+
+/** @} */
+
+/** @defgroup peaks Peak and level detection
+ * Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas fitted to a
+ * sliding window. Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no
+ * handle. Positions count from the start of the stream.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * PeakThresholdRuns.
+ * Finds where a signal stays at or above a threshold for at least `width` samples. NaN is below every threshold.
+ * A width of 0 divides by zero, which ends the process on most machines.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param threshold samples at or above it form runs
+ * @param width least length of a run, below n; it must not be 0, which is not tested
+ * @param indices written, [n / width + 1], may be null: the first samples of the runs, as many as count tells
+ * @param count written: the number of runs
+ * @retval -20003 n / width + 1 is below 1; nothing is written
+ * @retval -20001 memory is exhausted; nothing is written
+ * @retval -20003 n is below 1; count is 0
+ * @retval -20013 the width is below 1, or not below n; count is 0
+ * @code
+ * int64_t starts[101], count;
+ * QvPeakThresholdRuns(x, 1000, 0.5, 10, starts, &count);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc237(const double* x, int64_t n, double threshold, int64_t width, int64_t* indices, int64_t* count);
+#define QvPeakThresholdRuns ZemFunc237
+
+/**
+ * PeakThresholdRunsStream.
+ * The same in consecutive blocks: a run may go on from block to block, and is told once, when it has reached the width.
+ * After a failure the stream stays as it was, also with reset, and nothing is written.
+ * The width may change from block to block. Positions have 32 bits, and wrap.
+ * @param x read, [n]: the next block of the signal
+ * @param n its length, also 0
+ * @param threshold samples at or above it form runs
+ * @param width least length of a run, 1 to 2^30
+ * @param reset other than 0: the block is the first of a new stream
+ * @param last other than 0: the stream ends with this block
+ * @param indices written, [n / width + 1], may be null: the first samples of the runs, as many as count tells
+ * @param count written: the number of runs that have reached the width within this block
+ * @retval -20001 memory is exhausted
+ * @retval -20003 n is below 0
+ * @retval -20013 the width is below 1 or above 2^30
+ */
+QV_API QvStatus ZemFunc493(const double* x, int64_t n, double threshold, int64_t width, int32_t reset, int32_t last, int64_t* indices, int64_t* count);
+#define QvPeakThresholdRunsStream ZemFunc493
+
+/**
+ * PeakDetect.
+ * Finds peaks or valleys from the parabolas c0 + c1 t + c2 t^2 that fit each window best (least squares), where their
+ * slope changes its sign from one window to the next. The apex must lie within the middle half of the window. Windows of
+ * 3 and 4 samples are judged by their curvature alone.
+ * Of peaks less than one sample apart the higher stands, of valleys the lower. This is not done across blocks.
+ * The last window of a block waits for the next one; call with last to have all, also to end a stream.
+ * The three arrays belong to the caller, who releases each with QvMemoryRelease; they are null where nothing was found and
+ * after every failure, which also ends the stream.
+ * @param x read, [n]: the next block of the signal
+ * @param n its length, at least the width
+ * @param threshold peaks must be above it, valleys below
+ * @param width of the window, 3 to 2^30, the same for all blocks of a stream
+ * @param polarity 0 peaks, 1 valleys; others find nothing
+ * @param first other than 0: the block begins a new stream
+ * @param last other than 0: the stream ends with this block
+ * @param count written: the number of peaks
+ * @param locations set to an array of the library, null when it is empty, [count]: their positions in samples, between samples too
+ * @param amplitudes set to an array of the library, null when it is empty, [count]: their heights
+ * @param secondDerivatives set to an array of the library, null when it is empty, [count]: of the parabola, per sample squared
+ * @retval -20061 the width is below 3 or above 2^30
+ * @retval -20001 memory is exhausted
+ * @retval -20013 the block is shorter than the width
+ * @retval -20064 first is 0, and there is no stream
+ * @retval -20058 the width is not that of the stream
+ * @code
+ * int64_t count;
+ * double *locations, *heights, *curvatures;
+ * QvPeakDetect(x, n, 0.5, 9, 0, 1, 1, &count, &locations, &heights, &curvatures);
+ * QvMemoryRelease(locations);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc194(const double* x, int64_t n, double threshold, int64_t width, uint32_t polarity, uint32_t first, int32_t last, int64_t* count, double** locations, double** amplitudes, double** secondDerivatives);
+#define QvPeakDetect ZemFunc194
+
+/** @} */
+
 /** @defgroup plans FFT plans
  * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
  * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the
@@ -3556,6 +4214,38 @@ QV_API void ZemFunc261(QvFftPlan* plan);
 
 /** @} */
 
+/** @defgroup polynomial_roots Polynomial roots with their multiplicities
+ * The roots of a real polynomial, found in a way that keeps multiple roots together: first the structure of
+ * multiplicities, through a chain of approximate greatest common divisors of the polynomial and its derivative, then the
+ * distinct roots as simple roots of a divisor. The method is for accuracy on low and moderate degrees.
+ * @{
+ */
+
+/**
+ * PolyRootsReal.
+ * The roots of a real polynomial, with multiple roots kept together.
+ * Z. Zeng, Math. Comp. 74 (2005), at a tolerance of 1e-10; degrees 1 and 2 directly. Where no consistent structure is
+ * found, the eigenvalues of the companion matrix. High zero coefficients lower the degree; the rest of roots stays
+ * unwritten.
+ * @param c read, [n]: the coefficients in ascending powers, the constant first
+ * @param n their number
+ * @param roots written, [n - 1]: the roots, each as often as its multiplicity says, the root 0 last
+ * @retval -20003 n is below 1
+ * @retval -20063 a coefficient is NaN, infinite or of the largest magnitude
+ * @retval -20111 all coefficients are 0
+ * @retval -20021 the polynomial is a constant
+ * @retval -20062 an eigenvalue or a singular value did not converge; nothing is written
+ * @retval -20001 memory is exhausted
+ * @code
+ * double c[4] = {-1, 3, -3, 1};
+ * QvPolyRootsReal(c, 4, roots);  // 1, three times
+ * @endcode
+ */
+QV_API QvStatus ZemFunc299(const double* c, uint32_t n, QvComplex* roots);
+#define QvPolyRootsReal ZemFunc299
+
+/** @} */
+
 /** @defgroup polynomial_zeros Complex polynomial zeros
  * All zeros of a polynomial, one after the other: a walk downhill on |p(z)| with limited and turned Newton steps, pure
  * Newton steps near the zero, and deflation (K. Madsen, BIT 13, 1973). Plain and fast, without a notion of multiplicity.
@@ -3582,6 +4272,423 @@ QV_API void ZemFunc261(QvFftPlan* plan);
  */
 QV_API QvStatus ZemFunc231(const double* c, int32_t m, QvComplex* z);
 #define QvPolyZeros ZemFunc231
+
+/** @} */
+
+/** @defgroup pulse_parameters Shape of a single pulse
+ * @{
+ */
+
+/**
+ * PulseParameters.
+ * Levels and timing of the first pulse in a record.
+ * The levels are the centres of the fullest of 101 equal bins between the extremes, one looked for from each end, of
+ * equally full bins the outermost. A pulse goes down when its first sample is above level50.
+ * Times are interpolated between samples, and the slew rate is made of them; then they are truncated to whole samples.
+ * Where an edge does not end, its time lasts to the end of the record; the last sample never counts as a crossing.
+ * NaN is passed over, but not as first sample.
+ * @param x read, [n]: the waveform, with one pulse
+ * @param n its length
+ * @param amplitude written: top - base; negative for a pulse that goes down
+ * @param level90 written: 90 percent of the way from the lower to the upper level
+ * @param level50 written: 50 percent
+ * @param level10 written: 10 percent
+ * @param top written: the level of the pulse; the lower one for a pulse that goes down
+ * @param base written: the level around the pulse; the upper one for a pulse that goes down
+ * @param overshoot written: the largest sample above the upper level
+ * @param undershoot written: the smallest sample below the lower level
+ * @param delay written: samples from the start of the record to the first crossing of level50
+ * @param width written: samples from there to the next crossing of level50
+ * @param rise written: samples of the first edge between level10 and level90
+ * @param fall written: samples of the second edge between them
+ * @param slew written: 0.8 amplitude / rise; 1e30 for a rise of 0
+ * @retval -20003 n is below 1; nothing is written
+ * @retval -20116 a time has no value within the record, which includes every constant signal; the four times are 0
+ * @code
+ * double amplitude, level[3], top, base, overshoot, undershoot, slew;
+ * int64_t delay, width, rise, fall;
+ * QvPulseParameters(x, n, &amplitude, &level[2], &level[1], &level[0], &top, &base, &overshoot, &undershoot, &delay,
+ * &width, &rise, &fall, &slew);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc142(const double* x, int64_t n, double* amplitude, double* level90, double* level50, double* level10, double* top, double* base, double* overshoot, double* undershoot, int64_t* delay, int64_t* width, int64_t* rise, int64_t* fall, double* slew);
+#define QvPulseParameters ZemFunc142
+
+/** @} */
+
+/** @defgroup pulses Pulse and transition measurements
+ * A waveform is taken as a signal between two states. Its state levels are found first; then references between them,
+ * the crossings of the references, and from these the timing of pulses and edges. Times are in samples from the start
+ * of the record, interpolated linearly between samples.
+ * Level methods: 0 histogram, the fullest bins of the lower and of the upper two fifths, of equally full ones the
+ * outermost; 1 peak, the extremes; 2 autoselect, the modes of the histogram where each holds more than 5 percent of
+ * the samples, the extremes otherwise. A mode is given as the centre of its bin.
+ * References go in as high, mid, low, absolute or in percent of the amplitude above the low level. Percent are
+ * converted in place, and the absolute levels come out once more as low, mid, high, after every error but -20046, -20317
+ * and -20001. The method is looked at only where levels are measured. Polarity: 0 falling, 1 rising.
+ * The warning 20021 tells of a mode with less than 5 percent of the samples; it has no text in StatusMessage.
+ * Statuses are tested in the order in which they are listed. Behind -20001, outputs that an error leaves without a
+ * value are 0; before it nothing is written.
+ * @{
+ */
+
+/**
+ * PulseStateLevels.
+ * The two state levels of a waveform.
+ * The histogram has equal bins from the smallest to the largest sample; a sample is in bin floor((x - min) / width).
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param method 0 histogram, 1 peak, 2 autoselect
+ * @param bins of the histogram, for every method at least 1
+ * @param high written: the upper state level
+ * @param low written: the lower state level
+ * @param amplitude written: high - low
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 the method is above 2
+ * @retval -20309 all samples are equal; not with method 1
+ * @retval 20021 method 0, and a mode holds less than 5 percent of the samples
+ * @code
+ * double high, low, amplitude;
+ * QvPulseStateLevels(x, n, 0, 256, &high, &low, &amplitude);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc363(const double* x, int64_t n, uint32_t method, int64_t bins, double* high, double* low, double* amplitude);
+#define QvPulseStateLevels ZemFunc363
+
+/**
+ * PulseCycleTiming.
+ * Period, width and duty cycle of one pulse of a train.
+ * A crossing of mid counts when the signal has been on the other side of mid - h or mid + h since the one before, with h
+ * the smaller of high - mid and mid - low; this keeps noise from counting twice.
+ * 2 cycle + 1 crossings are needed.
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param polarity of the start of the pulse: 0 falling, 1 rising, -1 the first of any
+ * @param cycle number of the pulse, from 1
+ * @param high read and written: upper reference
+ * @param mid read and written: middle reference, whose crossings bound the pulse
+ * @param low read and written: lower reference
+ * @param percent other than 0: the references are in percent
+ * @param method of the state levels, for references in percent
+ * @param bins of the histogram, at least 1
+ * @param period written: samples between the crossings 2 cycle - 1 and 2 cycle + 1, whatever the polarity
+ * @param duration written: samples from the start to the end of the pulse
+ * @param duty written: duration / period
+ * @param centre written: the middle of the pulse, in samples
+ * @param lowOut written: low, absolute
+ * @param midOut written: mid, absolute
+ * @param highOut written: high, absolute
+ * @retval -20046 2 cycle + 1 does not fit 32 bits
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20323 cycle is below 1
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 percent, and the method is above 2
+ * @retval -20309 percent with method 0 or 2, and all samples are equal
+ * @retval -20313 mid is above high or below low
+ * @retval -20311 memory for the crossings is exhausted
+ * @retval -20308 there are fewer crossings, or none that the polarity names
+ * @retval 20021 percent with method 0, and a mode holds less than 5 percent of the samples
+ */
+QV_API QvStatus ZemFunc364(const double* x, int64_t n, int32_t polarity, int64_t cycle, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* period, double* duration, double* duty, double* centre, double* lowOut, double* midOut, double* highOut);
+#define QvPulseCycleTiming ZemFunc364
+
+/**
+ * PulseCycleAverage.
+ * Mean and root mean square over one period, from the start of a pulse of any polarity.
+ * The period is found as by PulseCycleTiming, start and length are rounded to samples, and a period that would end
+ * behind the record is moved back to its end.
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param cycle number of the pulse, from 1
+ * @param high read and written: upper reference
+ * @param mid read and written: middle reference, whose crossings bound the pulse
+ * @param low read and written: lower reference
+ * @param percent other than 0: the references are in percent
+ * @param method of the state levels, for references in percent
+ * @param bins of the histogram, at least 1
+ * @param mean written: of the samples of one period
+ * @param rms written: root mean square of the samples of one period
+ * @param start written: of the period, in samples
+ * @param end written: of the period, in samples
+ * @param lowOut written: low, absolute
+ * @param midOut written: mid, absolute
+ * @param highOut written: high, absolute
+ * @retval -20046 2 cycle + 1 does not fit 32 bits
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20323 cycle is below 1
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 percent, and the method is above 2
+ * @retval -20309 percent with method 0 or 2, and all samples are equal
+ * @retval -20313 mid is above high or below low
+ * @retval -20311 memory for the crossings is exhausted
+ * @retval -20308 there are fewer than 2 cycle + 1 crossings
+ * @retval -20319 the period rounds to no sample; start and end are written
+ * @retval 20021 percent with method 0, and a mode holds less than 5 percent of the samples
+ */
+QV_API QvStatus ZemFunc365(const double* x, int64_t n, int64_t cycle, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* mean, double* rms, double* start, double* end, double* lowOut, double* midOut, double* highOut);
+#define QvPulseCycleAverage ZemFunc365
+
+/**
+ * PulseTransition.
+ * Timing and slew rate of one edge, and the ringing before and behind it.
+ * Ringing is measured from the modes of the histogram, whatever the method, and is 0 within the bin of the mode. It is
+ * looked for half way to the neighbouring edges, at most three durations away, and not where the edge itself moves.
+ * What has been found before an error stays in its output.
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param polarity of the edge: 0 falling, 1 rising
+ * @param edge number of the edge of that polarity, from 1
+ * @param high read and written: upper reference
+ * @param mid read and written: middle reference
+ * @param low read and written: lower reference
+ * @param percent other than 0: the references are in percent
+ * @param method of the state levels
+ * @param bins of the histogram, at least 1
+ * @param slew written: (high - low) / duration, in the unit of x per sample, positive for falling edges too
+ * @param duration written: samples between the crossings of both references
+ * @param firstTime written: the earlier of these crossings, in samples
+ * @param secondTime written: the later of these crossings, in samples
+ * @param lowOut written: low, absolute
+ * @param midOut written: mid, absolute
+ * @param highOut written: high, absolute
+ * @param preUndershoot written: below the level before the edge, in percent of the distance of the modes
+ * @param preOvershoot written: above the level before the edge
+ * @param postUndershoot written: below the level behind the edge
+ * @param postOvershoot written: above the level behind the edge
+ * @retval -20046 2 edge + 1 does not fit 32 bits
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20323 edge is below 1
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 the method is above 2
+ * @retval -20309 all samples are equal; with method 1 after the first cause of -20313
+ * @retval -20313 mid is above high or below low; or, after -20311, low is not below high
+ * @retval -20311 memory for the edges is exhausted
+ * @retval -20310 there are too few edges, or none of that polarity
+ * @retval -20312 no sample is left to look for ringing
+ * @retval -20326 the duration is not above 0
+ * @retval 20021 a mode holds less than 5 percent of the samples
+ */
+QV_API QvStatus ZemFunc366(const double* x, int64_t n, int32_t polarity, int64_t edge, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* slew, double* duration, double* firstTime, double* secondTime, double* lowOut, double* midOut, double* highOut, double* preUndershoot, double* preOvershoot, double* postUndershoot, double* postOvershoot);
+#define QvPulseTransition ZemFunc366
+
+/** @} */
+
+/** @defgroup random Noise, low-discrepancy sequences and shuffles
+ * Each generator keeps a stream of its own for each thread: kinds called in turn do not disturb each other, and two
+ * threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982).
+ * A seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
+ * negative one takes the clock on the thread's first call of that generator and goes on later. The seed is applied
+ * before n is tested.
+ * A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the seed
+ * if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever its seed.
+ * Seeding from the clock goes through srand and rand of the C library, whose state the process shares where the
+ * system has it so.
+ * Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them with -20061.
+ * @{
+ */
+
+/**
+ * GenUniformNoise.
+ * Uniform noise in [0, 1): draws of the core generator.
+ * @param n samples
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double out[1000];
+ * QvGenUniformNoise(1000, 7, out);  // the same samples at every call
+ * QvGenUniformNoise(1000, 0, out);  // goes on behind them
+ * @endcode
+ */
+QV_API QvStatus ZemFunc182(int64_t n, int32_t seed, double* out);
+#define QvGenUniformNoise ZemFunc182
+
+/**
+ * GenWhiteNoise.
+ * Uniform white noise in [-amplitude, amplitude): (u - 0.5) (2 amplitude) for draws u.
+ * @param n samples
+ * @param amplitude half the width; its sign is kept
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc185(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenWhiteNoise ZemFunc185
+
+/**
+ * GenGaussianNoise.
+ * Normal noise of mean 0 by the polar method (Marsaglia and Bray 1964).
+ * Deviates come in pairs; the second one waits for the next output, also of a later call.
+ * @param n samples
+ * @param deviation standard deviation; any number, it is a plain factor
+ * @param seed positive restarts and drops the waiting deviate, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the stream stands at 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc84(int64_t n, double deviation, int32_t seed, double* out);
+#define QvGenGaussianNoise ZemFunc84
+
+/**
+ * GenPeriodicRandomNoise.
+ * Noise of period n: the sum of cosines of one amplitude and random phases at all lines between zero frequency and half
+ * the sampling rate, without both.
+ * @param n samples, one period
+ * @param amplitude of each spectral line
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc387(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenPeriodicRandomNoise ZemFunc387
+
+/**
+ * RngShuffleReal.
+ * Puts an array in random order (Fisher and Yates, from the last place down). The draws do not depend on perm.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc396(double* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleReal ZemFunc396
+
+/**
+ * RngShuffleComplex.
+ * RngShuffleReal for complex numbers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc397(QvComplex* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleComplex ZemFunc397
+
+/**
+ * RngShuffleInt.
+ * RngShuffleReal for integers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc398(int32_t* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleInt ZemFunc398
+
+/**
+ * GenGammaNoise.
+ * Gamma variates of integer order: -ln of a product of uniform draws below order 6, else rejection under a Lorentzian
+ * (Ahrens and Dieter 1974).
+ * @param n samples
+ * @param order the waiting time for so many events of rate 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20140 order is below 1
+ * @retval -20061 the stream stands at 0, from order 6 on
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc388(int64_t n, int32_t order, int32_t seed, int32_t reset, double* out);
+#define QvGenGammaNoise ZemFunc388
+
+/**
+ * GenPoissonNoise.
+ * Poisson variates, whole numbers: a product of uniform draws against exp(-mean) below a mean of 12, else rejection
+ * under a Lorentzian.
+ * @param n samples
+ * @param mean events expected
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 mean is negative, infinite or NaN, or so large that ln Gamma(mean + 1) overflows
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc389(int64_t n, double mean, int32_t seed, int32_t reset, double* out);
+#define QvGenPoissonNoise ZemFunc389
+
+/**
+ * GenBinomialNoise.
+ * Binomial variates, numbers of successes: by single trials below 25 of them, by the Poisson product for a mean below
+ * 1 of the rarer outcome, else by rejection under a Lorentzian.
+ * @param n samples
+ * @param trials in one sample
+ * @param probability of a success
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 trials is negative
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc390(int64_t n, int32_t trials, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBinomialNoise ZemFunc390
+
+/**
+ * GenBernoulliNoise.
+ * Ones with the given probability, else zeros: 1 where probability - 0.5 exceeds white noise of amplitude 0.5.
+ * @param n samples
+ * @param probability of a 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc414(int64_t n, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBernoulliNoise ZemFunc414
+
+/**
+ * GenHaltonSequence.
+ * The radical inverse of consecutive integers (van der Corput 1935, Halton 1960): their digits in the base, mirrored at
+ * the point. It starts with 0 and fills [0, 1) evenly.
+ * The integers have 32 bits and turn negative behind 2^31 - 1; then a reset is needed.
+ * @param n samples
+ * @param base its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this base
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the base in force is 0, 1 or -1; nothing changes
+ * @retval -20059 the sequence has used up the integers
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc412(int64_t n, int32_t base, int32_t reset, double* out);
+#define QvGenHaltonSequence ZemFunc412
+
+/**
+ * GenWeylSequence.
+ * The multiples of a step modulo 1 (Weyl 1916), accumulated. It starts with 0 and fills [0, 1) evenly if the step is
+ * irrational.
+ * @param n samples
+ * @param step its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this step
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 the stored value is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc413(int64_t n, double step, int32_t reset, double* out);
+#define QvGenWeylSequence ZemFunc413
 
 /** @} */
 
@@ -3998,6 +5105,412 @@ QV_API const char* ZemFunc240(int32_t code);
 
 /** @} */
 
+/** @defgroup time_domain Time-domain operations
+ * Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal block by
+ * block; where the blocks are cut makes no difference. They keep their state for each thread and operation, so that
+ * a thread runs one stream an operation; a first call on a thread starts as a reset does.
+ * @{
+ */
+
+/**
+ * IntegrateSimpson.
+ * The running integral by the rule of Simpson: out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the integral; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ * @code
+ * QvIntegrateSimpson(speed, n, 0.01, speed[0], speed[n - 1], distance);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc95(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvIntegrateSimpson ZemFunc95
+
+/**
+ * Differentiate.
+ * The derivative by central differences: out[i] = (x[i + 1] - x[i - 1]) (0.5 / dt).
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ */
+QV_API QvStatus ZemFunc56(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvDifferentiate ZemFunc56
+
+/**
+ * DifferentiateMethod.
+ * The derivative by differences: (x[i + 1] - x[i - 1]) / 2, (8 x[i + 1] - x[i + 2] - 8 x[i - 1] + x[i - 2]) / 12,
+ * x[i + 1] - x[i] or x[i] - x[i - 1], over dt.
+ * The factor is formed once as a reciprocal.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial read, [nInitial]: the samples in front of the first, in order; the first ones given count
+ * @param nInitial at least 1, 2, 0, 1 for the methods 0 to 3
+ * @param final read, [nFinal]: the samples behind the last, in order
+ * @param nFinal at least 1, 2, 1, 0 for the methods 0 to 3
+ * @param method 0 central of second order, 1 central of fourth order, 2 forward, 3 backward
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1, or a boundary array of method 0, 2 or 3 is too short
+ * @retval -20016 dt is 0 or negative
+ * @retval -20006 a boundary array of method 1 has fewer than two values
+ * @retval -20061 method is above 3
+ */
+QV_API QvStatus ZemFunc367(double* x, int64_t n, double dt, const double* initial, int64_t nInitial, const double* final, int64_t nFinal, uint32_t method, double* out);
+#define QvDifferentiateMethod ZemFunc367
+
+/**
+ * Decimate.
+ * Reduces the sampling rate: one result for each whole block of factor samples; the tail is dropped.
+ * @param x read, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor]: the results
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc53(const double* x, int64_t n, int64_t factor, uint32_t average, double* out);
+#define QvDecimate ZemFunc53
+
+/**
+ * DecimateComplex.
+ * Decimate for complex samples.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor], may be null: the results; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc360(QvComplex* x, int64_t n, int64_t factor, uint32_t average, QvComplex* out);
+#define QvDecimateComplex ZemFunc360
+
+/**
+ * DecimateContinuous.
+ * Decimates an endless signal block by block, in place: all results together are those of Decimate on the joined
+ * signal.
+ * With averaging and a block that ends before the offset the count may be negative: there are no results.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ * @code
+ * int64_t count;
+ * QvDecimateContinuous(block, 1024, 10, 1, 0, 0, &count);  // block[0] to block[count - 1]
+ * @endcode
+ */
+QV_API QvStatus ZemFunc417(double* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuous ZemFunc417
+
+/**
+ * DecimateContinuousComplex.
+ * DecimateContinuous for complex samples, with a state of its own.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc418(QvComplex* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuousComplex ZemFunc418
+
+/**
+ * DetectLevelCrossing.
+ * The first crossing of a level in a block. Rising: a sample below level - |hysteresis| arms, a later one at or above
+ * the level is the crossing. Falling: above level + |hysteresis|, then at or below the level.
+ * The rest of the block is not looked at, and the next crossing needs arming again.
+ * @param x read, [n]: a block of the signal
+ * @param n samples in this block, 0 or more
+ * @param level the level to cross
+ * @param hysteresis its absolute value counts
+ * @param slope 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts a new signal
+ * @param index written: of the crossing in this block, -1 if there is none
+ * @param found written: 1 if there is one, else 0
+ * @retval -20004 n is negative; a reset has been done
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc419(const double* x, int64_t n, double level, double hysteresis, int32_t slope, int32_t reset, int64_t* index, int32_t* found);
+#define QvDetectLevelCrossing ZemFunc419
+
+/**
+ * DetectLevelCrossings.
+ * DetectLevelCrossing for several signals at once, with states of their own.
+ * @param x read, [channels * n]: one row of n samples a channel
+ * @param channels signals
+ * @param n samples of each signal in this block
+ * @param levels read, [channels]: the levels to cross
+ * @param hysteresis read, [channels]: their absolute values count
+ * @param slopes read, [channels]: 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts new signals
+ * @param indices written, [channels]: of the crossings in this block, -1 where there is none
+ * @param found written, [channels]: 1 where there is one, else 0
+ * @retval -20003 channels or n is below 1
+ * @retval -20058 channels differs from what the stream was started with
+ * @retval -20001 memory is exhausted; a start that found none needs a reset
+ */
+QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const double* levels, const double* hysteresis, const int32_t* slopes, int32_t reset, int64_t* indices, int32_t* found);
+#define QvDetectLevelCrossings ZemFunc420
+
+/** @} */
+
+/** @defgroup tones Harmonic and tone analysis
+ * Sinusoids in data, to much better accuracy than one bin of a spectrum: the harmonics in a given power spectrum, a
+ * fundamental and its harmonics in a time record, and the extraction of one or several tones.
+ * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins around
+ * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
+ * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
+ * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
+ * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
+ * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
+ * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
+ * frequency; the synthesis of the modes 2 and 3 takes that half again.
+ * Tones of complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give
+ * besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that in
+ * decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
+ * @{
+ */
+
+/**
+ * SpecHarmonicAnalyzer.
+ * The harmonics in a power spectrum, with frequencies interpolated by the shape of the window.
+ * A fundamental outside the spectrum, or in the main lobe of bin 0, is replaced by the largest bin beyond that lobe.
+ * Harmonics that the spectrum does not reach are 0. A distortion that would divide by zero is 1e9.
+ * Method: bisection for the offset at which the window's response has the ratio of the two largest bins.
+ * @param power read, [n]: a one-sided power spectrum
+ * @param fftSize points of the transform that it is of; below 1: 2n
+ * @param harmonics how many, the fundamental included
+ * @param window code of the window that it was taken through, 0 to 8
+ * @param fs sampling rate
+ * @param fundamental in the unit of fs
+ * @param amp written, [harmonics]: root mean square amplitudes
+ * @param freq written, [harmonics]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: all but the fundamental in percent of the whole, from amplitudes
+ * @retval -20003 n is below 1; or it is not above the half-width of the main lobe, rounded up, and the fundamental is not in it
+ * @retval -20067 fs or fundamental is 0
+ * @retval -20061 the window is above 8
+ */
+QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32_t harmonics, uint32_t window, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecHarmonicAnalyzer ZemFunc87
+
+/**
+ * SpecToneHarmonics.
+ * A fundamental, its harmonics and the distortion of a time record.
+ * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
+ * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
+ * After a failure, what has not been found is 0.
+ * @param x read, [n]
+ * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
+ * @param fs sampling rate
+ * @param fundamental a guess, in the unit of fs, right to 5 percent of fs
+ * @param amp written, [harmonics if max(harmonics, 1) == harmonics else n]: peak amplitudes
+ * @param freq written, [harmonics if max(harmonics, 1) == harmonics else n]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: what is left without the fundamental in percent of the whole, by root mean squares about the mean
+ * @retval -20003 n is below 1
+ * @retval -20059 fs or fundamental is not above 0
+ * @retval -20001 memory is exhausted
+ * @retval -20017 the largest bin near the fundamental, or near a harmonic, is the last one
+ * @retval -20060 a tone is not finite; or x is constant; or the fundamental has no amplitude
+ * @retval -20020 a tone lies outside 0 to fs/2
+ */
+QV_API QvStatus ZemFunc362(const double* x, int64_t n, int32_t harmonics, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecToneHarmonics ZemFunc362
+
+/**
+ * ToneSingleReal.
+ * The strongest tone of a real record.
+ * A band in which no bin lies is taken as the bin nearest to its middle; one outside the spectrum, or of no width, as
+ * the whole spectrum. Silence has the amplitude 0.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0; 0 is allowed, and frequencies are then infinite
+ * @retval -20001 memory is exhausted
+ * @code
+ * double freq, amp, phase;
+ * QvToneSingleReal(x, 1000, 1e-4, NULL, &freq, &amp, &phase);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc377(const double* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleReal ZemFunc377
+
+/**
+ * ToneSingleRealEx.
+ * The strongest tone of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleReal
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc378(const double* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleRealEx ZemFunc378
+
+/**
+ * ToneMultiReal.
+ * The strongest tones of a real record.
+ * The first count elements of the arrays are written. Tones should be some bins apart: closer ones show one peak.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc379(const double* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiReal ZemFunc379
+
+/**
+ * ToneMultiRealEx.
+ * The strongest tones of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc380(const double* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiRealEx ZemFunc380
+
+/**
+ * ToneSingleComplex.
+ * The strongest tone of a complex record.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc381(const QvComplex* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleComplex ZemFunc381
+
+/**
+ * ToneSingleComplexEx.
+ * The strongest tone of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleComplex
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc382(const QvComplex* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleComplexEx ZemFunc382
+
+/**
+ * ToneMultiComplex.
+ * The strongest tones of a complex record.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc383(const QvComplex* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiComplex ZemFunc383
+
+/**
+ * ToneMultiComplexEx.
+ * The strongest tones of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiComplexEx ZemFunc384
+
+/** @} */
+
 /** @defgroup transforms Transforms
  * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
  * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
@@ -4404,6 +5917,126 @@ QV_API QvStatus ZemFunc467(const QvComplex* x, int64_t n, double* out);
  */
 QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, QvComplex* out);
 #define QvCrossPowerComplex ZemFunc468
+
+/** @} */
+
+/** @defgroup variance_analysis Analysis of variance and contingency
+ * Analysis of variance with one, two and three factors, and the chi-square test of a contingency table.
+ * The level of an observation is any integer that fits 32 bits, not an index: levels are numbered as they are first
+ * seen. In the forms with two and three factors every cell holds the same number of observations, and the number of
+ * levels of a factor carries a sign: positive for a fixed factor, negative for a random one.
+ * A table holds rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that of the
+ * error; its F is never written. A significance is the probability of an F at least as large by chance.
+ * All sums are taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation has.
+ * Statuses stand in the order in which they are tested.
+ * @{
+ */
+
+/**
+ * AnovaOneWay.
+ * One-way analysis of variance. The levels need not have equally many observations.
+ * An f of NaN, from data without any variance, gives a significance of NaN.
+ * @param y read, [n]: the observations
+ * @param level read, [n]: the level of each
+ * @param levels how many distinct levels there are
+ * @param ssA written: sum of squares between the levels
+ * @param msA written: its mean square, with levels - 1 degrees of freedom
+ * @param f written: msA / msError
+ * @param significance written: of f
+ * @param ssError written: sum of squares within the levels
+ * @param msError written: its mean square, with n - levels degrees of freedom
+ * @param ssTotal written: sum of squares about the mean
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20042 levels is below 2, or not below n
+ * @retval -20001 memory is exhausted
+ * @retval -20043 there are more distinct levels than told; nothing is written
+ * @retval -20044 there are fewer; ssTotal is written
+ * @code
+ * QvAnovaOneWay(y, instrument, 25, 5, &ssA, &msA, &f, &significance, &ssError, &msError, &ssTotal);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc6(const double* y, const int64_t* level, int64_t n, int64_t levels, double* ssA, double* msA, double* f, double* significance, double* ssError, double* msError, double* ssTotal);
+#define QvAnovaOneWay ZemFunc6
+
+/**
+ * AnovaTwoWay.
+ * Two-way analysis of variance of balanced data.
+ * F of A has the mean square of AB as its denominator if B is random, else that of the error; F of B likewise. All three
+ * significances take the degrees of freedom of the error for the denominator, in mixed models too.
+ * With one observation a cell the interaction serves as the error, and the row AB and sigAB are 0.
+ * @param y read, [n]: the observations
+ * @param levelA read, [n]: the level of factor A of each
+ * @param levelB read, [n]: the level of factor B of each
+ * @param perCell observations in each cell
+ * @param levelsA levels of A, negative for a random factor
+ * @param levelsB levels of B, negative for a random factor
+ * @param table written, [16]: rows A, B, AB, error
+ * @param sigA written: significance of A
+ * @param sigB written: significance of B
+ * @param sigAB written: significance of the interaction
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20045 n is not perCell |levelsA| |levelsB|
+ * @retval -20042 a factor has fewer than 2 levels
+ * @retval -20048 perCell is 1 and a factor is random
+ * @retval -20001 memory is exhausted
+ * @retval -20043 a factor has more distinct levels than told
+ * @retval -20047 a cell holds another number of observations
+ */
+QV_API QvStatus ZemFunc7(const double* y, const int64_t* levelA, const int64_t* levelB, int64_t n, int64_t perCell, int64_t levelsA, int64_t levelsB, double* table, double* sigA, double* sigB, double* sigAB);
+#define QvAnovaTwoWay ZemFunc7
+
+/**
+ * AnovaThreeWay.
+ * Three-way analysis of variance of balanced data.
+ * The denominator of each F follows from which factors are random: the row whose expected mean square has the same
+ * terms but for the tested one. Where there is none, F and the significance are -1.
+ * @param y read, [n]: the observations
+ * @param levelA read, [n]: the level of factor A of each
+ * @param levelB read, [n]: the level of factor B of each
+ * @param levelC read, [n]: the level of factor C of each
+ * @param perCell observations in each cell, at least 2
+ * @param levelsA levels of A, negative for a random factor
+ * @param levelsB levels of B, negative for a random factor
+ * @param levelsC levels of C, negative for a random factor
+ * @param table written, [32]: rows A, B, C, AB, AC, BC, ABC, error
+ * @param sigA written: significance of A
+ * @param sigB written: significance of B
+ * @param sigC written: significance of C
+ * @param sigAB written: significance of AB
+ * @param sigAC written: significance of AC
+ * @param sigBC written: significance of BC
+ * @param sigABC written: significance of ABC
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20045 n is not perCell |levelsA| |levelsB| |levelsC|
+ * @retval -20044 perCell is below 2
+ * @retval -20042 a factor has fewer than 2 levels
+ * @retval -20001 memory is exhausted
+ * @retval -20043 a factor has more distinct levels than told
+ * @retval -20047 a cell holds another number of observations
+ */
+QV_API QvStatus ZemFunc8(const double* y, const int64_t* levelA, const int64_t* levelB, const int64_t* levelC, int64_t n, int64_t perCell, int64_t levelsA, int64_t levelsB, int64_t levelsC, double* table, double* sigA, double* sigB, double* sigC, double* sigAB, double* sigAC, double* sigBC, double* sigABC);
+#define QvAnovaThreeWay ZemFunc8
+
+/**
+ * ContingencyChiSquare.
+ * Tests whether the rows and the columns of a table of counts are independent.
+ * A row or a column of zeros divides by zero: the results are not finite.
+ * @param rows taken as a signed number
+ * @param cols taken as a signed number
+ * @param counts read, [rows * cols]: the table, row-major
+ * @param chiSquare written: the sum of (observed - expected)^2 / expected
+ * @param significance written: the probability of at least that much by chance
+ * @retval -20056 rows or cols is negative
+ * @retval -20055 rows or cols is below 2
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20056 a count is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc31(uint32_t rows, uint32_t cols, const int32_t* counts, double* chiSquare, double* significance);
+#define QvContingencyChiSquare ZemFunc31
 
 /** @} */
 
