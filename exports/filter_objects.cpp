@@ -1,7 +1,6 @@
 // Entries of the filter objects and of the cascade engine.
-#include "filters/iir_filter.h"
-
 #include "filters/iir_cascade.h"
+#include "filters/iir_filter.h"
 #include "frame/entry.h"
 #include "quorvan/quorvan.h"
 
