@@ -1903,7 +1903,7 @@ QV_API QvStatus ZemFunc18(double fs, double fl, double fh, QvIirFilter* filter);
  * @retval -20066 the record has too few coefficients for its order
  * @retval -20001 memory is exhausted
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  */
 QV_API QvStatus ZemFunc471(double fs, double fl, double fh, QvIirFilter* filter);
@@ -2453,7 +2453,7 @@ QV_API QvStatus ZemFunc60(double* x, int64_t n, double fs, double fl, double fh,
  * @retval -20001 memory is exhausted
  * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2473,7 +2473,7 @@ QV_API QvStatus ZemFunc399(double* x, int64_t n, double fs, double fc, int32_t o
  * @retval -20001 memory is exhausted
  * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2495,7 +2495,7 @@ QV_API QvStatus ZemFunc400(double* x, int64_t n, double fs, double fc, int32_t o
  * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
  * @retval -20020 fh is above fs/2
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2517,7 +2517,7 @@ QV_API QvStatus ZemFunc401(double* x, int64_t n, double fs, double fl, double fh
  * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
  * @retval -20020 fh is above fs/2
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2861,7 +2861,7 @@ QV_API QvStatus ZemFunc465(QvComplex* x, int64_t n, double fs, double fl, double
  * @retval -20001 memory is exhausted
  * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2881,7 +2881,7 @@ QV_API QvStatus ZemFunc403(QvComplex* x, int64_t n, double fs, double fc, int32_
  * @retval -20001 memory is exhausted
  * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2903,7 +2903,7 @@ QV_API QvStatus ZemFunc404(QvComplex* x, int64_t n, double fs, double fc, int32_
  * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
  * @retval -20020 fh is above fs/2
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */
@@ -2925,7 +2925,7 @@ QV_API QvStatus ZemFunc405(QvComplex* x, int64_t n, double fs, double fl, double
  * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
  * @retval -20020 fh is above fs/2
  * @retval -20062 the poles or the cutoff were not found: the order is too high
- * @retval -20063 so high an order that its polynomial overflows
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
  * @retval -20116 the cutoff was not found
  * @retval -20003 n is below 1
  */

@@ -317,6 +317,14 @@ def test_high_orders_are_stable(qv, kind):
 
 
 @pytest.mark.parametrize("kind", range(4))
+def test_bessel_of_very_high_order_keeps_its_cutoff(qv, kind):
+    """From cutoffs that are found to about 1e-9, times the order, which the slope there stays below."""
+    for order in (30, 60, 100):
+        edges = np.abs(Cascade(qv, "bessel", kind, order).response([FL] if kind < BAND else [FL, FH]))
+        assert edges == pytest.approx(np.sqrt(0.5), rel=1e-9 * order), order
+
+
+@pytest.mark.parametrize("kind", range(4))
 @pytest.mark.parametrize("family", ["butterworth", "chebyshev", "inverse_chebyshev", "elliptic"])
 def test_transfer_function_is_scipys(qv, family, kind):
     """Multiplied up, coefficients cancel: errors are relative to the largest of each polynomial."""
