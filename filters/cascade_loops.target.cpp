@@ -19,6 +19,7 @@ namespace {
 constexpr double kSmallest = 2.2250738585072014e-308;  // DBL_MIN
 constexpr double kNever = -1;                          // a limit that no magnitude is within
 constexpr int kDistance = 2;                           // samples from stage to stage
+constexpr std::uintptr_t kAhead = 2048;                // bytes
 constexpr Count kFew = 8;  // samples for which filling and emptying the lanes takes longer than stage after stage
 constexpr int kMostRegisters = 3;  // that side by side still keep their histories at hand
 
@@ -202,7 +203,11 @@ void Run(const double* a, const double* b, int stages, const double* x, std::ptr
     };
     std::ptrdiff_t k = 0;
     for (; k < lead; ++k) step(k, std::true_type{});
-    for (; k < n; ++k) step(k, std::false_type{});
+    for (; k < n; ++k) {
+        // Some samples take longer to come than the machine looks ahead by itself. Past the end it does no harm.
+        __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(x + k * kParts) + kAhead));
+        step(k, std::false_type{});
+    }
     for (; k < n + lead; ++k) step(k, std::true_type{});
 
     if constexpr (kTwo)
