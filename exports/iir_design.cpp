@@ -9,7 +9,7 @@ using namespace quorvan;
 
 namespace {
 
-constexpr double kNone = 0;  // where a specification has no such frequency or level
+constexpr double kNone = 0;  // where a filter has no such frequency or level
 
 }  // namespace
 
