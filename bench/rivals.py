@@ -26,6 +26,8 @@ SORT_SIZES = (100, 1000, 10000, 100000, 1000000)
 SORT_POOL = 100000
 CONVOLUTIONS = ((100, 100), (1000, 1000), (10000, 100), (10000, 10000), (100000, 1000), (100000, 100000))
 WINDOW_SIZES = (256, 4096, 65536)
+FILTER_ORDERS = (2, 4, 8, 12, 16, 20)
+FILTER_BLOCKS = (64, 1024, 16384, 1048576)
 PEAK_SIZES = (1000, 100000, 1000000)
 
 
@@ -194,6 +196,26 @@ def matrix_cases(library):
             same = {"solve": "numpy.allclose(kept[0], x)", "inverse": "numpy.allclose(kept, x)"}
             yield Case(f"linalg_{name}", str(n), f"f({arguments})", numpy_statement, names,
                        same.get(name, "numpy.allclose(kept, out)"))
+
+
+def cascade_cases(library):
+    create = library.call(233, "cc", ctypes.c_void_p)
+    create_state = library.call(469, "cc", ctypes.c_void_p)
+    design, release = library.call(18, "dddp"), library.call(234, "p", None)
+    for order in FILTER_ORDERS:
+        sections = scipy.signal.butter(order, 0.3, output="sos")
+        for group, number, types, dtype in (("cascade_real", 91, "pipp", np.float64),
+                                            ("cascade_complex", 466, "pippp", np.complex128)):
+            for n in FILTER_BLOCKS:
+                handle, state = ctypes.c_void_p(create(0, order)), ctypes.c_void_p(create_state(0, order))
+                design(2.0, 0.3, 0.0, handle)
+                x, out = noise(n, 1, dtype), aligned(n, dtype)
+                names = dict(f=library.call(number, types), x=x, out=out, px=address(x), pout=address(out), n=n,
+                             filter=handle, state=state, sosfilt=scipy.signal.sosfilt, sections=sections)
+                objects = "filter" if dtype == np.float64 else "filter, state"
+                yield Case(group, f"{order}x{n}", f"f(px, n, {objects}, pout)", "sosfilt(sections, x)", names,
+                           "numpy.allclose(kept, sosfilt(sections, x), rtol=0, atol=1e-11)",
+                           cleanup=[lambda h=handle, s=state: (release(h), release(s))])
 
 
 def peak_cases(library):

@@ -1574,6 +1574,86 @@ QV_API double ZemFunc327(double x, double v);
 
 /** @} */
 
+/** @defgroup filter_objects Filter objects and the cascade engine
+ * A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay lines of
+ * its stages behind it in the same block of memory. It is created, designed (see the designs of the family below), and
+ * then applied to any number of blocks: the delay lines carry over, and a signal that is cut into blocks comes out as
+ * it would in one piece, to the last bit. MemoryRelease gives the object back.
+ * A stage with the coefficients a and b and the delay line d turns the sample v into
+ * v' = t b[0] + b[1] d[0] + b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line
+ * (direct form II; sums from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude
+ * is 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals.
+ * An object belongs to one thread at a time.
+ * @{
+ */
+
+/**
+ * IirFilterCreate.
+ * Creates a filter with its delay lines at 0. Its coefficients are not set before it is designed.
+ * Null for another kind, for an order below 1, and when memory runs out.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype, at least 1; band kinds have twice this order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(0, 4);
+ * double x[5] = {1}, y[5];
+ * QvIirDesignButterworth(1000, 100, 0, filter);
+ * QvIirCascadeApply(x, 5, filter, y);
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvIirFilter* ZemFunc233(uint32_t kind, int32_t order);
+#define QvIirFilterCreate ZemFunc233
+
+/**
+ * IirStateComplexCreate.
+ * Creates the delay lines with which a filter is applied to complex data, all 0.
+ * Null for a kind above 3, for an order below 1, and when memory runs out.
+ * @param kind of the filter that it will be used with
+ * @param order of the filter that it will be used with
+ */
+QV_API QvIirStateComplex* ZemFunc469(uint32_t kind, int32_t order);
+#define QvIirStateComplexCreate ZemFunc469
+
+/**
+ * IirFilterReset.
+ * Makes the next application, and only that one, start from delay lines of 0.
+ * The delay lines cleared are those of that application: the filter's own, or the ones for complex data.
+ * @param filter handle, may be null: the filter
+ */
+QV_API void ZemFunc235(QvIirFilter* filter);
+#define QvIirFilterReset ZemFunc235
+
+/**
+ * IirCascadeApply.
+ * Filters the next block of a signal. y may be x.
+ * A pending reset is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the record do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc91(const double* x, int64_t n, QvIirFilter* filter, double* y);
+#define QvIirCascadeApply ZemFunc91
+
+/**
+ * IirCascadeApplyComplex.
+ * Filters the next block of a complex signal: its real and its imaginary part, each by itself. y may be x.
+ * A pending reset of the filter is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param state handle: the delay lines, of the same kind and order
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the two records do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, QvIirStateComplex* state, QvComplex* y);
+#define QvIirCascadeApplyComplex ZemFunc466
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
@@ -1931,6 +2011,1106 @@ QV_API QvStatus ZemFunc347(int64_t n, double amp, double delay, double dt, doubl
  */
 QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, double width, double skew, double* out);
 #define QvGenSkewedTrianglePulse ZemFunc350
+
+/** @} */
+
+/** @defgroup iir_design IIR design and one-shot IIR filters
+ * Recursive filters of six families and four kinds. An analog lowpass prototype with its cutoff at 1 rad/s goes, pole
+ * pair by pole pair, through the bilinear transform with prewarped edges, w = tan(pi f / fs), into stages of second
+ * order (lowpass, highpass) or of fourth order (bandpass, bandstop, which have twice the order of the prototype). No
+ * polynomial of high degree is formed, so that high orders stay accurate.
+ * Frequencies are in the unit of fs, the sampling rate. Kinds: 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop; the first
+ * two have their cutoff in fl (or fc) and ignore fh. Ripple and attenuation are in dB, above 0.
+ * The edges mean: Butterworth and Bessel 3 dB down; Chebyshev and elliptic the end of the passband, where the ripple is
+ * reached for the last time; inverse Chebyshev the begin of the stopband, where the attenuation is first reached. The
+ * even-pole family has poles on the unit circle with equally spaced imaginary parts.
+ * Designs check in the order of their statuses. The one-shot filters of real arrays check their sizes and levels
+ * elsewhere, and accept a cutoff of fs/2, which the designs refuse with -20023.
+ * @{
+ */
+
+/**
+ * IirDesignEvenPole.
+ * Designs an even-pole filter: poles on the unit circle with equally spaced imaginary parts.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc12(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignEvenPole ZemFunc12
+
+/**
+ * IirDesignButterworth.
+ * Designs a Butterworth filter, maximally flat in the passband and 3 dB down at the edges.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(2, 3);
+ * QvIirDesignButterworth(1000, 8, 13, filter);  // the alpha band of an EEG
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc18(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignButterworth ZemFunc18
+
+/**
+ * IirDesignBessel.
+ * Designs a Bessel filter, of maximally flat delay before the transform to digital form, and 3 dB down at the edges.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ */
+QV_API QvStatus ZemFunc471(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignBessel ZemFunc471
+
+/**
+ * IirDesignChebyshev.
+ * Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc24(double fs, double fl, double fh, double ripple, QvIirFilter* filter);
+#define QvIirDesignChebyshev ZemFunc24
+
+/**
+ * IirDesignInverseChebyshev.
+ * Designs an inverse Chebyshev filter, of equal ripple in the stopband.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param attenuation attenuation of the stopband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc98(double fs, double fl, double fh, double attenuation, QvIirFilter* filter);
+#define QvIirDesignInverseChebyshev ZemFunc98
+
+/**
+ * IirDesignElliptic.
+ * Designs an elliptic filter, of equal ripple in passband and stopband.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc61(double fs, double fl, double fh, double ripple, double attenuation, QvIirFilter* filter);
+#define QvIirDesignElliptic ZemFunc61
+
+/**
+ * IirCoefficientsEvenPole.
+ * Designs an even-pole filter: poles on the unit circle with equally spaced imaginary parts, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc13(int32_t kind, int32_t order, double fs, double fl, double fh, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsEvenPole ZemFunc13
+
+/**
+ * IirCoefficientsButterworth.
+ * Designs a Butterworth filter, maximally flat in the passband and 3 dB down at the edges, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ * @code
+ * double a[3], b[3];
+ * QvIirCoefficientsButterworth(0, 2, 4, 1, 0, a, 3, b, 3);  // b = 0.2929, 0.5858, 0.2929; a = 1, 0, 0.1716
+ * @endcode
+ */
+QV_API QvStatus ZemFunc19(int32_t kind, int32_t order, double fs, double fl, double fh, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsButterworth ZemFunc19
+
+/**
+ * IirCoefficientsChebyshev.
+ * Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc25(int32_t kind, int32_t order, double fs, double fl, double fh, double ripple, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsChebyshev ZemFunc25
+
+/**
+ * IirCoefficientsInverseChebyshev.
+ * Designs an inverse Chebyshev filter, of equal ripple in the stopband, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param attenuation attenuation of the stopband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc99(int32_t kind, int32_t order, double fs, double fl, double fh, double attenuation, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsInverseChebyshev ZemFunc99
+
+/**
+ * IirCoefficientsElliptic.
+ * Designs an elliptic filter, of equal ripple in passband and stopband, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc62(int32_t kind, int32_t order, double fs, double fl, double fh, double ripple, double attenuation, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsElliptic ZemFunc62
+
+/**
+ * IirToDirectForm.
+ * Multiplies the stages of a filter up to one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param filter handle, may be null: the filter, designed
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20066 the filter is null
+ * @retval -20021 the order of the record is below 1
+ * @retval -20061 the kind of the record is none of the four
+ * @retval -20066 the counts of the record do not fit together, or an array is too short
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc236(QvIirFilter* filter, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirToDirectForm ZemFunc236
+
+/**
+ * IirFilterButterworthLowpass.
+ * Filters a signal from rest with a Butterworth lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20020 fc is above fs/2
+ * @code
+ * QvIirFilterButterworthLowpass(x, 1000, 360, 40, 4, 0);  // in place
+ * @endcode
+ */
+QV_API QvStatus ZemFunc21(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterButterworthLowpass ZemFunc21
+
+/**
+ * IirFilterButterworthHighpass.
+ * Filters a signal from rest with a Butterworth highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc20(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterButterworthHighpass ZemFunc20
+
+/**
+ * IirFilterButterworthBandpass.
+ * Filters a signal from rest with a Butterworth bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc16(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterButterworthBandpass ZemFunc16
+
+/**
+ * IirFilterButterworthBandstop.
+ * Filters a signal from rest with a Butterworth bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc17(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterButterworthBandstop ZemFunc17
+
+/**
+ * IirFilterChebyshevLowpass.
+ * Filters a signal from rest with a Chebyshev lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc27(double* x, int64_t n, double fs, double fc, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevLowpass ZemFunc27
+
+/**
+ * IirFilterChebyshevHighpass.
+ * Filters a signal from rest with a Chebyshev highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc26(double* x, int64_t n, double fs, double fc, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevHighpass ZemFunc26
+
+/**
+ * IirFilterChebyshevBandpass.
+ * Filters a signal from rest with a Chebyshev bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc22(double* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevBandpass ZemFunc22
+
+/**
+ * IirFilterChebyshevBandstop.
+ * Filters a signal from rest with a Chebyshev bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc23(double* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevBandstop ZemFunc23
+
+/**
+ * IirFilterInverseChebyshevLowpass.
+ * Filters a signal from rest with an inverse Chebyshev lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc101(double* x, int64_t n, double fs, double fc, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevLowpass ZemFunc101
+
+/**
+ * IirFilterInverseChebyshevHighpass.
+ * Filters a signal from rest with an inverse Chebyshev highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc100(double* x, int64_t n, double fs, double fc, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevHighpass ZemFunc100
+
+/**
+ * IirFilterInverseChebyshevBandpass.
+ * Filters a signal from rest with an inverse Chebyshev bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc96(double* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevBandpass ZemFunc96
+
+/**
+ * IirFilterInverseChebyshevBandstop.
+ * Filters a signal from rest with an inverse Chebyshev bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc97(double* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevBandstop ZemFunc97
+
+/**
+ * IirFilterEllipticLowpass.
+ * Filters a signal from rest with an elliptic lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc64(double* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticLowpass ZemFunc64
+
+/**
+ * IirFilterEllipticHighpass.
+ * Filters a signal from rest with an elliptic highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc63(double* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticHighpass ZemFunc63
+
+/**
+ * IirFilterEllipticBandpass.
+ * Filters a signal from rest with an elliptic bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc59(double* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticBandpass ZemFunc59
+
+/**
+ * IirFilterEllipticBandstop.
+ * Filters a signal from rest with an elliptic bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc60(double* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticBandstop ZemFunc60
+
+/**
+ * IirFilterBesselLowpass.
+ * Designs a Bessel lowpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc399(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterBesselLowpass ZemFunc399
+
+/**
+ * IirFilterBesselHighpass.
+ * Designs a Bessel highpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc400(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterBesselHighpass ZemFunc400
+
+/**
+ * IirFilterBesselBandpass.
+ * Designs a Bessel bandpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc401(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterBesselBandpass ZemFunc401
+
+/**
+ * IirFilterBesselBandstop.
+ * Designs a Bessel bandstop and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc402(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterBesselBandstop ZemFunc402
+
+/**
+ * IirFilterComplexButterworthLowpass.
+ * Designs a Butterworth lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc450(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthLowpass ZemFunc450
+
+/**
+ * IirFilterComplexButterworthHighpass.
+ * Designs a Butterworth highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc451(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthHighpass ZemFunc451
+
+/**
+ * IirFilterComplexButterworthBandpass.
+ * Designs a Butterworth bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc452(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthBandpass ZemFunc452
+
+/**
+ * IirFilterComplexButterworthBandstop.
+ * Designs a Butterworth bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc453(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthBandstop ZemFunc453
+
+/**
+ * IirFilterComplexChebyshevLowpass.
+ * Designs a Chebyshev lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc454(QvComplex* x, int64_t n, double fs, double fc, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevLowpass ZemFunc454
+
+/**
+ * IirFilterComplexChebyshevHighpass.
+ * Designs a Chebyshev highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc455(QvComplex* x, int64_t n, double fs, double fc, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevHighpass ZemFunc455
+
+/**
+ * IirFilterComplexChebyshevBandpass.
+ * Designs a Chebyshev bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc456(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevBandpass ZemFunc456
+
+/**
+ * IirFilterComplexChebyshevBandstop.
+ * Designs a Chebyshev bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc457(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevBandstop ZemFunc457
+
+/**
+ * IirFilterComplexInverseChebyshevLowpass.
+ * Designs an inverse Chebyshev lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc458(QvComplex* x, int64_t n, double fs, double fc, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevLowpass ZemFunc458
+
+/**
+ * IirFilterComplexInverseChebyshevHighpass.
+ * Designs an inverse Chebyshev highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc459(QvComplex* x, int64_t n, double fs, double fc, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevHighpass ZemFunc459
+
+/**
+ * IirFilterComplexInverseChebyshevBandpass.
+ * Designs an inverse Chebyshev bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc460(QvComplex* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevBandpass ZemFunc460
+
+/**
+ * IirFilterComplexInverseChebyshevBandstop.
+ * Designs an inverse Chebyshev bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc461(QvComplex* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevBandstop ZemFunc461
+
+/**
+ * IirFilterComplexEllipticLowpass.
+ * Designs an elliptic lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc462(QvComplex* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticLowpass ZemFunc462
+
+/**
+ * IirFilterComplexEllipticHighpass.
+ * Designs an elliptic highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc463(QvComplex* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticHighpass ZemFunc463
+
+/**
+ * IirFilterComplexEllipticBandpass.
+ * Designs an elliptic bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc464(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticBandpass ZemFunc464
+
+/**
+ * IirFilterComplexEllipticBandstop.
+ * Designs an elliptic bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc465(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticBandstop ZemFunc465
+
+/**
+ * IirFilterComplexBesselLowpass.
+ * Designs a Bessel lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc403(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselLowpass ZemFunc403
+
+/**
+ * IirFilterComplexBesselHighpass.
+ * Designs a Bessel highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc404(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselHighpass ZemFunc404
+
+/**
+ * IirFilterComplexBesselBandpass.
+ * Designs a Bessel bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc405(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselBandpass ZemFunc405
+
+/**
+ * IirFilterComplexBesselBandstop.
+ * Designs a Bessel bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc406(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselBandstop ZemFunc406
 
 /** @} */
 
