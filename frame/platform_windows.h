@@ -1,0 +1,17 @@
+// What the units of the Windows platform share.
+#pragma once
+
+namespace quorvan {
+
+// The file of the linear algebra provider.
+inline constexpr char kProviderFile[] = "ZR150000_BLASLAPACK.dll";
+
+// Loads the provider from the first place of the search that decides, and says whether it is loaded.
+bool LoadProvider() noexcept;
+// Undoes it, if it is loaded.
+void FreeProvider() noexcept;
+
+// Runs the handler of NoticeThreadEnds on the thread that ends.
+void ThisThreadEnds() noexcept;
+
+}  // namespace quorvan
