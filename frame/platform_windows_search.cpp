@@ -72,7 +72,10 @@ bool FolderFromPathFile(Path& folder) noexcept {
     DWORD count = 0;
     const BOOL read = ReadFile(handle, bytes, kFolderRoom - 2, &count, nullptr);
     CloseHandle(handle);
-    return read && count > 0 && folder.Append(bytes, count) && folder.EndFolder();
+    if (!read || count == 0) return false;
+    if (bytes[count - 1] != '\\') bytes[count++] = '\\';
+    bytes[count] = 0;
+    return folder.Append(bytes);
 }
 
 // The folder below the one that the registry names.
