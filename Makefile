@@ -49,7 +49,7 @@ check-windows:
 	@tools/packages.sh build test windows
 	cmake --preset release
 	cmake --build --preset release --target quorvan --parallel $(JOBS)
-	JOBS=$(JOBS) tools/windows_provider.sh build/windows/provider
+	JOBS=$(JOBS) WINEPREFIX=$(CURDIR)/build/windows/wine tools/windows_provider.sh build/windows/provider
 	$(call built,windows)
 	ctest --preset windows --parallel $(JOBS)
 

@@ -82,6 +82,7 @@ set(QUORVAN_FLAGS_avx2 -mavx2 -mfma)
 set(QUORVAN_FLAGS_avx512 -Wno-maybe-uninitialized -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
 
 add_library(quorvan_core OBJECT ${QUORVAN_UNITS})
+set_source_files_properties(${PROJECT_SOURCE_DIR}/frame/platform_windows_math.cpp PROPERTIES COMPILE_OPTIONS -fno-builtin)
 target_link_libraries(quorvan_core PRIVATE quorvan_options)
 set(QUORVAN_OBJECTS $<TARGET_OBJECTS:quorvan_core>)
 foreach(set IN LISTS QUORVAN_TARGET_SETS)

@@ -14,4 +14,7 @@ void FreeProvider() noexcept;
 // Runs the handler of NoticeThreadEnds on the thread that ends.
 void ThisThreadEnds() noexcept;
 
+// x y + z in one rounding, without the processor's instruction.
+double SoftwareFma(double x, double y, double z) noexcept;
+
 }  // namespace quorvan

@@ -43,7 +43,7 @@ set(CMAKE_C_COMPILER $triple-gcc-posix)
 set(CMAKE_Fortran_COMPILER $triple-gfortran-posix)
 set(CMAKE_CROSSCOMPILING_EMULATOR ${WINE:-$(command -v wine64 || ls /usr/lib/wine/wine64)})
 EOF
-export WINEPREFIX=${WINEPREFIX:-$folder/prefix} WINEDEBUG=-all
+export WINEPREFIX=${WINEPREFIX:-$folder/prefix} WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 cmake -G Ninja -S "$source" -B "$folder/build" -DCMAKE_TOOLCHAIN_FILE="$folder/toolchain.cmake" \
     -DCMAKE_BUILD_TYPE=Release -DCMAKE_Fortran_FLAGS_RELEASE=-O2 -DCMAKE_EXE_LINKER_FLAGS=-static -DBUILD_SHARED_LIBS=OFF -DCBLAS=ON -DLAPACKE=OFF \
     -DBUILD_SINGLE=OFF -DBUILD_COMPLEX=OFF -DBUILD_TESTING=OFF

@@ -283,7 +283,7 @@ def test_the_archive_holds_all_that_a_program_needs(tmp_path):
     # And it is enough for a compiler.
     home, = (tmp_path / "out").iterdir()
     program = tmp_path / "consumer.exe"
-    subprocess.run(["x86_64-w64-mingw32-gcc-posix", "-std=c99", "-Wall", "-Wextra", "-Wpedantic", "-Werror",
+    subprocess.run([os.environ["QUORVAN_CC"], "-std=c99", "-Wall", "-Wextra", "-Wpedantic", "-Werror",
                     ROOT / "tests" / "package" / "consumer.c", f"-I{home}/include", f"-L{home}/lib", "-lquorvan", "-o",
                     program], check=True)
     shutil.copy(home / "bin" / "quorvan.dll", tmp_path)
