@@ -1,0 +1,20 @@
+// Bessel functions of the first kind.
+#pragma once
+
+namespace quorvan {
+
+// J of real order at real x. Whole orders: negative order and negative x by parity. Other orders: NaN for x < 0.
+// At 0: 1 for order 0, 0 for other orders above 0 and whole ones, an infinity for the rest; at infinity 0.
+//   x^2 <= 2 (v + 1)           the ascending series
+//   x >= 20, x >= v^2/2        Hankel's expansion
+//   v >= 500                   the expansions for large orders
+//   whole v                    recurrence, upward from J0 and J1 to v <= x, downward from a continued fraction above
+//   other v                    the same from and to the orders beside 0
+//   v < 0                      cos(pi v) J(-v) + sin(pi v) Y(-v)
+// After the Cephes Math Library, S. L. Moshier: jv, jn; recurrences as W. Gautschi (1967).
+double SpecBesselJ(double order, double x) noexcept;
+
+// The same for order >= 0 and 0 < x < Inf.
+double PositiveBesselJ(double v, double x) noexcept;
+
+}  // namespace quorvan
