@@ -7,7 +7,7 @@ namespace quorvan {
 // At 0: 1 for order 0, 0 for other orders above 0 and whole ones, an infinity for the rest; at infinity 0.
 //   x^2 <= 2 (v + 1)           the ascending series
 //   x >= 20, x >= v^2/2        Hankel's expansion
-//   v >= 500                   the expansions for large orders
+//   v >= 2000                  the expansions for large orders
 //   whole v                    recurrence, upward from J0 and J1 to v <= x, downward from a continued fraction above
 //   other v                    the same from and to the orders beside 0
 //   v < 0                      cos(pi v) J(-v) + sin(pi v) Y(-v)

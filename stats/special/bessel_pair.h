@@ -12,8 +12,8 @@ struct BesselPairs {
     BesselPair at, above;
 };
 
-// The order from which the expansions for large orders serve.
-inline constexpr double kLargeBesselOrder = 500;
+// The order from which the expansions for large orders serve; below, recurrences are nearer, and not yet long.
+inline constexpr double kLargeBesselOrder = 2000;
 
 // True where Hankel's expansion holds to the last place: x >= 20 and v^2 <= 2 x.
 bool HankelHolds(double v, double x) noexcept;
@@ -22,7 +22,7 @@ bool HankelHolds(double v, double x) noexcept;
 // (4v^2 - 1)(4v^2 - 9).../(k! (8x)^k) up to the least term. H. Hankel (1869); A&S 9.2.5 to 9.2.10.
 BesselPair HankelPair(double v, double x) noexcept;
 
-// For v >= 500: Hankel above 0.3 v^2, the transition expansion within 0.7 v^(1/3) of the order (A&S 9.3.23, 9.3.24),
+// For v >= 2000: Hankel above 0.3 v^2, the transition expansion within 0.7 v^(1/3) of the order (A&S 9.3.23, 9.3.24),
 // the uniform one elsewhere (F. W. J. Olver, 1954; A&S 9.3.35, 9.3.36).
 BesselPair LargeOrderPair(double v, double x) noexcept;
 

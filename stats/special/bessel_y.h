@@ -6,7 +6,7 @@ namespace quorvan {
 // Y of real order, for x > 0. Orders below -200 and x < 0 give NaN; x = 0 gives -Inf, +Inf 0. Orders within 1e-8 of a
 // whole number count as whole.
 //   x >= 20, x >= v^2/2   Hankel's expansion
-//   v >= 500              the expansions for large orders
+//   v >= 2000             the expansions for large orders
 //   whole v               upward recurrence from Y0 and Y1
 //   other v               upward recurrence from the orders beside 0
 //   v < 0                 cos(pi v) Y(-v) - sin(pi v) J(-v), with SpecBesselJ the form of (cos(pi v) J(v) - J(-v)) /

@@ -6,6 +6,7 @@
 #include "stats/special/airy.h"
 #include "stats/special/bessel_pair.h"
 #include "stats/special/debye.h"
+#include "stats/special/double_double.h"
 #include "stats/special/polynomial.h"
 
 namespace quorvan {
@@ -73,6 +74,26 @@ double CubicRemainder(double s, double sign, double whole) noexcept {
     return sum;
 }
 
+// The phase sqrt(x^2 - v^2) - v arccos(v/x) = sqrt(x^2 - v^2) + v arcsin u - v pi/2, u = v/x <= 1/2, whose large parts
+// are sums of two doubles: in one it would lose as many digits as it has before the point.
+DoubleDouble LongPhase(double v, double x) noexcept {
+    constexpr DoubleDouble kHalfPi{1.5707963267948966, 6.123233995736766e-17};
+    const DoubleDouble square = ExactSum(x, -v) * ExactSum(x, v);
+    const double root = std::sqrt(square.high);
+    const double root_rest = (std::fma(-root, root, square.high) + square.low) / (2 * root);
+    const DoubleDouble linear = ExactProduct(v, v) / DoubleDouble{x, 0};
+    const double u = v / x;
+    double power = u * u * u, sum = power / 6;  // arcsin u - u
+    for (int k = 3; k < 100; k += 2) {
+        power *= u * u * k / (k + 1.0);
+        const double term = 0.5 * power / (k + 2);
+        sum += term;
+        if (term <= kEpsilon * sum) break;
+    }
+    const DoubleDouble turns = kHalfPi * DoubleDouble{-v, 0};
+    return (DoubleDouble{root, root_rest} + linear) + (turns + DoubleDouble{v * sum, 0});
+}
+
 BesselPair Uniform(double v, double x) noexcept {
     const double z = x / v, zz = (v - x) / v * ((v + x) / v);  // 1 - z^2
     const double sign = zz > 0 ? 1 : -1, s = std::sqrt(std::fabs(zz));
@@ -112,7 +133,8 @@ BesselPair Uniform(double v, double x) noexcept {
     }
     sum_b *= -sign / cbrt_t;
     const double c = std::cbrt(v);
-    const AiryValues airy = AiryOfZeta(sign * zeta * c * c, exponent * v, 0);
+    const DoubleDouble phase = z >= 2 && x < 1e150 ? LongPhase(v, x) : DoubleDouble{exponent * v, 0};
+    const AiryValues airy = AiryOfZeta(sign * zeta * c * c, phase.high, phase.low);
     const double factor = std::sqrt(2 * std::sqrt(zeta) / s);
     const double p = sum_a / c, q = sum_b / (c * c) / v;
     return {factor * (airy.ai * p + airy.ai_slope * q), -factor * (airy.bi * p + airy.bi_slope * q)};
