@@ -73,7 +73,12 @@ AiryValues Oscillating(double x, double zeta, double zeta_rest) noexcept {
     const double root = std::sqrt(std::sqrt(-x)), z = 1 / zeta, zz = z * z;
     // Sine and cosine of zeta + zeta_rest, then of an eighth of a turn more.
     const double s0 = std::sin(zeta), c0 = std::cos(zeta);
-    const double s1 = s0 + zeta_rest * c0, c1 = c0 - zeta_rest * s0;
+    double s1 = s0 + zeta_rest * c0, c1 = c0 - zeta_rest * s0;
+    if (std::fabs(zeta_rest) > 1e-8) {  // not small any more
+        const double s = std::sin(zeta_rest), c = std::cos(zeta_rest);
+        s1 = s0 * c + c0 * s;
+        c1 = c0 * c - s0 * s;
+    }
     const double s = kSqrtHalf * (s1 + c1), c = kSqrtHalf * (c1 - s1);
     double f = 1 + zz * Polynomial(zz, kAFN) / MonicPolynomial(zz, kAFD);
     double g = z * Polynomial(zz, kAGN) / MonicPolynomial(zz, kAGD);

@@ -41,7 +41,7 @@ double ScaledHankel(double v, double x) noexcept {
         sum += term;
         if (std::fabs(term) <= 0.25 * kEpsilon * std::fabs(sum) && odd > 2 * v) break;
     }
-    return sum / std::sqrt(kTwoPi * x);
+    return sum / (std::sqrt(kTwoPi) * std::sqrt(x));
 }
 
 // From almost nothing down to the fraction of the order, where e^-x I is known.
@@ -74,7 +74,7 @@ double PositiveBesselI(double v, double x) noexcept {
     const bool whole = v == std::floor(v);
     if (whole && v <= 1) return TimesExp(v == 0 ? ScaledBesselI0(x) : ScaledBesselI1(x), x);
     if (x * x <= 4 * (v + 1) || (!whole && x < 20)) return Series(v, x);
-    if (x >= 20 && v * v <= 2 * x) return TimesExp(ScaledHankel(v, x), x);
+    if (x >= 20 && 0.5 * v * v <= x) return TimesExp(ScaledHankel(v, x), x);
     return v >= kDebyeOrder ? DebyeModified(v, x, 1) : Downward(v, x);
 }
 

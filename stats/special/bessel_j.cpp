@@ -80,6 +80,7 @@ double BrokenOrder(double v, double x) noexcept {
     // Wronski's determinant: J(v+1) Y(v) - J(v) Y(v+1) = 2/(pi x).
     double y, y_above;
     PositiveBesselYPair(v, x, &y, &y_above);
+    if (std::isinf(y_above)) return 0;
     return kTwoOverPi / x / (RatioAbove(v, x) * y - y_above);
 }
 
@@ -95,7 +96,7 @@ double AtZero(double order) noexcept {
 double PositiveBesselJ(double v, double x) noexcept {
     const bool whole = v == std::floor(v);
     if (whole && v <= 1) return v == 0 ? SpecBesselJ0(x) : SpecBesselJ1(x);
-    if (x * x <= 2 * (v + 1)) return Series(v, x);
+    if (v < kLargeBesselOrder && x * x <= 2 * (v + 1)) return Series(v, x);
     if (HankelHolds(v, x)) return HankelPair(v, x).j;
     if (v >= kLargeBesselOrder) return LargeOrderPair(v, x).j;
     return whole ? WholeOrder(static_cast<int>(v), x) : BrokenOrder(v, x);

@@ -19,10 +19,11 @@ constexpr double kLargeOrder = 1000;
 // Temme (1975): K(mu) = sum c_k f_k, K(mu+1) = (2/x) sum c_k (p_k - k f_k), c_k = (x^2/4)^k / k!.
 void Series(double mu, double x, double* at, double* beyond) noexcept {
     const TemmeGamma gamma = TemmeGammaOf(mu);
-    const double logarithm = std::log(2 / x), sigma = mu * logarithm, angle = kPi * mu;
+    const double logarithm = LogTwoOver(x), sigma = mu * logarithm, angle = kPi * mu;
     const double reflect = std::fabs(angle) < 1e-8 ? 1 : angle / std::sin(angle);
-    const double power = std::exp(sigma);
-    double f = reflect * (std::cosh(sigma) * gamma.gamma1 + SinhRatio(sigma) * logarithm * gamma.gamma2);
+    const double power = std::pow(0.5 * x, -mu);
+    const Hyperbolic hyperbolic = HyperbolicOf(sigma, power);
+    double f = reflect * (hyperbolic.cosine * gamma.gamma1 + hyperbolic.sine_ratio * logarithm * gamma.gamma2);
     double p = 0.5 * power * gamma.plus, q = 0.5 * gamma.minus / power;
     const double z = 0.25 * x * x;
     double c = 1, sum = f, above = p;

@@ -34,18 +34,21 @@ constexpr double kK1B[] = {
     -1.93619797416608296024E-5,  1.95215518471351631108E-4,  -2.85781685962277938680E-3,  1.03923736576817238437E-1,
     2.72062619048444266945E0};
 
+// ln(x/2), also where x/2 would be 0.
+double LogHalf(double x) noexcept { return x < 1e-300 ? std::log(x) - 0.69314718055994531 : std::log(0.5 * x); }
+
 }  // namespace
 
 double ScaledBesselK0(double x) noexcept {
     if (x > 2) return ChebyshevSum(8 / x - 2, kK0B) / std::sqrt(x);
     const double e = std::exp(x);
-    return (ChebyshevSum(x * x - 2, kK0A) - std::log(0.5 * x) * e * ScaledBesselI0(x)) * e;
+    return (ChebyshevSum(x * x - 2, kK0A) - LogHalf(x) * e * ScaledBesselI0(x)) * e;
 }
 
 double ScaledBesselK1(double x) noexcept {
     if (x > 2) return ChebyshevSum(8 / x - 2, kK1B) / std::sqrt(x);
     const double e = std::exp(x);
-    return (std::log(0.5 * x) * e * ScaledBesselI1(x) + ChebyshevSum(x * x - 2, kK1A) / x) * e;
+    return (LogHalf(x) * e * ScaledBesselI1(x) + ChebyshevSum(x * x - 2, kK1A) / x) * e;
 }
 
 }  // namespace quorvan

@@ -12,7 +12,7 @@ constexpr double kTwoOverPi = 0.63661977236758134308;
 
 }  // namespace
 
-bool HankelHolds(double v, double x) noexcept { return x >= 20 && v * v <= 2 * x; }
+bool HankelHolds(double v, double x) noexcept { return x >= 20 && 0.5 * v * v <= x; }
 
 BesselPair HankelPair(double v, double x) noexcept {
     const double scale = 1 / (8 * x);

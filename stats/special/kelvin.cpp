@@ -43,7 +43,8 @@ double Size(ComplexRecord z) noexcept { return std::fabs(z.re) + std::fabs(z.im)
 
 // z e^(sign w) 2^exponent, w = (x + ix)/sqrt 2, the rounding of x/sqrt 2 put back.
 ComplexRecord TimesExpW(ComplexRecord z, double x, int sign, int exponent = 0) noexcept {
-    const double a = x * kSqrtHalf, rest = std::fma(x, kSqrtHalf, -a) + x * kSqrtHalfRest;
+    const double a = x * kSqrtHalf;
+    const double rest = a > 1e8 ? 0 : std::fma(x, kSqrtHalf, -a) + x * kSqrtHalfRest;
     const double s = std::sin(a), c = std::cos(a);
     const ComplexRecord turned = CxMultiply(z, {c - rest * s, sign * (s + rest * c)});
     const double slip = 1 + sign * rest;
@@ -77,8 +78,8 @@ ComplexRecord KeFiniteSum(double x, std::uint32_t n) noexcept {
         if (k == 1) term = 0.5 / PowerOverGamma(x, n - 2.0);
         if (k > 1) term *= square / (static_cast<double>(k) * (n - k));
         const ComplexRecord turn = EighthTurns(3ull * n + 2ull * k);
-        if (turn.re != 0) sum.re += turn.re * term;
-        if (turn.im != 0) sum.im -= turn.im * term;
+        if (turn.re != 0 && !std::isinf(sum.re)) sum.re += turn.re * term;
+        if (turn.im != 0 && !std::isinf(sum.im)) sum.im -= turn.im * term;
         if (k >= 1 && (std::isinf(term) || term <= 0.25 * kEpsilon * std::fmin(std::fabs(sum.re), std::fabs(sum.im))))
             break;
     }
@@ -86,7 +87,7 @@ ComplexRecord KeFiniteSum(double x, std::uint32_t n) noexcept {
 }
 
 ComplexRecord KeSeries(double x, std::uint32_t n) noexcept {
-    const double factor = PowerOverGamma(x, n), square = 0.25 * x * x, logarithm = std::log(0.5 * x);
+    const double factor = PowerOverGamma(x, n), square = 0.25 * x * x, logarithm = std::log(x) - 0.69314718055994531;
     ComplexRecord sum = n > 0 ? KeFiniteSum(x, n) : ComplexRecord{0, 0};
     if (factor == 0) return sum;
     const ComplexRecord be = BeSeries(x, n);
@@ -137,6 +138,10 @@ ComplexRecord IHankel(double x, std::uint32_t n) noexcept {
     const ComplexRecord growing = TimesExpW(sums.alternating, x, 1);
     const ComplexRecord decaying = Turned(TimesExpW(sums.plain, x, -1), (n & 1) != 0 ? 6 : 2);
     return CxScale(CxAdd(growing, decaying), one_over_root);
+}
+
+ComplexRecord KHankel(double x, std::uint32_t n) noexcept {
+    return TimesExpW(CxScale(Hankel(x, n).plain, std::sqrt(kPi / 2)), x, -1);
 }
 
 // I (kind 1) or K (kind -1) by Debye's expansion at z = w/n; with y = (x/n)^2 the root of 1 + z^2 is that of 1 + iy.
@@ -248,15 +253,24 @@ ComplexRecord KUpward(double x, std::uint32_t n) noexcept {
     return TimesExpW(pair.k0, x, -1, exponent);
 }
 
+bool HankelSuffices(double x, std::uint32_t n) noexcept {
+    return x >= kHankelStart && 0.5 * static_cast<double>(n) * n <= x;
+}
+
 ComplexRecord PositiveBe(double x, std::uint32_t n) noexcept {
     if (x <= kSeriesEnd || x * x <= 4 * (n + 1.0)) return BeSeries(x, n);
     ComplexRecord i;
-    if (x >= kHankelStart && static_cast<double>(n) * n <= 2 * x) {
+    if (HankelSuffices(x, n)) {
         i = IHankel(x, n);
     } else {
         i = n >= kDebyeOrder ? Debye(x, n, 1) : IDownward(x, n);
     }
     return Turned(i, 2ull * n);
+}
+
+ComplexRecord PositiveK(double x, std::uint32_t n) noexcept {
+    if (HankelSuffices(x, n)) return KHankel(x, n);
+    return n >= kDebyeOrder ? Debye(x, n, -1) : KUpward(x, n);
 }
 
 double KeiAtZero(std::uint32_t n) noexcept {
@@ -289,7 +303,7 @@ void SpecKelvinKe(double x, std::uint32_t n, ComplexRecord* out) noexcept {
     } else if (x <= kFractionStart) {
         *out = KeSeries(x, n);
     } else {
-        *out = Turned(n >= kDebyeOrder ? Debye(x, n, -1) : KUpward(x, n), 8 - 2 * (n & 3));
+        *out = Turned(PositiveK(x, n), 8 - 2 * (n & 3));
     }
 }
 

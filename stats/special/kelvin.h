@@ -18,7 +18,7 @@ void SpecKelvinBe(double x, std::uint32_t n, ComplexRecord* out) noexcept;
 // ker(n, x) + i kei(n, x) = e^(-n pi i/2) K(n, w). At 0 ker is +Inf for every n, deliberately, and kei has its limit; x
 // < 0 gives NaN; at infinity both are 0.
 //   x <= 2              the ascending series (A&S 9.9.11, 9.9.12)
-//   x >= 20, n <= 1     Hankel's expansion of K (A&S 9.10.3)
+//   x >= 20, x >= n^2/2 Hankel's expansion of K (A&S 9.10.3)
 //   n <= 1              the continued fraction of K (Temme, 1975; Thompson and Barnett, 1987)
 //   1 < n < 160         upward recurrence
 //   n >= 160            Debye's expansion (A&S 9.7.8 for complex z)

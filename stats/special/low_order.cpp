@@ -26,12 +26,14 @@ double SmallSeries(double mu, double x) noexcept {
 // Temme (1976): Y(mu) = -sum c_k g_k, Y(mu+1) = -(2/x) sum c_k h_k, c_k = (-x^2/4)^k / k!.
 BesselPairs Series(double mu, double x) noexcept {
     const TemmeGamma gamma = TemmeGammaOf(mu);
-    const double logarithm = std::log(2 / x), sigma = mu * logarithm;
+    const double logarithm = LogTwoOver(x), sigma = mu * logarithm;
     const double angle = kPi * mu, half_sine = std::sin(0.5 * angle);
     const double reflect = std::fabs(angle) < 1e-8 ? 1 : angle / std::sin(angle);
     const double turn = std::fabs(mu) < 1e-150 ? 0 : 2 / mu * half_sine * half_sine;
-    const double power = std::exp(sigma);  // (x/2)^-mu
-    double f = kTwoOverPi * reflect * (std::cosh(sigma) * gamma.gamma1 + SinhRatio(sigma) * logarithm * gamma.gamma2);
+    const double power = std::pow(0.5 * x, -mu);
+    const Hyperbolic hyperbolic = HyperbolicOf(sigma, power);  // (x/2)^-mu
+    double f =
+        kTwoOverPi * reflect * (hyperbolic.cosine * gamma.gamma1 + hyperbolic.sine_ratio * logarithm * gamma.gamma2);
     double p = power * gamma.plus / kPi, q = gamma.minus / (power * kPi);
     const double z = -0.25 * x * x;
     double c = 1, y = f + turn * q, above = p;

@@ -20,7 +20,8 @@ double StirlingPower(double a, double v) noexcept {
     if (base == 0 || std::isinf(base)) return base;
     // e a exactly is numerator + (rounding) + kERest a.
     const double slip = std::fma(kE, a, -numerator) + kERest * a - std::fma(base, v, -numerator);
-    return std::pow(base, v) * std::exp(slip / numerator * v);
+    const double power = std::pow(base, v);
+    return power == 0 || std::isinf(power) ? power : power * std::exp(slip / numerator * v);
 }
 
 }  // namespace

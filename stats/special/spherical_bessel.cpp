@@ -10,21 +10,26 @@
 namespace quorvan {
 namespace {
 
-constexpr double kHalfPi = 1.5707963267948966;
+constexpr double kSqrtHalfPi = 1.2533141373155003;
 
 }  // namespace
 
 double SpecSphericalJ(std::uint32_t n, double x) noexcept {
     if (x == 0) return n == 0 ? 1 : 0;
     const double z = std::fabs(x);
-    if (n == 0 && z < 1e-8) return 1;  // where the square root would leave the range of doubles
-    const double value = std::sqrt(kHalfPi / z) * SpecBesselJ(n + 0.5, z);
+    double value;
+    if (z < 1e-8) {  // z^n / (2n + 1)!!, while J may have underflowed
+        value = 1;
+        for (std::uint32_t k = 1; k <= n && value != 0; ++k) value *= z / (2 * k + 1.0);
+    } else {
+        value = kSqrtHalfPi / std::sqrt(z) * SpecBesselJ(n + 0.5, z);
+    }
     return x < 0 && (n & 1) != 0 ? -value : value;
 }
 
 double SpecSphericalY(std::uint32_t n, double x) noexcept {
     if (x == 0) return -std::numeric_limits<double>::infinity();
-    return std::sqrt(kHalfPi / x) * SpecBesselY(n + 0.5, x);
+    return kSqrtHalfPi / std::sqrt(x) * SpecBesselY(n + 0.5, x);
 }
 
 }  // namespace quorvan

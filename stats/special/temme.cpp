@@ -21,6 +21,12 @@ TemmeGamma TemmeGammaOf(double mu) noexcept {
     return {gamma1, gamma2, 1 / (gamma2 - mu * gamma1), 1 / (gamma2 + mu * gamma1)};
 }
 
-double SinhRatio(double x) noexcept { return std::fabs(x) < 1e-8 ? 1 : std::sinh(x) / x; }
+double LogTwoOver(double x) noexcept { return x < 1e-300 ? 0.69314718055994531 - std::log(x) : std::log(2 / x); }
+
+Hyperbolic HyperbolicOf(double x, double power) noexcept {
+    const double cosine = 0.5 * (power + 1 / power);
+    if (std::fabs(x) > 1) return {cosine, 0.5 * (power - 1 / power) / x};
+    return {cosine, std::fabs(x) < 1e-8 ? 1 : std::sinh(x) / x};
+}
 
 }  // namespace quorvan
