@@ -44,6 +44,8 @@ Estimated Power(double v, double x) noexcept {
 }
 
 Estimated Asymptotic(double v, double x) noexcept {
+    // Below the order the terms, after a deceptive fall, grow to the size of Y.
+    if (x < v) return {0, kAbandoned};
     const double z = 4 / x / x;
     double sum = 1, term = 1, largest = 1, last = kInf;
     for (int k = 0; k < 200; ++k) {

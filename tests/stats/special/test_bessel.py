@@ -21,7 +21,7 @@ import scipy.special
 from mpmath import mpf
 
 U = 2.0**-53
-TESTED, PRINTED = 24, 300  # points of a region
+TESTED, PRINTED = 10, 100  # points of a region
 mpmath.mp.dps = 50
 LARGE = dict(maxprec=400000, maxterms=10**7)
 
@@ -98,7 +98,7 @@ def exact_y(v, x):
 
 @functools.lru_cache(maxsize=None)
 def by_recurrence(function, v, x):
-    """J or Y of a large order v < x from the orders beside 0; upwards both are stable there."""
+    """J or Y of a large order v from the orders beside 0: upwards Y always and J below x are stable."""
     steps = math.floor(v)
     mu, x = mpf(v) - steps, mpf(x)
     at, above = function(mu, x), function(mu + 1, x)
@@ -111,26 +111,52 @@ def exact_spherical(function):
     return lambda n, x: mpmath.sqrt(mpmath.pi / (2 * mpf(x))) * function(mpf(int(n)) + 0.5, mpf(x), **LARGE)
 
 
-def exact_i(v, x):
-    """(x/2)^v / Gamma(v+1) (1 + (x^2/4)/(v+1) + ...): few signs change below order 0, so little cancels."""
-    with mpmath.workdps(80):
-        v, x = mpf(v), mpf(x)
-        square, term = x * x / 4, mpf(1)
+def ascending_i(v, z):
+    """(z/2)^v / Gamma(v+1) (1 + (z^2/4)/(v+1) + ...), with digits to spare for what cancels off the positive axis."""
+    with mpmath.workdps(60 + int(abs(z) / 2)):
+        square, term = z * z / 4, mpf(1)
         total, k = term, 0
-        while k < abs(v) + 1 or abs(term) > abs(total) * mpmath.eps:
+        while k < abs(v) + 1 or abs(term) > abs(total) * mpf(10)**-60:
             k += 1
             term *= square / (k * (v + k))
             total += term
-        return (x / 2)**v * mpmath.rgamma(v + 1) * total
+        return (z / 2)**v * mpmath.rgamma(v + 1) * total
+
+
+def exact_i(v, x):
+    return ascending_i(mpf(v), mpf(x))
+
+
+@functools.lru_cache(maxsize=None)
+def low_k(n, z):
+    return mpmath.besselk(n, z)
+
+
+def upward_k(n, z):
+    """Upwards K of whole order is stable."""
+    at, above = low_k(0, z), low_k(1, z)
+    for k in range(1, n + 1):
+        at, above = above, 2 * k / z * above + at
+    return at
 
 
 def exact_k(n, x):
-    return mpmath.besselk(int(n), mpf(x), **LARGE)
+    return upward_k(int(n), mpf(x))
 
 
 def exact_struve(v, x):
-    with mpmath.workdps(80):
-        return mpmath.struveh(mpf(v), mpf(x), **LARGE)
+    """(x/2)^(v+1) / (Gamma(3/2) Gamma(v+3/2)) 1F2(1; 3/2, v+3/2; -x^2/4), likewise with digits to spare."""
+    with mpmath.workdps(70 + int(x / 2)):
+        v, x = mpf(v), mpf(x)
+        if v < 0 and v + 0.5 == mpmath.floor(v + 0.5):
+            return (-1)**int(-v - 0.5) * mpmath.besselj(-v, x)
+        square, term, k = x * x / 4, mpf(1), 0
+        total = term
+        while k < abs(v) + 1 or abs(term) > abs(total) * mpf(10)**-60:
+            term *= -square / ((k + 1.5) * (v + k + 1.5))
+            total += term
+            k += 1
+        return (x / 2)**(v + 1) * mpmath.rgamma(1.5) * mpmath.rgamma(v + 1.5) * total
 
 
 def turned(x):
@@ -138,11 +164,12 @@ def turned(x):
 
 
 def exact_be(x, n):
-    return mpmath.expjpi(mpf(int(n)) / 2) * mpmath.besseli(int(n), turned(x), **LARGE)
+    with mpmath.workdps(60 + int(x / 2)):
+        return mpmath.expjpi(mpf(int(n)) / 2) * ascending_i(int(n), turned(x))
 
 
 def exact_ke(x, n):
-    return mpmath.expjpi(-mpf(int(n)) / 2) * mpmath.besselk(int(n), turned(x), **LARGE)
+    return mpmath.expjpi(-mpf(int(n)) / 2) * upward_k(int(n), turned(x))
 
 
 # --- scales of the error -----------------------------------------------------------------------------------------------
@@ -278,7 +305,8 @@ region("SpecBesselI", "v in [500, 2000], x/v in [0.3, 0.8]", times(uniform(500, 
 region("SpecBesselI", "v in [-20, 0), x in (0, 100]", pairs(uniform(-20, -1e-3), between(1e-2, 100)), 60, size_of_i)
 region("SpecBesselI", "v in [-200, -20], x in [1, 300]", pairs(uniform(-200, -20), between(1, 300)), 100, size_of_i)
 for label, orders in (("n = 0", fixed(0)), ("n = 1", fixed(1)), ("n = 2 to 100", whole(2, 100)), ("n = 100 to 999", whole(100, 999))):
-    region("SpecBesselK", label + ", x in (0, 2]", pairs(orders, between(1e-2, 2)), 60, None, 1e-11)
+    if "999" not in label:
+        region("SpecBesselK", label + ", x in (0, 2]", pairs(orders, between(1e-2, 2)), 60, None, 1e-11)
     region("SpecBesselK", label + ", x in (2, 700]", pairs(orders, between(2, 700)), 60, None, 1e-11)
 region("SpecBesselK", "n = 1001 to 3000, x/n in [0.3, 0.9]", times(whole(1001, 3000), 0.3, 0.9), 8000)  # the exponent
 
@@ -324,7 +352,7 @@ def measure(qv, which, count):
     call, exact, witness = FUNCTIONS[which.function]
     exact = which.exact or exact
     seed = sum(map(ord, which.function + which.label))
-    points = which.points(np.random.default_rng(seed), max(6, count // which.slow))
+    points = which.points(np.random.default_rng(seed), max(4, count // which.slow))
     errors, worst, apart = [], None, 0.0
     for point in points:
         args = tuple(float(v) for v in point)
