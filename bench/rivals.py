@@ -199,7 +199,7 @@ SPECIAL = (
     ("bessel_k5", 0.1, 50.0, "f306(5, x)", "s.kn(5, x, out)"),
     ("struve", 0.1, 50.0, "f328(0.5, x)", "s.struve(0.5, x, out)"),
     ("struve_0", 0.1, 50.0, "f328(0.0, x)", "s.struve(0.0, x, out)"),
-    ("airy", -20.0, 20.0, "airy(x)", "s.airy(x, (out, *rest))"),
+    ("airy", -20.0, 20.0, "airy(x)", "s.airy(x, out=(out, *rest))"),
     ("kelvin_be", 0.1, 30.0, "kelvin(f333, x)", "s.ber(x, out)"),
     ("kelvin_ke", 0.1, 30.0, "kelvin(f334, x)", "s.ker(x, out)"),
 )

@@ -81,6 +81,7 @@ double PositiveBesselI(double v, double x) noexcept {
 }  // namespace
 
 double SpecBesselI(double order, double x) noexcept {
+    if (order == 0 && std::isfinite(x)) return TimesExp(ScaledBesselI0(x), std::fabs(x));
     if (std::isnan(order) || std::isnan(x)) return kNaN;
     if (order < kLeastOrder) return kNaN;
     if (std::isinf(order)) return std::isinf(x) || x < 0 ? kNaN : 0;

@@ -103,6 +103,8 @@ double PositiveBesselJ(double v, double x) noexcept {
 }
 
 double SpecBesselJ(double order, double x) noexcept {
+    if (order == 0) return SpecBesselJ0(x);
+    if (order == 1) return SpecBesselJ1(x);
     if (std::isnan(order) || std::isnan(x)) return kNaN;
     if (std::isinf(order)) return order > 0 && std::isfinite(x) && x >= 0 ? 0 : kNaN;
     const bool whole = order == std::floor(order);

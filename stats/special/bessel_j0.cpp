@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/targets.h"
 #include "frame/types.h"
 #include "stats/special/polynomial.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kSqrtOneOverPi = 0.56418958354775628695;
+constexpr double kOneOverFivePi = 0.063661977236758134308;
 constexpr double kTwoOverPi = 0.63661977236758134308;
 
 // Cephes Math Library, S. L. Moshier: j0.
@@ -50,20 +51,21 @@ struct Large {
 
 // x > 5. Cosine and sine of the phase come from those of x itself, so that a large x loses nothing by a subtraction;
 // the factor sqrt(1/2) of the eighth turn is in the constant.
-Large LargeJY(double x) noexcept {
+QV_INLINE Large LargeJY(double x) noexcept {
     const double w = 5 / x, q = w * w;
-    const double p = Polynomial(q, kPP) / Polynomial(q, kPQ);
-    const double r = w * Polynomial(q, kQP) / MonicPolynomial(q, kQQ);
+    // P = p/d and Q = r/d over their common denominator.
+    const double p_below = Polynomial(q, kPQ), r_below = MonicPolynomial(q, kQQ);
+    const double p = Polynomial(q, kPP) * r_below, r = w * Polynomial(q, kQP) * p_below;
     const double sine = std::sin(x), cosine = std::cos(x);
     const double c = cosine + sine, s = sine - cosine;
-    const double factor = kSqrtOneOverPi / std::sqrt(x);
+    const double factor = std::sqrt(w * kOneOverFivePi) / (p_below * r_below);  // sqrt(1/(pi x))
     return {(p * c - r * s) * factor, (p * s + r * c) * factor};
 }
 
 }  // namespace
 
 double SpecBesselJ0(double x) noexcept {
-    x = std::fabs(x);
+    if (x < 0) x = -x;  // not fabs, which the compiler takes from the cosine only: it would part the pair of calls
     if (x <= 5) return x < 1e-5 ? 1 - x * x / 4 : SmallJ(x * x);
     return x == kInf ? 0 : LargeJY(x).j;
 }

@@ -121,6 +121,7 @@ double SpecBesselK(std::uint32_t n, double x) noexcept {
     if (std::isnan(x) || x < 0) return kNaN;
     if (x == 0) return kInf;
     if (x == kInf) return 0;
+    if (n <= 1) return TimesExp(n == 0 ? ScaledBesselK0(x) : ScaledBesselK1(x), -x);
     return PositiveBesselK(n, x);
 }
 

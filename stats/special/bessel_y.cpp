@@ -60,6 +60,8 @@ double BesselYOfRealOrder(double v, double x) noexcept {
 }
 
 double SpecBesselY(double order, double x) noexcept {
+    if (order == 0) return SpecBesselY0(x);
+    if (order == 1) return SpecBesselY1(x);
     if (std::isnan(order) || std::isnan(x)) return kNaN;
     if (order < kLeastOrder || x < 0) return kNaN;
     if (std::isinf(order)) return std::isinf(x) ? kNaN : -kInf;

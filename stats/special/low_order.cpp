@@ -89,6 +89,10 @@ BesselPairs Middle(double mu, double x) noexcept {
 }  // namespace
 
 BesselPairs LowOrderPairs(double mu, double x) noexcept {
+    if (mu == -0.5) {  // in closed form
+        const double factor = std::sqrt(kTwoOverPi) / std::sqrt(x), s = factor * std::sin(x), c = factor * std::cos(x);
+        return {{c, s}, {s, -c}};
+    }
     if (x < 2) return Series(mu, x);
     if (x < 20) return Middle(mu, x);
     return {HankelPair(mu, x), HankelPair(mu + 1, x)};

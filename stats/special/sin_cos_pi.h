@@ -14,7 +14,7 @@ struct SineCosine {
 // sin(pi v) and cos(pi v), reduced before the product: exact zeros and ones where the true values are.
 inline SineCosine SinCosPi(double v) noexcept {
     const double r = std::fmod(v, 2), quarters = std::nearbyint(2 * r), f = kPi * (r - 0.5 * quarters);
-    const double s = std::sin(f), c = std::cos(f);
+    const double s = f == 0 ? 0 : std::sin(f), c = f == 0 ? 1 : std::cos(f);
     switch (static_cast<int>(quarters) & 3) {
         case 0: return {s, c};
         case 1: return {c, 0 - s};

@@ -6,6 +6,7 @@ namespace quorvan {
 
 double TimesExp(double value, double x, int exponent) noexcept {
     constexpr double kLn2 = 6.93147180369123816490e-1, kLn2Rest = 1.90821492927058770002e-10;  // kLn2 has 32 bits
+    if (std::fabs(x) < 600 && exponent == 0) return value * std::exp(x);
     if (std::isnan(x)) return x;
     if (value == 0) return value;
     if (x > 1e6) x = 1e6;  // far beyond any other factor; whole multiples of kLn2 stay exact
