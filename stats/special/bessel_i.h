@@ -14,6 +14,8 @@ namespace quorvan {
 //   at the
 //                               fraction of the order
 //   broken v < 0                I(-v) - (2/pi) sin(pi v) K(-v)
+// Peaks: 1.3e-15 for |v| <= 64, 2.2e-15 to 500; above, the rounding of Debye's exponent, 6e-13 to v = 2000. For broken
+// orders below 0 relative to the larger of I(v) and I(-v).
 // After the Cephes Math Library, S. L. Moshier: iv, i0, i1.
 double SpecBesselI(double order, double x) noexcept;
 

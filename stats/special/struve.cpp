@@ -70,7 +70,11 @@ Estimated Asymptotic(double v, double x) noexcept {
 double BesselSeries(double v, double x) noexcept {
     constexpr double kLarge = 0x1p500;
     const double reach = 20 + 0.5 * (std::sqrt(v * v + 10 * x * x) - v);
-    if (!(reach < 20000)) return kNaN;
+    if (reach > 20000) {  // then almost every value is out of the range of doubles
+        const double leading = PowerOverGamma(x, v + 0.5);
+        if (leading == 0 || std::isinf(leading)) return leading;
+        if (!(reach < 1e6)) return kNaN;
+    }
     double above = 0, at = 1, weight = 1, sum = 0;
     for (int k = static_cast<int>(reach); k > 0; --k) {
         sum += weight * at / (k + 0.5);

@@ -482,6 +482,14 @@ TEST(SpecStruve, HasNoStepAtItsCuts) {
     }
 }
 
+TEST(SpecStruve, LeavesTheRangeOfDoublesForHugeOrders) {
+    EXPECT_EQ(Struve(1e5, 5e4), 0);
+    EXPECT_EQ(Struve(1e5, 1e5 - 1), kInf);
+    EXPECT_EQ(Struve(1e300, 1), 0);
+    EXPECT_EQ(Struve(1e10, 1e9), 0);
+    EXPECT_EQ(Struve(1e10, 9e9), kInf);
+}
+
 TEST(SpecStruve, FollowsItsRecurrence) {
     // H(v-1) + H(v+1) = (2v/x) H(v) + (x/2)^v / (sqrt pi Gamma(v + 3/2))  (A&S 12.1.9)
     for (double v : {0.0, 0.75, 3.0, 12.5, 60.0}) {
