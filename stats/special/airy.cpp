@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "frame/types.h"
+#include "stats/special/double_double.h"
 #include "stats/special/polynomial.h"
 
 namespace quorvan {
@@ -121,6 +122,23 @@ AiryValues Maclaurin(double x) noexcept {
             kSqrt3 * (kC1 * slope_f + kC2 * slope_g)};
 }
 
+// Ai for 0.5 < x <= 2.09, where c1 f and c2 g cancel by up to 35: the same sums in double-doubles.
+double CancelledAi(double x) noexcept {
+    constexpr DoubleDouble kFirst{0.3550280538878172, 2.05233632436212e-17},
+        kSecond{-0.2588194037928068, 2.522243111610832e-17};  // Ai(0), Ai'(0)
+    const DoubleDouble z = ExactProduct(x, x) * DoubleDouble{x, 0};
+    DoubleDouble f{1, 0}, g{x, 0}, term_f = f, term_g = g;
+    double k = 1;
+    do {
+        term_f = term_f * z / DoubleDouble{(k + 1) * (k + 2), 0};
+        term_g = term_g * z / DoubleDouble{(k + 2) * (k + 3), 0};
+        f = f + term_f;
+        g = g + term_g;
+        k += 3;
+    } while (term_f.high > 1e-20 || term_g.high > 1e-20);
+    return (kFirst * f + kSecond * g).high;
+}
+
 // x > 2.09: Ai, and from 8.32 on Bi, whose part of `out` is else left as it is.
 void Exponential(double x, double zeta, double zeta_rest, AiryValues* out) noexcept {
     const double root = std::sqrt(std::sqrt(x)), z = 1 / zeta;
@@ -146,7 +164,11 @@ double Zeta(double a, double* rest) noexcept {
 AiryValues Everywhere(double x) noexcept {
     if (std::isnan(x)) return {kNaN, kNaN, kNaN, kNaN};
     if (x > kLimit) return {0, kInf, -0.0, kInf};
-    if (std::fabs(x) <= kCut) return Maclaurin(x);
+    if (std::fabs(x) <= kCut) {
+        AiryValues out = Maclaurin(x);
+        if (x > 0.5) out.ai = CancelledAi(x);
+        return out;
+    }
     if (x < -1e200) return {0, 0, 0, 0};  // (-x)^(3/2) would overflow; the phase is long lost
     double rest;
     const double zeta = Zeta(std::fabs(x), &rest);

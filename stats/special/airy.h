@@ -12,7 +12,8 @@ struct AiryValues {
 //   x < -2.09       sines and cosines of zeta + pi/4, zeta = (2/3) |x|^(3/2), with rational amplitudes in 1/zeta^2
 //                   peak 3.4e-16 of the envelope
 //   |x| <= 2.09     Ai = c1 f - c2 g, Bi = sqrt 3 (c1 f + c2 g), the Maclaurin series (A&S 10.4.2 to 10.4.5)
-//                   peak 1.3e-15 below 0; above, Ai 1.1e-14 (two terms that cancel by up to 35), Bi 4.1e-16
+//                   peak 1.3e-15 below 0; above, Bi 4.1e-16, and Ai 4.9e-16, from 0.5 on in
+//                   double-doubles, as c1 f and c2 g cancel by up to 35
 //   x > 2.09        Ai = e^-zeta / (2 sqrt pi x^(1/4)) times a rational function of 1/zeta; Bi by the series to
 //                   8.3203353, by e^zeta / (sqrt pi x^(1/4)) from there
 //                   peak 4.7e-16, of Bi's series 1.3e-15
