@@ -502,6 +502,120 @@ QV_API QvStatus ZemFunc30(double* x, int64_t n, double upper, double lower, doub
 
 /** @} */
 
+/** @defgroup bessel Bessel, Airy, Struve and Kelvin functions
+ * Functions of a real argument, returned as the value itself or written to the caller's doubles: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN in every result.
+ * The accuracy, region by region, stands in docs/accuracy.md.
+ * @{
+ */
+
+/**
+ * SpecBesselJ.
+ * The Bessel function of the first kind J of real order. Series, recurrences and expansions for large argument or order.
+ * Whole orders take negative orders and arguments by parity; other orders give NaN for x < 0.
+ * At 0: 1 for order 0, 0 for higher and for whole orders, an infinity for others below 0. At infinity 0.
+ * @param order any real number
+ * @param x any for a whole order, at least 0 for others
+ * @code
+ * double j = QvSpecBesselJ(0.5, 2.0), y = QvSpecBesselY(1.0, 2.0);
+ * @endcode
+ */
+QV_API double ZemFunc302(double order, double x);
+#define QvSpecBesselJ ZemFunc302
+
+/**
+ * SpecBesselY.
+ * The Bessel function of the second kind Y of real order, (cos(pi v) J(v) - J(-v)) / sin(pi v), in its limit for whole v.
+ * NaN for orders below -200 and for x < 0; -Inf at 0, 0 at infinity.
+ * @param order at least -200; taken as whole within 1e-8 of a whole number
+ * @param x at least 0
+ */
+QV_API double ZemFunc301(double order, double x);
+#define QvSpecBesselY ZemFunc301
+
+/**
+ * SpecSphericalJ.
+ * The spherical Bessel function j, sqrt(pi / (2 x)) J(n + 1/2, x); order 0 is sin(x) / x. Negative x by parity.
+ * At 0: 1 for order 0, else 0. At infinity 0.
+ * @param n the order
+ * @param x any
+ */
+QV_API double ZemFunc303(uint32_t n, double x);
+#define QvSpecSphericalJ ZemFunc303
+
+/**
+ * SpecSphericalY.
+ * The spherical Bessel function y, sqrt(pi / (2 x)) Y(n + 1/2, x). NaN for x < 0, -Inf at 0, 0 at infinity.
+ * @param n the order
+ * @param x at least 0
+ */
+QV_API double ZemFunc304(uint32_t n, double x);
+#define QvSpecSphericalY ZemFunc304
+
+/**
+ * SpecBesselI.
+ * The modified Bessel function of the first kind I of real order; I(-n) = I(n) for whole orders.
+ * NaN for orders below -200, and for x < 0 unless the order is whole. At 0: 1 for order 0, else 0, also for orders below 0.
+ * @param order at least -200
+ * @param x any for a whole order, at least 0 for others
+ */
+QV_API double ZemFunc305(double order, double x);
+#define QvSpecBesselI ZemFunc305
+
+/**
+ * SpecBesselK.
+ * The modified Bessel function of the second kind K of whole order, by recurrence from orders 0 and 1.
+ * NaN for x < 0, +Inf at 0, 0 at infinity.
+ * @param n the order
+ * @param x at least 0
+ */
+QV_API double ZemFunc306(uint32_t n, double x);
+#define QvSpecBesselK ZemFunc306
+
+/**
+ * SpecStruve.
+ * The Struve function H, by its power series, its expansion for large x, or the one with the smaller estimate of its error.
+ * Whole orders take negative x by parity; other orders give NaN for x < 0. At 0 and at infinity the limit.
+ * @param order any real number
+ * @param x any for a whole order, at least 0 for others
+ */
+QV_API double ZemFunc328(double order, double x);
+#define QvSpecStruve ZemFunc328
+
+/**
+ * SpecAiry.
+ * The two Airy functions. Above 103.892 Ai is 0 and Bi +Inf; at -Inf both are 0.
+ * @param x any
+ * @param ai written: the Airy function Ai(x)
+ * @param bi written: the Airy function Bi(x)
+ */
+QV_API void ZemFunc330(double x, double* ai, double* bi);
+#define QvSpecAiry ZemFunc330
+
+/**
+ * SpecKelvinBe.
+ * The Kelvin functions ber and bei of order n: ber + i bei = J(n, x e^(3 pi i / 4)).
+ * At 0: ber is 1 for n = 0, else 0, and bei 0. NaN at infinity, where they oscillate and grow.
+ * @param x any; negative by parity
+ * @param n the order
+ * @param out written: real part ber, imaginary part bei
+ */
+QV_API void ZemFunc333(double x, uint32_t n, QvComplex* out);
+#define QvSpecKelvinBe ZemFunc333
+
+/**
+ * SpecKelvinKe.
+ * The Kelvin functions ker and kei of order n: ker + i kei = e^(-n pi i / 2) K(n, x e^(pi i / 4)).
+ * At 0: ker is +Inf, and kei has its limit, -pi/4 for n = 0. NaN for x < 0; both are 0 at infinity.
+ * @param x at least 0
+ * @param n the order
+ * @param out written: real part ker, imaginary part kei
+ */
+QV_API void ZemFunc334(double x, uint32_t n, QvComplex* out);
+#define QvSpecKelvinKe ZemFunc334
+
+/** @} */
+
 /** @defgroup complex Complex arithmetic
  * Complex numbers as pairs of doubles, real part first: arguments by value, results by address. Complex arrays are
  * split: one array of real parts, one of imaginary parts.
