@@ -288,8 +288,6 @@ SPECIAL = (
     ("hyperg_2f1", -0.9, 0.9, "f386(x, 1.3, 0.4, 2.7)", "s.hyp2f1(1.3, 0.4, 2.7, x, out)"),
     ("hyperg_2f1_t", -0.9, 0.9, "f315(x, 1.3, 0.4, 2.7)", "s.hyp2f1(1.3, 0.4, 2.7, x, out)"),
     ("parabolic", 0.0, 2.0, "f327(x, 0.5)", "s.pbdv(0.5, x, out, more[0])"),
-
-
     ("bessel_j0", 0.1, 50.0, "f302(0.0, x)", "s.j0(x, out)"),
     ("bessel_y0", 0.1, 50.0, "f301(0.0, x)", "s.y0(x, out)"),
     ("bessel_j1", 0.1, 50.0, "f302(1.0, x)", "s.j1(x, out)"),
@@ -307,13 +305,14 @@ SPECIAL = (
     ("bessel_k5", 0.1, 50.0, "f306(5, x)", "s.kn(5, x, out)"),
     ("struve", 0.1, 50.0, "f328(0.5, x)", "s.struve(0.5, x, out)"),
     ("struve_0", 0.1, 50.0, "f328(0.0, x)", "s.struve(0.0, x, out)"),
-    ("airy", -20.0, 20.0, "airy(x)", "s.airy(x, out=(out, *rest))"),
-    ("kelvin_be", 0.1, 30.0, "kelvin(f333, x)", "s.ber(x, out)"),
-    ("kelvin_ke", 0.1, 30.0, "kelvin(f334, x)", "s.ker(x, out)"),
+    ("airy", -20.0, 20.0, "first(f330, 2, x)", "s.airy(x, out=(out, *more))"),
+    ("kelvin_be", 0.1, 30.0, "first(f333, 2, x, 0)", "s.ber(x, out)"),
+    ("kelvin_ke", 0.1, 30.0, "first(f334, 2, x, 0)", "s.ker(x, out)"),
 )
-SPECIAL_TYPES = {309: "dp", 312: "d", 313: "d", 307: "ddp", 329: "d", 315: "dddd", 316: "ddd", 317: "ddd", 318: "dp",
-                 319: "dp", 320: "d", 321: "dc", 322: "d", 323: "d", 324: "d", 325: "d", 327: "dd", 331: "dpp",
-                 332: "ddpppp", 386: "dddd"}
+SPECIAL_TYPES = {301: "dd", 302: "dd", 303: "cd", 304: "cd", 305: "dd", 306: "cd", 307: "ddp", 309: "dp", 312: "d",
+                 313: "d", 315: "dddd", 316: "ddd", 317: "ddd", 318: "dp", 319: "dp", 320: "d", 321: "dc", 322: "d",
+                 323: "d", 324: "d", 325: "d", 327: "dd", 328: "dd", 329: "d", 330: "dpp", 331: "dpp", 332: "ddpppp",
+                 333: "dcp", 334: "dcp", 386: "dddd"}
 SPECIAL_TOLERANCE = {"parabolic": 1e-7, "hyperg_u": 1e-6}  # Quorvan's short Gamma series; SciPy's errors
 SPECIAL_POINTS = 1000
 
@@ -323,36 +322,15 @@ def special_times(library, effort):
     functions = {f"f{number}": library.call(number, types, ctypes.c_double) for number, types in SPECIAL_TYPES.items()}
 
     def first(function, outputs, *arguments):
-        values = [ctypes.c_double() for _ in range(outputs)]
-        function(*arguments, *map(ctypes.byref, values))
-        return values[0].value
+        values = (ctypes.c_double * outputs)()
+        function(*arguments, *(ctypes.byref(values, 8 * k) for k in range(outputs)))
+        return values[0]
 
     functions["first"] = first
     functions["double"] = lambda value: ctypes.byref(ctypes.c_double(value))
     for name, start, end, quorvan, statement in SPECIAL:
         x, out = np.linspace(start, end, SPECIAL_POINTS), np.empty(SPECIAL_POINTS)
         names = dict(s=scipy.special, x=x, out=out, more=[np.empty(SPECIAL_POINTS) for _ in range(3)])
-
-
-    functions = {f"f{number}": library.call(number, types, ctypes.c_double)
-                 for number, types in ((309, "dp"), (312, "d"), (313, "d"), (307, "ddp"), (329, "d"), (301, "dd"), (302, "dd"),
-                                       (303, "cd"), (304, "cd"), (305, "dd"), (306, "cd"), (328, "dd"), (330, "dpp"),
-                                       (333, "dcp"), (334, "dcp"))}
-    two = np.zeros(2)
-
-    def airy(x):
-        functions["f330"](x, address(two), address(two[1:]))
-        return two[0]
-
-    def kelvin(function, x):
-        function(x, 0, address(two))
-        return two[0]
-
-    functions.update(airy=airy, kelvin=kelvin)
-    functions["double"] = lambda value: ctypes.byref(ctypes.c_double(value))
-    for name, start, end, quorvan, statement in SPECIAL:
-        x, out = np.linspace(start, end, SPECIAL_POINTS), np.empty(SPECIAL_POINTS)
-        names = dict(s=scipy.special, x=x, out=out, rest=np.empty((3, SPECIAL_POINTS)))
         exec(statement, names)
         ours = np.array([eval(quorvan, dict(functions, x=value)) for value in x])
         tolerance = SPECIAL_TOLERANCE.get(name, 1e-9)
