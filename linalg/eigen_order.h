@@ -61,6 +61,28 @@ inline bool OutOfOrder(const Eigenvalues& values, EigenOrder order, Count i, Cou
     return (first > second && b1 * b2 > 0) || (second > first && b1 * b2 < 0) || (b1 == 0 && first != 0);
 }
 
+inline void Scale(double* x, std::size_t count, double factor) noexcept {
+    for (std::size_t i = 0; factor != 1 && i < count; ++i) x[i] *= factor;
+}
+inline void Scale(ComplexRecord* x, std::size_t count, double factor) noexcept { Scale(&x->re, 2 * count, factor); }
+
+// The provider's exchanges take what is near the smallest doubles for zero. A matrix of such elements is multiplied by
+// a power of two, which is returned; any other stays, and 1 is returned.
+inline double Lift(double* x, std::size_t count) noexcept {
+    constexpr double kTiny = 0x1p-600, kLift = 0x1p+500;
+    for (std::size_t i = 0; i < count; ++i)
+        if (std::fabs(x[i]) > kTiny) return 1;
+    Scale(x, count, kLift);
+    return kLift;
+}
+// Of an n by n matrix.
+inline double Lifted(double* matrix, Count n) noexcept {
+    return Lift(matrix, static_cast<std::size_t>(n) * static_cast<std::size_t>(n));
+}
+inline double Lifted(ComplexRecord* matrix, Count n) noexcept {
+    return Lift(&matrix->re, 2 * static_cast<std::size_t>(n) * static_cast<std::size_t>(n));
+}
+
 // Makes two real eigenvalues of each pair whose imaginary part is rounding alone, both beside its real part and beside
 // all eigenvalues together. `t` is column-major, quasi-triangular.
 inline void FlattenPairs(Eigenvalues& values, double* t) noexcept {

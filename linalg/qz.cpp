@@ -1,6 +1,7 @@
 #include "linalg/qz.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "frame/complex.h"
@@ -118,9 +119,46 @@ Status FactorInSteps(const T* a, const T* b, Pencil<T>& pencil) noexcept {
     return Iterate(pencil);
 }
 
+// What turns d into its modulus.
+double Turn(double d) noexcept { return d < 0 ? -1.0 : 1.0; }
+ComplexRecord Turn(ComplexRecord d) noexcept {
+    const double modulus = provider::QV_LAPACK(dlapy2)(&d.re, &d.im);
+    return modulus > 0 ? ComplexRecord{d.re / modulus, -(d.im / modulus)} : ComplexRecord{1, 0};
+}
+
+double Times(double x, double y) noexcept { return x * y; }
+ComplexRecord Times(ComplexRecord x, ComplexRecord y) noexcept { return CxMultiply(x, y); }
+double Conjugate(double x) noexcept { return x; }
+ComplexRecord Conjugate(ComplexRecord x) noexcept { return CxConj(x); }
+double Modulus(double x) noexcept { return std::fabs(x); }
+ComplexRecord Modulus(ComplexRecord x) noexcept { return {provider::QV_LAPACK(dlapy2)(&x.re, &x.im), 0.0}; }
+double ImaginaryPart(double) noexcept { return 0; }
+double ImaginaryPart(ComplexRecord z) noexcept { return z.im; }
+
+// Exchanges leave diagonal elements of T that are negative or complex. As from the factorisation, they become real and
+// not negative: the rows of S and T turn, the columns of Q turn back.
+template <class T>
+void MakeDiagonalPositive(Pencil<T>& pencil) noexcept {
+    const auto n = static_cast<std::size_t>(pencil.n);
+    for (std::size_t k = 0; k < n; ++k) {
+        T& diagonal = pencil.t[k + k * n];
+        if (RealPart(diagonal) >= 0 && ImaginaryPart(diagonal) == 0) continue;
+        const T turn = Turn(diagonal), back = Conjugate(turn);
+        for (std::size_t j = k == 0 ? 0 : k - 1; j < n; ++j) {
+            pencil.s[k + j * n] = Times(pencil.s[k + j * n], turn);
+            if (j > k) pencil.t[k + j * n] = Times(pencil.t[k + j * n], turn);
+        }
+        diagonal = Modulus(diagonal);
+        for (std::size_t i = 0; pencil.q && i < n; ++i) pencil.q[i + k * n] = Times(pencil.q[i + k * n], back);
+    }
+}
+
 template <class T>
 Status Sort(Pencil<T>& pencil, EigenOrder order) noexcept {
     if (order == EigenOrder::kAsProduced) return status::kSuccess;
+    const double liftS = Lifted(pencil.s.get(), pencil.n), liftT = Lifted(pencil.t.get(), pencil.n);
+    Scale(pencil.values.re, 2 * static_cast<std::size_t>(pencil.n), liftS);  // and im, behind it
+    Scale(pencil.values.beta, static_cast<std::size_t>(pencil.n), liftT);
     if constexpr (!kIsComplex<T>) {
         FlattenPairs(pencil.values, pencil.s);
         pencil.lwork = WorkspaceSize<T>([&](T* work, Count query) {
@@ -130,6 +168,11 @@ Status Sort(Pencil<T>& pencil, EigenOrder order) noexcept {
         if (!pencil.work) return status::kOutOfMemory;
     }
     const Count info = SortEigenvalues(pencil.values, order, pencil);
+    MakeDiagonalPositive(pencil);
+    Scale(pencil.s.get(), Elements(pencil.n, pencil.n), 1 / liftS);
+    Scale(pencil.t.get(), Elements(pencil.n, pencil.n), 1 / liftT);
+    Scale(pencil.values.re, 2 * static_cast<std::size_t>(pencil.n), 1 / liftS);
+    Scale(pencil.values.beta, static_cast<std::size_t>(pencil.n), 1 / liftT);
     return StatusOf(info, {status::kAlgorithmFailure, status::kEigenvaluesTooClose});
 }
 

@@ -97,8 +97,12 @@ Status MatSchur(const T* a, Count n, std::uint32_t order, T* vectors, T* t, Comp
 
     Status status = status::kSuccess;
     if (order != 0) {
+        const double lift = Lifted(form.t.get(), n);
+        Scale(form.values.re, 2 * static_cast<std::size_t>(n), lift);  // and im, behind it
         if constexpr (SchurForm<T>::kPairs) FlattenPairs(form.values, form.t);
         if (SortEigenvalues(form.values, EigenOrder{order}, form) != 0) status = status::kWarnNotReordered;
+        Scale(form.t.get(), Elements(n, n), 1 / lift);
+        Scale(form.values.re, 2 * static_cast<std::size_t>(n), 1 / lift);
     }
     TransposeTo(form.t.get(), n, n, t);
     if (vectors) TransposeTo(form.q.get(), n, n, vectors);

@@ -17,7 +17,7 @@ def frank(n):
     return np.where(j < i - 1, 0, n - np.maximum(i, j)).astype(float)
 
 
-def kahan(n, angle=1.2):
+def kahan(n, angle=0.6):
     s, c = np.sin(angle), np.cos(angle)
     return np.diag(s ** np.arange(n)) @ (np.eye(n) - c * np.triu(np.ones((n, n)), 1))
 
@@ -45,7 +45,7 @@ SQUARE = {
     "scalar": np.array([[-3.0]]),
     "hilbert": scipy.linalg.hilbert(12),
     "frank": frank(12),
-    "kahan": kahan(15),
+    "kahan": kahan(20),
     "grcar": grcar(20),
     "companion": scipy.linalg.companion(np.poly(np.arange(1, 9))),
     "jordan": np.eye(9, k=1) + 2 * np.eye(9),

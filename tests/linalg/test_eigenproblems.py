@@ -90,7 +90,7 @@ def symmetric_of(a):
 def test_symmetric_eigenvectors_are_orthonormal_with_small_residuals(qv, a):
     a = symmetric_of(a)
     n = len(a)
-    noisy = np.triu(a) + np.tril(random(n, n, a.dtype.type, 20), -1)
+    noisy = np.triu(a) + np.tril(random(n, n, complex if a.dtype == complex else float, 20), -1)
     vectors = np.empty((n, n), a.dtype)
     values, alone = np.empty(n, a.dtype), np.empty(n, a.dtype)
     if a.dtype == complex:
