@@ -59,6 +59,32 @@ QV_PROVIDER(double, d, or)
 QV_PROVIDER(ComplexRecord, z, un)
 #undef QV_PROVIDER
 
+// C = op(A)·op(B) on row-major matrices, C m by n and the inner size k.
+inline void Gemm(provider::Transposition opA, provider::Transposition opB, Count m, Count n, Count k, const double* a,
+                 Count lda, const double* b, Count ldb, double* c, Count ldc, double beta = 0) noexcept {
+    provider::cblas_dgemm(provider::Order::kRowMajor, opA, opB, m, n, k, 1.0, a, lda, b, ldb, beta, c, ldc);
+}
+inline void Gemm(provider::Transposition opA, provider::Transposition opB, Count m, Count n, Count k,
+                 const ComplexRecord* a, Count lda, const ComplexRecord* b, Count ldb, ComplexRecord* c, Count ldc,
+                 double beta = 0) noexcept {
+    const ComplexRecord one{1, 0}, scale{beta, 0};
+    provider::cblas_zgemm(provider::Order::kRowMajor, opA, opB, m, n, k, &one, a, lda, b, ldb, &scale, c, ldc);
+}
+
+// The Euclidean length, scaled against overflow.
+inline double Nrm2(Count n, const double* x) noexcept { return provider::cblas_dnrm2(n, x, 1); }
+inline double Nrm2(Count n, const ComplexRecord* x) noexcept { return provider::cblas_dznrm2(n, x, 1); }
+
+// y = A·x on a row-major m by n matrix.
+inline void Gemv(Count m, Count n, const double* a, const double* x, double* y) noexcept {
+    provider::cblas_dgemv(provider::Order::kRowMajor, provider::Transposition::kNone, m, n, 1.0, a, n, x, 1, 0.0, y, 1);
+}
+inline void Gemv(Count m, Count n, const ComplexRecord* a, const ComplexRecord* x, ComplexRecord* y) noexcept {
+    const ComplexRecord one{1, 0}, zero{0, 0};
+    provider::cblas_zgemv(provider::Order::kRowMajor, provider::Transposition::kNone, m, n, &one, a, n, x, 1, &zero, y,
+                          1);
+}
+
 template <class T>
 Count Getrf(Count m, Count n, T* a, Count lda, Count* pivots) noexcept {
     Count info = 0;
@@ -70,6 +96,19 @@ template <class T>
 Count Getri(Count n, T* a, Count lda, const Count* pivots, T* work, Count lwork) noexcept {
     Count info = 0;
     Provider<T>::getri(&n, a, &lda, pivots, work, &lwork, &info);
+    return info;
+}
+
+inline Count Gesv(Count n, Count nrhs, double* a, Count lda, Count* pivots, double* b, Count ldb) noexcept {
+    Count info = 0;
+    provider::QV_LAPACK(dgesv)(&n, &nrhs, a, &lda, pivots, b, &ldb, &info);
+    return info;
+}
+
+inline Count Gelsd(Count m, Count n, Count nrhs, double* a, Count lda, double* b, Count ldb, double* s, double rcond,
+                   Count* rank, double* work, Count lwork, Count* iwork) noexcept {
+    Count info = 0;
+    provider::QV_LAPACK(dgelsd)(&m, &n, &nrhs, a, &lda, b, &ldb, s, &rcond, rank, work, &lwork, iwork, &info);
     return info;
 }
 

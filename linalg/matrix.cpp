@@ -27,12 +27,12 @@ void Store(double* to, Pair v) noexcept { std::memcpy(to, &v, sizeof v); }
 
 // A whole tile of reals goes through registers, two by two.
 struct PlainReal {
-    void tile(const double* a, Rows n, double* out, Rows m) const noexcept {
+    void tile(const double* a, Rows lda, double* out, Rows ldo) const noexcept {
         for (Rows j = 0; j < kTile; j += 2)
             for (Rows i = 0; i < kTile; i += 2) {
-                const Pair upper = Load(a + i * n + j), lower = Load(a + (i + 1) * n + j);
-                Store(out + j * m + i, Pair{upper[0], lower[0]});
-                Store(out + (j + 1) * m + i, Pair{upper[1], lower[1]});
+                const Pair upper = Load(a + i * lda + j), lower = Load(a + (i + 1) * lda + j);
+                Store(out + j * ldo + i, Pair{upper[0], lower[0]});
+                Store(out + (j + 1) * ldo + i, Pair{upper[1], lower[1]});
             }
     }
     double operator()(double v) const noexcept { return v; }
@@ -41,9 +41,9 @@ struct PlainReal {
 // A record fills a register by itself.
 template <class Element>
 struct RecordTile {
-    void tile(const ComplexRecord* a, Rows n, ComplexRecord* out, Rows m) const noexcept {
+    void tile(const ComplexRecord* a, Rows lda, ComplexRecord* out, Rows ldo) const noexcept {
         for (Rows j = 0; j < kTile; ++j)
-            for (Rows i = 0; i < kTile; ++i) out[j * m + i] = Element::Of(a[i * n + j]);
+            for (Rows i = 0; i < kTile; ++i) out[j * ldo + i] = Element::Of(a[i * lda + j]);
     }
     ComplexRecord operator()(ComplexRecord v) const noexcept { return Element::Of(v); }
 };
@@ -59,18 +59,18 @@ using Conjugated = RecordTile<Conjugate>;
 Rows Least(Rows a, Rows b) noexcept { return a < b ? a : b; }
 
 template <class T, class Element>
-void Transpose(const T* a, Rows m, Rows n, T* out, Element element) noexcept {
+void Transpose(const T* a, Rows m, Rows n, Rows lda, T* out, Rows ldo, Element element) noexcept {
     for (Rows strip = 0; strip < n; strip += kStrip) {
         const Rows end = Least(n, strip + kStrip);
         for (Rows i = 0; i < m; i += kTile) {
             for (Rows j = strip; j < end; j += kTile) {
                 if (i + kTile <= m && j + kTile <= n) {
-                    element.tile(a + i * n + j, n, out + j * m + i, m);
+                    element.tile(a + i * lda + j, lda, out + j * ldo + i, ldo);
                     continue;
                 }
                 for (Rows column = j; column < Least(n, j + kTile); ++column)
                     for (Rows row = i; row < Least(m, i + kTile); ++row)
-                        out[column * m + row] = element(a[row * n + column]);
+                        out[column * ldo + row] = element(a[row * lda + column]);
             }
         }
     }
@@ -80,12 +80,12 @@ template <class T, class Element>
 Status TransposeOutOrIn(T* a, Count m, Count n, T* out, Element element) noexcept {
     if (m < 1 || n < 1) return status::kSamplesNotPositive;
     if (out && out != a) {
-        Transpose<T>(a, m, n, out, element);
+        Transpose<T>(a, m, n, n, out, m, element);
         return status::kSuccess;
     }
     const ProviderBlock<T> copy = Copied(a, m, n);
     if (!copy) return status::kOutOfMemory;
-    Transpose<T>(copy, m, n, a, element);
+    Transpose<T>(copy, m, n, n, a, m, element);
     return status::kSuccess;
 }
 
@@ -100,14 +100,22 @@ bool MatScreen(const ComplexRecord* a, std::size_t count) noexcept {
     return MatScreen(&a->re, 2 * count);
 }
 
-void TransposeTo(const double* a, Count m, Count n, double* out) noexcept { Transpose(a, m, n, out, PlainReal{}); }
+void TransposeTo(const double* a, Count m, Count n, double* out) noexcept { TransposeTo(a, m, n, n, out, m); }
 
 void TransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept {
-    Transpose(a, m, n, out, PlainComplex{});
+    TransposeTo(a, m, n, n, out, m);
+}
+
+void TransposeTo(const double* a, Count m, Count n, Count lda, double* out, Count ldo) noexcept {
+    Transpose(a, m, n, lda, out, ldo, PlainReal{});
+}
+
+void TransposeTo(const ComplexRecord* a, Count m, Count n, Count lda, ComplexRecord* out, Count ldo) noexcept {
+    Transpose(a, m, n, lda, out, ldo, PlainComplex{});
 }
 
 void ConjugateTransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept {
-    Transpose(a, m, n, out, Conjugated{});
+    Transpose(a, m, n, n, out, m, Conjugated{});
 }
 
 template <class T>

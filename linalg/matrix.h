@@ -17,13 +17,19 @@ constexpr std::size_t Elements(Count m, Count n) noexcept {
     return m < 1 || n < 1 ? 0 : static_cast<std::size_t>(m) * static_cast<std::size_t>(n);
 }
 
+// Whether the number of elements has 32 bits: the provider counts with no more. Sizes below 1 are refused elsewhere.
+constexpr bool ElementsFit(Count m, Count n) noexcept { return Elements(m, n) <= INT32_MAX; }
+
 // Whether any element is NaN, infinite, DBL_MAX, or at or below -1.7976931348623e308 (ArrHasNonFinite's limits).
 bool MatScreen(const double* a, std::size_t count) noexcept;
 bool MatScreen(const ComplexRecord* a, std::size_t count) noexcept;
 
-// Row-major m by n to n by m. `out` must not overlap `a`.
+// Row-major m by n to n by m. `out` must not overlap `a`. The forms with leading dimensions take rows of `a` that stand
+// lda elements apart, and put rows of `out` ldo apart.
 void TransposeTo(const double* a, Count m, Count n, double* out) noexcept;
 void TransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept;
+void TransposeTo(const double* a, Count m, Count n, Count lda, double* out, Count ldo) noexcept;
+void TransposeTo(const ComplexRecord* a, Count m, Count n, Count lda, ComplexRecord* out, Count ldo) noexcept;
 // The same with the conjugate of each element.
 void ConjugateTransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecord* out) noexcept;
 inline void ConjugateTransposeTo(const double* a, Count m, Count n, double* out) noexcept { TransposeTo(a, m, n, out); }

@@ -2050,6 +2050,780 @@ QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule,
 
 /** @} */
 
+/** @defgroup matrices Solving, inversion and matrix operations
+ * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
+ * at the
+ * same places. The work is done by LAPACK and BLAS, with 32-bit integers.
+ * The kind of a matrix is 0 general, 1 symmetric (Hermitian) positive definite, 2 lower triangular, 3 upper
+ * triangular;
+ * of kinds 1 to 3 one triangle is read.
+ * Where a matrix is screened, an element that is NaN, infinite, the largest double, or -1.7976931348623e308 or
+ * below
+ * gives -20068.
+ * @{
+ */
+
+/**
+ * MatSolveMany.
+ * Solves A X = B for a matrix of the kind that is named.
+ * Kind 0 takes any shape and gives the least-squares solution of minimum norm, by dgelsd or the singular values.
+ * Kind 1 factors by Cholesky and reads the lower triangle; kinds 2 and 3 substitute in the packed triangle.
+ * In kinds 2 and 3 a diagonal element at or below 2.22e-16 times the largest magnitude of the triangle is singular.
+ * x may be a or b.
+ * @param a read, [m * n]: the matrix A
+ * @param m rows of A
+ * @param n columns of A
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param b read, [m * rhsCount]: the right-hand sides, one a column
+ * @param rhsCount right-hand sides
+ * @param x written, [n * rhsCount]: the solutions, one a column
+ * @retval -20040 kinds 1 to 3: m and n differ
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is above 3
+ * @retval -20068 kind 0: a or b does not pass the screen; kind 1: a does not
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20041 kinds 2 and 3: a diagonal element is tiny or 0
+ * @retval -20062 kind 0: the singular values do not converge
+ * @retval 20001 kind 0: the rank is below min(m, n); the solution is valid
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ * @code
+ * double a[] = {2, 1, 1, 3}, b[] = {3, 5}, x[2];
+ * QvMatSolveMany(a, 2, 2, 1, b, 1, x);  // x = {0.8, 1.4}
+ * @endcode
+ */
+QV_API QvStatus ZemFunc241(const double* a, int64_t m, int64_t n, uint32_t kind, const double* b, int64_t rhsCount, double* x);
+#define QvMatSolveMany ZemFunc241
+
+/**
+ * MatSolveManyComplex (MatSolveMany).
+ * Solves A X = B for a matrix of the kind that is named.
+ * Kind 0 takes any shape and gives the least-squares solution of minimum norm, by dgelsd or the singular values.
+ * Kind 1 factors by Cholesky and reads the lower triangle; kinds 2 and 3 substitute in the packed triangle.
+ * In kinds 2 and 3 a diagonal element at or below 2.22e-16 times the largest magnitude of the triangle is singular.
+ * x may be a or b.
+ * @param a read, [m * n]: the matrix A
+ * @param m rows of A
+ * @param n columns of A
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param b read, [m * rhsCount]: the right-hand sides, one a column
+ * @param rhsCount right-hand sides
+ * @param x written, [n * rhsCount]: the solutions, one a column
+ * @retval -20040 kinds 1 to 3: m and n differ
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is above 3
+ * @retval -20068 kind 0: a or b does not pass the screen; kind 1: a does not
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20041 kinds 2 and 3: a diagonal element is tiny or 0
+ * @retval -20062 kind 0: the singular values do not converge
+ * @retval 20001 kind 0: the rank is below min(m, n); the solution is valid
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc242(const QvComplex* a, int64_t m, int64_t n, uint32_t kind, const QvComplex* b, int64_t rhsCount, QvComplex* x);
+#define QvMatSolveManyComplex ZemFunc242
+
+/**
+ * MatSolveKind.
+ * Solves A x = b: MatSolveMany with one right-hand side.
+ * Kind 0 takes any shape and gives the least-squares solution of minimum norm, by dgelsd or the singular values.
+ * Kind 1 factors by Cholesky and reads the lower triangle; kinds 2 and 3 substitute in the packed triangle.
+ * In kinds 2 and 3 a diagonal element at or below 2.22e-16 times the largest magnitude of the triangle is singular.
+ * x may be a or b.
+ * @param a read, [m * n]: the matrix A
+ * @param m rows of A
+ * @param n columns of A
+ * @param b read, [m]: the right-hand side
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param x written, [n]: the solution
+ * @retval -20040 kinds 1 to 3: m and n differ
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is above 3
+ * @retval -20068 kind 0: a or b does not pass the screen; kind 1: a does not
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20041 kinds 2 and 3: a diagonal element is tiny or 0
+ * @retval -20062 kind 0: the singular values do not converge
+ * @retval 20001 kind 0: the rank is below min(m, n); the solution is valid
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc197(const double* a, int64_t m, int64_t n, const double* b, uint32_t kind, double* x);
+#define QvMatSolveKind ZemFunc197
+
+/**
+ * MatSolveKindComplex (MatSolveKind).
+ * Solves A x = b: MatSolveMany with one right-hand side.
+ * Kind 0 takes any shape and gives the least-squares solution of minimum norm, by dgelsd or the singular values.
+ * Kind 1 factors by Cholesky and reads the lower triangle; kinds 2 and 3 substitute in the packed triangle.
+ * In kinds 2 and 3 a diagonal element at or below 2.22e-16 times the largest magnitude of the triangle is singular.
+ * x may be a or b.
+ * @param a read, [m * n]: the matrix A
+ * @param m rows of A
+ * @param n columns of A
+ * @param b read, [m]: the right-hand side
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param x written, [n]: the solution
+ * @retval -20040 kinds 1 to 3: m and n differ
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is above 3
+ * @retval -20068 kind 0: a or b does not pass the screen; kind 1: a does not
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20041 kinds 2 and 3: a diagonal element is tiny or 0
+ * @retval -20062 kind 0: the singular values do not converge
+ * @retval 20001 kind 0: the rank is below min(m, n); the solution is valid
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc218(const QvComplex* a, int64_t m, int64_t n, const QvComplex* b, uint32_t kind, QvComplex* x);
+#define QvMatSolveKindComplex ZemFunc218
+
+/**
+ * MatSolve.
+ * Solves the square system A x = b by LU factors with partial pivoting (dgesv).
+ * Nothing is screened; x and b are written on success only.
+ * @param a read, [n * n]: the matrix A
+ * @param b read and written, [n]: the right-hand side
+ * @param n order
+ * @param x written, [n], may be null: the solution; null: over b
+ * @retval -20003 a size is below 1
+ * @retval -20041 the matrix is singular
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvMatSolve(a, b, 3, NULL);  // b becomes the solution
+ * @endcode
+ */
+QV_API QvStatus ZemFunc114(const double* a, double* b, int64_t n, double* x);
+#define QvMatSolve ZemFunc114
+
+/**
+ * MatSolveUpperTriangular.
+ * Solves R x = b by back substitution from the last row up.
+ * x may be b.
+ * @param r read, [n * n]: the upper triangle R; the rest is not read
+ * @param b read and written, [n]: the right-hand side
+ * @param n order
+ * @param x written, [n], may be null: the solution; null: over b
+ * @retval -20003 a size is below 1
+ * @retval -20041 a diagonal element is exactly 0; the elements of x below it are written
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ */
+QV_API QvStatus ZemFunc11(const double* r, double* b, int64_t n, double* x);
+#define QvMatSolveUpperTriangular ZemFunc11
+
+/**
+ * MatSolveUnitLower.
+ * Solves L x = P b with a unit lower triangle by forward substitution.
+ * The interchanges are those of an LU factorisation; x may be b.
+ * @param l read, [n * n]: the triangle below the diagonal; the rest is not read, the diagonal stands for ones
+ * @param b read and written, [n]: the right-hand side
+ * @param n order
+ * @param x written, [n], may be null: the solution; null: over b
+ * @param pivots read, [n], may be null: element i of b changes places with element pivots[i], for i from 0 on; null: none do
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, an element count or a pivot exceeds 2^31 - 1; nothing is touched
+ * @retval -20017 a pivot is outside 0 to n - 1; nothing is written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc82(const double* l, double* b, int64_t n, double* x, const int64_t* pivots);
+#define QvMatSolveUnitLower ZemFunc82
+
+/**
+ * MatInverse.
+ * The inverse of a square matrix by LU factors (dgetrf, dgetri).
+ * Nothing is screened; the result is written on success only. out may be a.
+ * @param a read and written, [n * n]: the matrix
+ * @param n order
+ * @param out written, [n * n], may be null: the inverse; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20041 the matrix is singular
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc105(double* a, int64_t n, double* out);
+#define QvMatInverse ZemFunc105
+
+/**
+ * MatInverseKind.
+ * The inverse of a square matrix of the kind that is named.
+ * Kind 0 goes by LU factors; kind 1 by Cholesky from the upper triangle, mirrored; kinds 2 and 3 invert their
+ * triangle and clear the other.
+ * The result is written on success only. out may be a.
+ * @param a read and written, [n * n]: the matrix
+ * @param n order
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param out written, [n * n], may be null: the inverse; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is below 0 or above 3
+ * @retval -20068 kinds 0 and 1: the matrix does not pass the screen
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20041 the matrix is singular
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc198(double* a, int64_t n, int32_t kind, double* out);
+#define QvMatInverseKind ZemFunc198
+
+/**
+ * MatInverseKindComplex (MatInverseKind).
+ * The inverse of a square matrix of the kind that is named.
+ * Kind 0 goes by LU factors; kind 1 by Cholesky from the upper triangle, mirrored; kinds 2 and 3 invert their
+ * triangle and clear the other.
+ * The result is written on success only. out may be a.
+ * @param a read and written, [n * n]: the matrix
+ * @param n order
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param out written, [n * n], may be null: the inverse; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is below 0 or above 3
+ * @retval -20068 kinds 0 and 1: the matrix does not pass the screen
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20041 the matrix is singular
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc212(QvComplex* a, int64_t n, int32_t kind, QvComplex* out);
+#define QvMatInverseKindComplex ZemFunc212
+
+/**
+ * MatDeterminant.
+ * The determinant of a square matrix: MatDeterminantKind with kind 0.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param out written: the determinant; NaN on an error
+ * @retval -20003 a size is below 1
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc55(const double* a, int64_t n, double* out);
+#define QvMatDeterminant ZemFunc55
+
+/**
+ * MatDeterminantKind.
+ * The determinant of a square matrix of the kind that is named.
+ * Order 2 is a00 a11 - a01 a10 for every kind. Otherwise: kind 0 the signed product of the pivots, exactly 0 for a
+ * singular matrix, which is no error; kind 1 the square of the product of the Cholesky diagonal, from the upper
+ * triangle; kinds 2 and 3 the product of the diagonal.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param out written: the determinant; NaN on an error, 0 with -20071
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is above 3
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ * @code
+ * double det, a[] = {4, 2, 0, 1, 3, 1, 0, 2, 5};
+ * QvMatDeterminantKind(a, 3, 0, &det);  // 42
+ * @endcode
+ */
+QV_API QvStatus ZemFunc204(const double* a, int64_t n, uint32_t kind, double* out);
+#define QvMatDeterminantKind ZemFunc204
+
+/**
+ * MatDeterminantKindComplex (MatDeterminantKind).
+ * The determinant of a square matrix of the kind that is named.
+ * Order 2 is a00 a11 - a01 a10 for every kind. Otherwise: kind 0 the signed product of the pivots, exactly 0 for a
+ * singular matrix, which is no error; kind 1 the square of the product of the Cholesky diagonal, from the upper
+ * triangle; kinds 2 and 3 the product of the diagonal.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param kind 0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
+ * @param out written: the determinant; NaN on an error, 0 with -20071
+ * @retval -20003 a size is below 1
+ * @retval -20061 the kind is above 3
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20071 kind 1: the matrix is not positive definite
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc220(const QvComplex* a, int64_t n, uint32_t kind, QvComplex* out);
+#define QvMatDeterminantKindComplex ZemFunc220
+
+/**
+ * MatTrace.
+ * The trace of a square matrix, added in order.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param out written: the sum of the diagonal
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ */
+QV_API QvStatus ZemFunc175(const double* a, int64_t n, double* out);
+#define QvMatTrace ZemFunc175
+
+/**
+ * MatTraceComplex (MatTrace).
+ * The trace of a square matrix, added in order.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param out written: the sum of the diagonal
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ */
+QV_API QvStatus ZemFunc225(const QvComplex* a, int64_t n, QvComplex* out);
+#define QvMatTraceComplex ZemFunc225
+
+/**
+ * MatNorm.
+ * A norm of a matrix.
+ * 0: the largest singular value; 1: the largest column sum of magnitudes; 2: the root of the sum of all squared
+ * magnitudes; 3: the largest row sum.
+ * @param a read, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param selector 0 two-norm, 1 one-norm, 2 Frobenius, 3 infinity-norm
+ * @param out written: the norm; NaN on an error
+ * @retval -20003 a size is below 1
+ * @retval -20061 the selector is above 3
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc206(const double* a, int64_t m, int64_t n, uint32_t selector, double* out);
+#define QvMatNorm ZemFunc206
+
+/**
+ * MatNormComplex (MatNorm).
+ * A norm of a matrix.
+ * 0: the largest singular value; 1: the largest column sum of magnitudes; 2: the root of the sum of all squared
+ * magnitudes; 3: the largest row sum.
+ * @param a read, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param selector 0 two-norm, 1 one-norm, 2 Frobenius, 3 infinity-norm
+ * @param out written: the norm; NaN on an error
+ * @retval -20003 a size is below 1
+ * @retval -20061 the selector is above 3
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc223(const QvComplex* a, int64_t m, int64_t n, uint32_t selector, double* out);
+#define QvMatNormComplex ZemFunc223
+
+/**
+ * MatConditionNumber.
+ * The condition number of a matrix.
+ * 0: the largest over the smallest singular value, of any shape; 1 to 3: the norm of A times the norm of its
+ * inverse.
+ * A singular matrix has +Inf, which is no error.
+ * @param a read, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param selector 0 two-norm, 1 one-norm, 2 Frobenius, 3 infinity-norm
+ * @param out written: the condition number; NaN on an error
+ * @retval -20003 a size is below 1
+ * @retval -20061 the selector is above 3
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20040 selectors 1 to 3: m and n differ
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc205(const double* a, int64_t m, int64_t n, uint32_t selector, double* out);
+#define QvMatConditionNumber ZemFunc205
+
+/**
+ * MatConditionNumberComplex (MatConditionNumber).
+ * The condition number of a matrix.
+ * 0: the largest over the smallest singular value, of any shape; 1 to 3: the norm of A times the norm of its
+ * inverse.
+ * A singular matrix has +Inf, which is no error.
+ * @param a read, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param selector 0 two-norm, 1 one-norm, 2 Frobenius, 3 infinity-norm
+ * @param out written: the condition number; NaN on an error
+ * @retval -20003 a size is below 1
+ * @retval -20061 the selector is above 3
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20040 selectors 1 to 3: m and n differ
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc222(const QvComplex* a, int64_t m, int64_t n, uint32_t selector, double* out);
+#define QvMatConditionNumberComplex ZemFunc222
+
+/**
+ * MatRank.
+ * The number of singular values strictly above a tolerance.
+ * @param a read, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param tolerance absolute; negative: max(m, n) s(0) 2.220446049250313e-16
+ * @param rank written: the rank; -1 on an error
+ * @retval -20003 a size is below 1
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc207(const double* a, int64_t m, int64_t n, double tolerance, int64_t* rank);
+#define QvMatRank ZemFunc207
+
+/**
+ * MatRankComplex (MatRank).
+ * The number of singular values strictly above a tolerance.
+ * @param a read, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param tolerance absolute; negative: max(m, n) s(0) 2.220446049250313e-16
+ * @param rank written: the rank; -1 on an error
+ * @retval -20003 a size is below 1
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc215(const QvComplex* a, int64_t m, int64_t n, double tolerance, int64_t* rank);
+#define QvMatRankComplex ZemFunc215
+
+/**
+ * MatPseudoInverse.
+ * The Moore-Penrose pseudo-inverse, V S+ U^H of the economy singular value decomposition.
+ * Singular values at or below the tolerance count as 0. out may be a; it is written on success only.
+ * @param a read and written, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param tolerance absolute; negative: max(m, n) s(0) 2.220446049250313e-16
+ * @param out written, [n * m], may be null: the pseudo-inverse; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc200(double* a, int64_t m, int64_t n, double tolerance, double* out);
+#define QvMatPseudoInverse ZemFunc200
+
+/**
+ * MatPseudoInverseComplex (MatPseudoInverse).
+ * The Moore-Penrose pseudo-inverse, V S+ U^H of the economy singular value decomposition.
+ * Singular values at or below the tolerance count as 0. out may be a; it is written on success only.
+ * @param a read and written, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param tolerance absolute; negative: max(m, n) s(0) 2.220446049250313e-16
+ * @param out written, [n * m], may be null: the pseudo-inverse; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20068 the matrix does not pass the screen
+ * @retval -20062 the singular values do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc229(QvComplex* a, int64_t m, int64_t n, double tolerance, QvComplex* out);
+#define QvMatPseudoInverseComplex ZemFunc229
+
+/**
+ * MatIsPositiveDefinite.
+ * Tests for positive definiteness.
+ * A matrix that differs from its (conjugate) transpose in one bit, or holds a NaN, is not, and no eigenvalue is
+ * computed. Otherwise each eigenvalue must exceed 2.220446049250313e-16 times the largest magnitude of them.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param flag written: 1 if the matrix is positive definite, else 0
+ * @retval -20003 n is below 1; flag is untouched
+ * @retval -20068 the symmetric matrix does not pass the screen
+ * @retval -20062 the eigenvalues do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc209(const double* a, int64_t n, uint32_t* flag);
+#define QvMatIsPositiveDefinite ZemFunc209
+
+/**
+ * MatIsPositiveDefiniteComplex (MatIsPositiveDefinite).
+ * Tests for positive definiteness.
+ * A matrix that differs from its (conjugate) transpose in one bit, or holds a NaN, is not, and no eigenvalue is
+ * computed. Otherwise each eigenvalue must exceed 2.220446049250313e-16 times the largest magnitude of them.
+ * @param a read, [n * n]: the matrix
+ * @param n order
+ * @param flag written: 1 if the matrix is positive definite, else 0
+ * @retval -20003 n is below 1; flag is untouched
+ * @retval -20068 the symmetric matrix does not pass the screen
+ * @retval -20062 the eigenvalues do not converge
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc226(const QvComplex* a, int64_t n, uint32_t* flag);
+#define QvMatIsPositiveDefiniteComplex ZemFunc226
+
+/**
+ * MatMultiply.
+ * The product A B.
+ * Without rows or columns nothing is done; without an inner size the product is 0. out may be a or b.
+ * @param a read, [rowsA * colsA]: the matrix A
+ * @param b read, [colsA * colsB]: the matrix B
+ * @param rowsA rows of A
+ * @param colsA columns of A, rows of B
+ * @param colsB columns of B
+ * @param out written, [rowsA * colsB]: the product
+ * @retval -20004 a size is below 0
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ * @code
+ * QvMatMultiply(a, b, 2, 3, 4, out);  // 2 by 3 times 3 by 4
+ * @endcode
+ */
+QV_API QvStatus ZemFunc119(const double* a, const double* b, int64_t rowsA, int64_t colsA, int64_t colsB, double* out);
+#define QvMatMultiply ZemFunc119
+
+/**
+ * MatMultiplyComplex (MatMultiply).
+ * The product A B.
+ * Without rows or columns nothing is done; without an inner size the product is 0. out may be a or b.
+ * @param a read, [rowsA * colsA]: the matrix A
+ * @param b read, [colsA * colsB]: the matrix B
+ * @param rowsA rows of A
+ * @param colsA columns of A, rows of B
+ * @param colsB columns of B
+ * @param out written, [rowsA * colsB]: the product
+ * @retval -20004 a size is below 0
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ */
+QV_API QvStatus ZemFunc214(const QvComplex* a, const QvComplex* b, int64_t rowsA, int64_t colsA, int64_t colsB, QvComplex* out);
+#define QvMatMultiplyComplex ZemFunc214
+
+/**
+ * MatVectorMultiply.
+ * The product A x. y may be a or x.
+ * @param a read, [m * n]: the matrix
+ * @param x read, [n]: the vector
+ * @param m rows
+ * @param n columns
+ * @param y written, [m]: the product
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where y is an input
+ */
+QV_API QvStatus ZemFunc370(const double* a, const double* x, int64_t m, int64_t n, double* y);
+#define QvMatVectorMultiply ZemFunc370
+
+/**
+ * MatVectorMultiplyComplex (MatVectorMultiply).
+ * The product A x. y may be a or x.
+ * @param a read, [m * n]: the matrix
+ * @param x read, [n]: the vector
+ * @param m rows
+ * @param n columns
+ * @param y written, [m]: the product
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where y is an input
+ */
+QV_API QvStatus ZemFunc371(const QvComplex* a, const QvComplex* x, int64_t m, int64_t n, QvComplex* y);
+#define QvMatVectorMultiplyComplex ZemFunc371
+
+/**
+ * VecDot.
+ * The sum of x[i] y[i]; nothing is conjugated.
+ * @param x read, [n]: a vector
+ * @param y read, [n]: a vector
+ * @param n elements
+ * @param out written: the sum of x[i] y[i]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc191(const double* x, const double* y, int64_t n, double* out);
+#define QvVecDot ZemFunc191
+
+/**
+ * VecDotComplex (VecDot).
+ * The sum of x[i] y[i]; nothing is conjugated.
+ * @param x read, [n]: a vector
+ * @param y read, [n]: a vector
+ * @param n elements
+ * @param out written: the sum of x[i] y[i]
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc221(const QvComplex* x, const QvComplex* y, int64_t n, QvComplex* out);
+#define QvVecDotComplex ZemFunc221
+
+/**
+ * VecOuterProduct.
+ * The outer product, out[i ny + j] = x[i] y[j]; nothing is conjugated. out may be x or y.
+ * @param x read, [nx]: a vector
+ * @param nx its elements, the rows of the result
+ * @param y read, [ny]: a vector
+ * @param ny its elements, the columns of the result
+ * @param out written, [nx * ny]: the products
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ */
+QV_API QvStatus ZemFunc203(const double* x, int64_t nx, const double* y, int64_t ny, double* out);
+#define QvVecOuterProduct ZemFunc203
+
+/**
+ * VecOuterProductComplex (VecOuterProduct).
+ * The outer product, out[i ny + j] = x[i] y[j]; nothing is conjugated. out may be x or y.
+ * @param x read, [nx]: a vector
+ * @param nx its elements, the rows of the result
+ * @param y read, [ny]: a vector
+ * @param ny its elements, the columns of the result
+ * @param out written, [nx * ny]: the products
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ */
+QV_API QvStatus ZemFunc224(const QvComplex* x, int64_t nx, const QvComplex* y, int64_t ny, QvComplex* out);
+#define QvVecOuterProductComplex ZemFunc224
+
+/**
+ * MatKronecker.
+ * The Kronecker product: the block matrix of the a(i, j) B. out may be a or b.
+ * @param a read, [rowsA * colsA]: the matrix A
+ * @param b read, [rowsB * colsB]: the matrix B
+ * @param rowsA rows of A
+ * @param colsA columns of A
+ * @param rowsB rows of B
+ * @param colsB columns of B
+ * @param out written, [rowsA * rowsB * colsA * colsB]: rowsA rowsB by colsA colsB
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ */
+QV_API QvStatus ZemFunc358(const double* a, const double* b, int64_t rowsA, int64_t colsA, int64_t rowsB, int64_t colsB, double* out);
+#define QvMatKronecker ZemFunc358
+
+/**
+ * MatKroneckerComplex (MatKronecker).
+ * The Kronecker product: the block matrix of the a(i, j) B. out may be a or b.
+ * @param a read, [rowsA * colsA]: the matrix A
+ * @param b read, [rowsB * colsB]: the matrix B
+ * @param rowsA rows of A
+ * @param colsA columns of A
+ * @param rowsB rows of B
+ * @param colsB columns of B
+ * @param out written, [rowsA * rowsB * colsA * colsB]: rowsA rowsB by colsA colsB
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ */
+QV_API QvStatus ZemFunc359(const QvComplex* a, const QvComplex* b, int64_t rowsA, int64_t colsA, int64_t rowsB, int64_t colsB, QvComplex* out);
+#define QvMatKroneckerComplex ZemFunc359
+
+/**
+ * MatTranspose.
+ * The transpose. out may be a.
+ * @param a read and written, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param out written, [n * m], may be null: the transpose; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, in place
+ */
+QV_API QvStatus ZemFunc177(double* a, int64_t m, int64_t n, double* out);
+#define QvMatTranspose ZemFunc177
+
+/**
+ * MatConjugateTranspose (MatTranspose).
+ * The conjugate transpose. out may be a.
+ * @param a read and written, [m * n]: the matrix
+ * @param m rows
+ * @param n columns
+ * @param out written, [n * m], may be null: the conjugate transpose; null: over a
+ * @retval -20003 a size is below 1
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, in place
+ */
+QV_API QvStatus ZemFunc217(QvComplex* a, int64_t m, int64_t n, QvComplex* out);
+#define QvMatConjugateTranspose ZemFunc217
+
+/**
+ * MatBuildSpecial.
+ * Builds a matrix from vectors.
+ * 1: first on the diagonal. 2: firstLength by secondLength, first[i - j] on and below the diagonal, second[j - i]
+ * above; second[0] is not used. 3: row i holds first[i] to the powers firstLength - 1 down to 0. 4: firstLength - 1
+ * square, -first[k + 1] / first[0] in the first row and ones below the diagonal.
+ * Only the sizes that a type uses are looked at. out may be one of the vectors.
+ * @param type 0 identity, 1 diagonal, 2 Toeplitz, 3 Vandermonde, 4 companion
+ * @param order of the identity
+ * @param first read, [firstLength], may be null: diagonal, first column, nodes or coefficients; not read for the identity
+ * @param firstLength its elements
+ * @param second read, [secondLength], may be null: first row of the Toeplitz matrix; not read for other types
+ * @param secondLength its elements
+ * @param out written, [order * order if type == 0 else firstLength * secondLength if type == 2 else (firstLength - 1) * (firstLength - 1) if type == 4 else firstLength * firstLength]: the matrix
+ * @retval -20003 a size that the type uses is below 1
+ * @retval -20006 type 4: firstLength is below 2
+ * @retval -20061 the type is above 4
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ * @code
+ * double c[] = {1, -6, 11, -6}, out[9];
+ * QvMatBuildSpecial(4, 0, c, 4, NULL, 0, out);  // eigenvalues 1, 2, 3
+ * @endcode
+ */
+QV_API QvStatus ZemFunc208(uint32_t type, int64_t order, const double* first, int64_t firstLength, const double* second, int64_t secondLength, double* out);
+#define QvMatBuildSpecial ZemFunc208
+
+/**
+ * MatBuildSpecialComplex (MatBuildSpecial).
+ * Builds a matrix from vectors.
+ * 1: first on the diagonal. 2: firstLength by secondLength, first[i - j] on and below the diagonal, second[j - i]
+ * above; second[0] is not used. 3: row i holds first[i] to the powers firstLength - 1 down to 0. 4: firstLength - 1
+ * square, -first[k + 1] / first[0] in the first row and ones below the diagonal.
+ * Only the sizes that a type uses are looked at. out may be one of the vectors.
+ * @param type 0 identity, 1 diagonal, 2 Toeplitz, 3 Vandermonde, 4 companion
+ * @param order of the identity
+ * @param first read, [firstLength], may be null: diagonal, first column, nodes or coefficients; not read for the identity
+ * @param firstLength its elements
+ * @param second read, [secondLength], may be null: first row of the Toeplitz matrix; not read for other types
+ * @param secondLength its elements
+ * @param out written, [order * order if type == 0 else firstLength * secondLength if type == 2 else (firstLength - 1) * (firstLength - 1) if type == 4 else firstLength * firstLength]: the matrix
+ * @retval -20003 a size that the type uses is below 1
+ * @retval -20006 type 4: firstLength is below 2
+ * @retval -20061 the type is above 4
+ * @retval -20046 a size, or the element count of a matrix, exceeds 2^31 - 1; nothing is touched
+ * @retval -20001 memory is exhausted, where out is an input
+ */
+QV_API QvStatus ZemFunc227(uint32_t type, int64_t order, const QvComplex* first, int64_t firstLength, const QvComplex* second, int64_t secondLength, QvComplex* out);
+#define QvMatBuildSpecialComplex ZemFunc227
+
+/**
+ * VecNorm.
+ * The p-norm of a vector: the p-th root of the sum of the p-th powers of the magnitudes.
+ * +Inf gives the largest magnitude, -Inf the smallest, both over the elements that are numbers.
+ * @param x read, [n]: the vector
+ * @param n its elements
+ * @param selector 0: p = 1; 1: p = 2; 2: p = +Inf; 3: p = -Inf; 4: the argument p
+ * @param p any number but 0; used by selector 4
+ * @param out written: the norm
+ * @retval -20061 the selector is above 4
+ * @retval -20003 n is below 1
+ * @retval -20068 p is NaN
+ * @retval -20141 p is 0
+ */
+QV_API QvStatus ZemFunc394(const double* x, int64_t n, uint32_t selector, double p, double* out);
+#define QvVecNorm ZemFunc394
+
+/**
+ * VecNormComplex (VecNorm).
+ * The p-norm of a vector: the p-th root of the sum of the p-th powers of the magnitudes.
+ * +Inf gives the largest magnitude, -Inf the smallest, both over the elements that are numbers.
+ * @param x read, [n]: the vector
+ * @param n its elements
+ * @param selector 0: p = 1; 1: p = 2; 2: p = +Inf; 3: p = -Inf; 4: the argument p
+ * @param p any number but 0; used by selector 4
+ * @param out written: the norm
+ * @retval -20061 the selector is above 4
+ * @retval -20003 n is below 1
+ * @retval -20068 p is NaN
+ * @retval -20141 p is 0
+ */
+QV_API QvStatus ZemFunc395(const QvComplex* x, int64_t n, uint32_t selector, double p, double* out);
+#define QvVecNormComplex ZemFunc395
+
+/** @} */
+
 /** @defgroup memory Release of memory
  * A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of complex
  * data, and arrays whose length only the operation knows. Each is one block of memory, and one entry, known under
@@ -2085,6 +2859,62 @@ QV_API void ZemFunc238(void* block);
  */
 QV_API void ZemFunc470(void* block);
 #define QvIirStateComplexRelease ZemFunc470
+
+/** @} */
+
+/** @defgroup multiple_roots Multiple polynomial roots and lag products
+ * @{
+ */
+
+/**
+ * MatLagProduct.
+ * The normal matrix of linear prediction, unscaled: X^H X of the matrix X whose row t holds x[t], x[t - 1], ..., x[t
+ * - p].
+ * Rows t: method 0 from 0 to n + p - 1, method 1 from 0 to n - 1, method 2 from p to n + p - 1, with 0 outside x;
+ * methods 3 and 4 from p to n - 1.
+ * Method 4 adds each row once more, conjugated and backwards. out may be x.
+ * After S. M. Kay, Modern Spectral Estimation, 1988.
+ * @param x read, [n]: the samples
+ * @param n their count
+ * @param p the largest lag
+ * @param method 0 autocorrelation, 1 prewindowed, 2 postwindowed, 3 covariance, 4 modified covariance
+ * @param out written, [(p + 1) * (p + 1)]: the product X^H X
+ * @retval -20003 n is below 1
+ * @retval -20059 p is below 0
+ * @retval -20037 methods 3 and 4: p is not below n
+ * @retval -20061 the method is above 4
+ * @retval -20046 a size or the element count of out exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double r[4], x[] = {1, 2, 3};
+ * QvMatLagProduct(x, 3, 1, 0, r);  // {14, 8, 8, 14}
+ * @endcode
+ */
+QV_API QvStatus ZemFunc415(const double* x, int64_t n, int64_t p, uint32_t method, double* out);
+#define QvMatLagProduct ZemFunc415
+
+/**
+ * MatLagProductComplex (MatLagProduct).
+ * The normal matrix of linear prediction, unscaled: X^H X of the matrix X whose row t holds x[t], x[t - 1], ..., x[t
+ * - p].
+ * Rows t: method 0 from 0 to n + p - 1, method 1 from 0 to n - 1, method 2 from p to n + p - 1, with 0 outside x;
+ * methods 3 and 4 from p to n - 1.
+ * Method 4 adds each row once more, conjugated and backwards. out may be x.
+ * After S. M. Kay, Modern Spectral Estimation, 1988.
+ * @param x read, [n]: the samples
+ * @param n their count
+ * @param p the largest lag
+ * @param method 0 autocorrelation, 1 prewindowed, 2 postwindowed, 3 covariance, 4 modified covariance
+ * @param out written, [(p + 1) * (p + 1)]: the product X^H X
+ * @retval -20003 n is below 1
+ * @retval -20059 p is below 0
+ * @retval -20037 methods 3 and 4: p is not below n
+ * @retval -20061 the method is above 4
+ * @retval -20046 a size or the element count of out exceeds 2^31 - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc416(const QvComplex* x, int64_t n, int64_t p, uint32_t method, QvComplex* out);
+#define QvMatLagProductComplex ZemFunc416
 
 /** @} */
 
