@@ -28,6 +28,7 @@ template <class T>
 Status MatBalance(T* a, Count n, std::uint32_t job, Count* low, Count* high, double* scale, T* balanced) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
     if (job >= std::size(kJobs)) return status::kInvalidSelection;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     const ProviderBlock<T> copy = Transposed(a, n, n);
     if (!copy) return status::kOutOfMemory;
@@ -48,6 +49,7 @@ Status MatBalanceBack(T* v, Count n, std::uint32_t job, std::uint32_t side, Coun
     if (!(0 <= low && low <= high && high < n)) return status::kIndexOutOfRange;
     if ((job == kPermute || job == kBoth) && !InterchangesStayInside(n, low, high, scale))
         return status::kIndexOutOfRange;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     const ProviderBlock<T> copy = Transposed(v, n, n);
     if (!copy) return status::kOutOfMemory;
     const Count info = Gebak(kJobs[job], kSides[side], n, low + 1, high + 1, scale, n, copy.get(), n);

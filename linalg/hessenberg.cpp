@@ -11,6 +11,7 @@ template <class T>
 Status MatHessenberg(T* a, Count n, Count low, Count high, T* h, T* q) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
     if (!(0 <= low && low <= high && high < n)) return status::kIndexOutOfRange;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     const ProviderBlock<T> factors = Transposed(a, n, n), tau(static_cast<std::size_t>(n));
     if (!factors || !tau) return status::kOutOfMemory;

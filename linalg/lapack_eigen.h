@@ -28,6 +28,11 @@ Block<double> RealWork(std::size_t count) noexcept {
     return Block<double>(kIsComplex<T> ? count : 0);
 }
 
+// What a conjugate transposition is to the provider.
+template <class T>
+inline constexpr auto kConjugation =
+    kIsComplex<T> ? provider::Transposition::kConjugated : provider::Transposition::kTransposed;
+
 // Singular values
 
 inline Count Gesdd(char job, Count m, Count n, double* a, Count lda, double* s, double* u, Count ldu, double* vt,
@@ -223,17 +228,6 @@ inline Count Tgexc(Count n, ComplexRecord* s, ComplexRecord* t, ComplexRecord* q
     const Count followQ = q != nullptr, followZ = z != nullptr;
     provider::QV_LAPACK(ztgexc)(&followQ, &followZ, &n, s, &n, t, &n, q, &n, z, &n, &from, &to, &info);
     return info;
-}
-
-// out = Q^H·A, row-major n by n.
-inline void ConjugatedProduct(Count n, const double* q, const double* a, double* out) noexcept {
-    provider::cblas_dgemm(provider::Order::kRowMajor, provider::Transposition::kTransposed,
-                          provider::Transposition::kNone, n, n, n, 1.0, q, n, a, n, 0.0, out, n);
-}
-inline void ConjugatedProduct(Count n, const ComplexRecord* q, const ComplexRecord* a, ComplexRecord* out) noexcept {
-    const ComplexRecord one{1, 0}, zero{0, 0};
-    provider::cblas_zgemm(provider::Order::kRowMajor, provider::Transposition::kConjugated,
-                          provider::Transposition::kNone, n, n, n, &one, q, n, a, n, &zero, out, n);
 }
 
 }  // namespace quorvan

@@ -5,7 +5,6 @@
 #include "linalg/decompositions.h"
 #include "linalg/lapack_eigen.h"
 #include "linalg/matrix.h"
-#include "linalg/strided.h"
 
 namespace quorvan {
 namespace {
@@ -34,7 +33,7 @@ Status Pivoted(T* a, Count m, Count n, bool economy, Count* pivots, T* q, T* r) 
     for (Count j = 0; j < n; ++j) --pivots[j];
 
     T* triangle = r ? r : a;
-    TransposeStrided(factors.get(), n, vectors, m, triangle, n);
+    TransposeTo(factors.get(), n, vectors, m, triangle, n);
     for (std::size_t i = 0; i < static_cast<std::size_t>(vectors); ++i) {
         T* row = triangle + i * static_cast<std::size_t>(n);
         std::fill(row, row + std::min(i, static_cast<std::size_t>(n)), T{});
@@ -57,6 +56,7 @@ Status MatQrPivot(T* a, Count m, Count n, std::uint32_t pivotMode, bool economy,
             for (Count j = 0; j < n; ++j) pivots[j] = j;
         return status;
     }
+    if (!ElementsFit(m, n) || (!economy && !ElementsFit(m, m))) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     return Pivoted(a, m, n, economy, pivots, q, r);
 }

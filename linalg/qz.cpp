@@ -8,6 +8,7 @@
 #include "linalg/decompositions.h"
 #include "linalg/eigen_order.h"
 #include "linalg/eigenvectors.h"
+#include "linalg/element.h"
 #include "linalg/info.h"
 #include "linalg/lapack_eigen.h"
 #include "linalg/matrix.h"
@@ -112,28 +113,18 @@ Status FactorInSteps(const T* a, const T* b, Pencil<T>& pencil) noexcept {
     if (const Status status = MatQr<T>(pencil.t, n, n, false, q1, nullptr); status != status::kSuccess) return status;
     TransposeTo(pencil.t.get(), n, n, pencil.s.get());  // R
     std::swap(pencil.s, pencil.t);
-    ConjugatedProduct(n, q1, a, pencil.z.get());
+    Gemm(kConjugation<T>, provider::Transposition::kNone, n, n, n, q1, n, a, n, pencil.z.get(), n);
     TransposeTo(pencil.z.get(), n, n, pencil.s.get());
     TransposeTo(q1, n, n, pencil.q.get());
     Gghrd(n, pencil.s.get(), pencil.t.get(), pencil.q.get(), pencil.z.get());  // fails on illegal arguments only
     return Iterate(pencil);
 }
 
-// What turns d into its modulus.
-double Turn(double d) noexcept { return d < 0 ? -1.0 : 1.0; }
-ComplexRecord Turn(ComplexRecord d) noexcept {
-    const double modulus = provider::QV_LAPACK(dlapy2)(&d.re, &d.im);
-    return modulus > 0 ? ComplexRecord{d.re / modulus, -(d.im / modulus)} : ComplexRecord{1, 0};
-}
-
-double Times(double x, double y) noexcept { return x * y; }
-ComplexRecord Times(ComplexRecord x, ComplexRecord y) noexcept { return CxMultiply(x, y); }
-double Conjugate(double x) noexcept { return x; }
-ComplexRecord Conjugate(ComplexRecord x) noexcept { return CxConj(x); }
-double Modulus(double x) noexcept { return std::fabs(x); }
-ComplexRecord Modulus(ComplexRecord x) noexcept { return {provider::QV_LAPACK(dlapy2)(&x.re, &x.im), 0.0}; }
-double ImaginaryPart(double) noexcept { return 0; }
-double ImaginaryPart(ComplexRecord z) noexcept { return z.im; }
+// The modulus of a diagonal element, and what turns the element into it.
+double Modulus(double d) noexcept { return std::fabs(d); }
+double Modulus(ComplexRecord d) noexcept { return provider::QV_LAPACK(dlapy2)(&d.re, &d.im); }
+double Turn(double d, double) noexcept { return d < 0 ? -1.0 : 1.0; }
+ComplexRecord Turn(ComplexRecord d, double modulus) noexcept { return {d.re / modulus, -(d.im / modulus)}; }
 
 // Exchanges leave diagonal elements of T that are negative or complex. As from the factorisation, they become real and
 // not negative: the rows of S and T turn, the columns of Q turn back.
@@ -142,14 +133,17 @@ void MakeDiagonalPositive(Pencil<T>& pencil) noexcept {
     const auto n = static_cast<std::size_t>(pencil.n);
     for (std::size_t k = 0; k < n; ++k) {
         T& diagonal = pencil.t[k + k * n];
-        if (RealPart(diagonal) >= 0 && ImaginaryPart(diagonal) == 0) continue;
-        const T turn = Turn(diagonal), back = Conjugate(turn);
+        const double modulus = Modulus(diagonal);
+        if (RealPart(diagonal) == modulus) continue;
+        const T turn = Turn(diagonal, modulus), back = element::Conjugate(turn);
+        // From the column before the diagonal on: the row may be the second of a pair.
         for (std::size_t j = k == 0 ? 0 : k - 1; j < n; ++j) {
-            pencil.s[k + j * n] = Times(pencil.s[k + j * n], turn);
-            if (j > k) pencil.t[k + j * n] = Times(pencil.t[k + j * n], turn);
+            pencil.s[k + j * n] = element::Product(pencil.s[k + j * n], turn);
+            pencil.t[k + j * n] = element::Product(pencil.t[k + j * n], turn);
         }
-        diagonal = Modulus(diagonal);
-        for (std::size_t i = 0; pencil.q && i < n; ++i) pencil.q[i + k * n] = Times(pencil.q[i + k * n], back);
+        diagonal = element::Scaled(element::One<T>(), modulus);
+        for (std::size_t i = 0; pencil.q && i < n; ++i)
+            pencil.q[i + k * n] = element::Product(pencil.q[i + k * n], back);
     }
 }
 
@@ -258,6 +252,7 @@ template <class T>
 Status MatQz(const T* a, const T* b, Count n, std::uint32_t order, const QzResults<T>& results) noexcept {
     if (order > kLastEigenOrder) return status::kInvalidSelection;
     if (n < 1) return status::kSamplesNotPositive;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n)) || MatScreen(b, Elements(n, n))) return status::kNonFiniteInput;
     return Solve(a, b, n, EigenOrder{order}, results);
 }

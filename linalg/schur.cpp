@@ -85,6 +85,7 @@ Status MatSchur(const T* a, Count n, std::uint32_t order, T* vectors, T* t, Comp
                 EigenSelection<T> select) noexcept {
     if (order > kLastEigenOrder) return status::kInvalidSelection;
     if (n < 1) return status::kSamplesNotPositive;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     SchurForm<T> form{n, Transposed(a, n, n), {}, ProviderBlock<T>(static_cast<std::size_t>(n)), Eigenvalues(n)};
     if (vectors) form.q = ProviderBlock<T>(Elements(n, n));

@@ -23,6 +23,8 @@ std::size_t RealWorkCount(Count m, Count n) noexcept {
 
 template <class T>
 Status Decompose(const T* a, Count m, Count n, char job, T* u, double* s, T* v) noexcept {
+    if (!ElementsFit(m, n)) return status::kOverflow;
+    if (job == kFull && !(ElementsFit(m, m) && ElementsFit(n, n))) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     const Count k = std::min(m, n);
     const bool vectors = job != kValuesOnly;

@@ -1105,6 +1105,7 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
  * @param n its columns
  * @param s written, [min(m, n)]: the singular values, descending
  * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1122,6 +1123,7 @@ QV_API QvStatus ZemFunc195(const double* a, int64_t m, int64_t n, double* s);
  * @param n its columns
  * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
  * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1141,6 +1143,7 @@ QV_API QvStatus ZemFunc216(const QvComplex* a, int64_t m, int64_t n, QvComplex* 
  * @param s written, [min(m, n)]: the singular values, descending
  * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
  * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1164,6 +1167,7 @@ QV_API QvStatus ZemFunc193(const double* a, int64_t m, int64_t n, double* u, dou
  * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
  * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
  * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1186,6 +1190,7 @@ QV_API QvStatus ZemFunc219(const QvComplex* a, int64_t m, int64_t n, QvComplex* 
  * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
  * @retval -20003 m or n is below 1
  * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1208,6 +1213,7 @@ QV_API QvStatus ZemFunc246(const double* a, int64_t m, int64_t n, int32_t mode, 
  * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
  * @retval -20003 m or n is below 1
  * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1224,6 +1230,7 @@ QV_API QvStatus ZemFunc247(const QvComplex* a, int64_t m, int64_t n, int32_t mod
  * @param parity written: 1 where the number of interchanges is odd, otherwise 0
  * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
  * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
  * @retval -20001 memory is exhausted; a stays as it is
  */
@@ -1239,6 +1246,7 @@ QV_API QvStatus ZemFunc118(double* a, int64_t n, int64_t* pivots, uint32_t* pari
  * @param parity written: 1 where the number of interchanges is odd, otherwise 0
  * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
  * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
  * @retval -20001 memory is exhausted; a stays as it is
  */
@@ -1252,6 +1260,7 @@ QV_API QvStatus ZemFunc213(QvComplex* a, int64_t n, int64_t* pivots, uint32_t* p
  * @param n its rows and columns
  * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20071 the matrix is not positive definite; nothing is written
@@ -1266,6 +1275,7 @@ QV_API QvStatus ZemFunc196(double* a, int64_t n, double* out);
  * @param n its rows and columns
  * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20071 the matrix is not positive definite; nothing is written
@@ -1287,6 +1297,7 @@ QV_API QvStatus ZemFunc210(QvComplex* a, int64_t n, QvComplex* out);
  * @param r written, [m * n], may be null: R, row-major; null: over a
  * @retval -20003 m or n is below 1
  * @retval -20061 the method is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  */
@@ -1306,6 +1317,7 @@ QV_API QvStatus ZemFunc192(double* a, int64_t m, int64_t n, uint32_t method, dou
  * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
  * @retval -20003 m or n is below 1
  * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  */
@@ -1325,6 +1337,7 @@ QV_API QvStatus ZemFunc243(double* a, int64_t m, int64_t n, uint32_t pivotMode, 
  * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
  * @retval -20003 m or n is below 1
  * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  */
@@ -1340,6 +1353,7 @@ QV_API QvStatus ZemFunc245(QvComplex* a, int64_t m, int64_t n, uint32_t pivotMod
  * @param q written, [m * m], may be null: Q, row-major; null: not formed
  * @param r written, [m * n], may be null: R, row-major, zero below its diagonal; null: over a
  * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  */
@@ -1354,6 +1368,7 @@ QV_API QvStatus ZemFunc228(QvComplex* a, int64_t m, int64_t n, QvComplex* q, QvC
  * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
  * @param q written, [n * n]: Q, row-major
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  */
@@ -1368,6 +1383,7 @@ QV_API QvStatus ZemFunc254(double* a, int64_t n, double* h, double* q);
  * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
  * @param q written, [n * n]: Q, row-major
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  */
@@ -1387,6 +1403,7 @@ QV_API QvStatus ZemFunc255(QvComplex* a, int64_t n, QvComplex* h, QvComplex* q);
  * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
  * @retval -20003 n is below 1
  * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20999 the provider fails
@@ -1407,6 +1424,7 @@ QV_API QvStatus ZemFunc248(double* a, int64_t n, uint32_t job, int64_t* low, int
  * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
  * @retval -20003 n is below 1
  * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20999 the provider fails
@@ -1427,6 +1445,7 @@ QV_API QvStatus ZemFunc249(QvComplex* a, int64_t n, uint32_t job, int64_t* low, 
  * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
  * @retval -20003 n is below 1
  * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
  * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
  * @retval -20001 memory is exhausted
  * @retval -20999 the provider fails
@@ -1447,6 +1466,7 @@ QV_API QvStatus ZemFunc250(double* v, int64_t n, uint32_t job, uint32_t side, in
  * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
  * @retval -20003 n is below 1
  * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
  * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
  * @retval -20001 memory is exhausted
  * @retval -20999 the provider fails
@@ -1476,6 +1496,7 @@ QV_API QvStatus ZemFunc251(QvComplex* v, int64_t n, uint32_t job, uint32_t side,
  * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
  * @retval -20003 n is below 1
  * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1500,6 +1521,7 @@ QV_API QvStatus ZemFunc201(const double* a, int64_t n, uint32_t wantVectors, QvC
  * @param vectors written, [n * n], may be null: the eigenvectors, orthonormal; not used without vectors
  * @retval -20003 n is below 1
  * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1519,6 +1541,7 @@ QV_API QvStatus ZemFunc202(const double* a, int64_t n, uint32_t wantVectors, dou
  * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
  * @retval -20003 n is below 1
  * @retval -20061 the kind is neither 0 nor 1, or wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1540,6 +1563,7 @@ QV_API QvStatus ZemFunc211(const QvComplex* a, int64_t n, int32_t kind, uint32_t
  * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
  * @retval -20061 the order is above 4; tested first
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1559,6 +1583,7 @@ QV_API QvStatus ZemFunc258(const double* a, int64_t n, uint32_t sort, double* ve
  * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
  * @retval -20061 the order is above 4; tested first
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1577,6 +1602,7 @@ QV_API QvStatus ZemFunc259(const QvComplex* a, int64_t n, uint32_t sort, QvCompl
  * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
  * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1596,6 +1622,7 @@ QV_API QvStatus ZemFunc252(const double* a, const double* b, int64_t n, QvComple
  * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
  * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1624,6 +1651,7 @@ QV_API QvStatus ZemFunc253(const QvComplex* a, const QvComplex* b, int64_t n, Qv
  * @retval 20005 a first form cannot be ordered and a second does not converge; the first is given, its order not complete
  * @retval -20061 the order is above 4; tested first
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
@@ -1652,6 +1680,7 @@ QV_API QvStatus ZemFunc256(const double* a, const double* b, int64_t n, uint32_t
  * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
  * @retval -20061 the order is above 4; tested first
  * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
  * @retval -20062 the iteration did not converge; nothing is written
