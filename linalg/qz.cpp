@@ -31,10 +31,12 @@ struct Pencil {
 
     Count exchange(Count first, Count second) noexcept;
     bool joined(Count row) const noexcept { return RealPart(s[at(row) + 1]) != 0; }
+    // With a beta that is not negative, as everywhere.
     void reread(Count row) noexcept {
-        values.re[row] = RealPart(s[at(row)]);
+        const double beta = RealPart(t[at(row)]), sign = beta < 0 ? -1 : 1;
+        values.re[row] = sign * RealPart(s[at(row)]);
         values.im[row] = 0;
-        values.beta[row] = RealPart(t[at(row)]);
+        values.beta[row] = sign * beta;
     }
 
 private:
@@ -134,14 +136,15 @@ void MakeDiagonalPositive(Pencil<T>& pencil) noexcept {
     for (std::size_t k = 0; k < n; ++k) {
         T& diagonal = pencil.t[k + k * n];
         const double modulus = Modulus(diagonal);
-        if (RealPart(diagonal) == modulus) continue;
+        const T positive = element::Scaled(element::One<T>(), modulus);
+        if (element::Equal(diagonal, positive)) continue;
         const T turn = Turn(diagonal, modulus), back = element::Conjugate(turn);
         // From the column before the diagonal on: the row may be the second of a pair.
         for (std::size_t j = k == 0 ? 0 : k - 1; j < n; ++j) {
             pencil.s[k + j * n] = element::Product(pencil.s[k + j * n], turn);
             pencil.t[k + j * n] = element::Product(pencil.t[k + j * n], turn);
         }
-        diagonal = element::Scaled(element::One<T>(), modulus);
+        diagonal = positive;
         for (std::size_t i = 0; pencil.q && i < n; ++i)
             pencil.q[i + k * n] = element::Product(pencil.q[i + k * n], back);
     }

@@ -1654,7 +1654,7 @@ QV_API QvStatus ZemFunc253(const QvComplex* a, const QvComplex* b, int64_t n, Qv
  * @retval -20046 a matrix has more than 2^31 - 1 elements
  * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
  * @retval -20001 memory is exhausted
- * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20062 the iteration did not converge, or with vectors a pair is so nearly real that it has none; nothing is written
  * @retval -20999 the provider fails
  * @retval -20073 eigenvalues are too close to be exchanged, in a second form that is tried as well; nothing is written
  */
