@@ -26,6 +26,7 @@ SORT_SIZES = (100, 1000, 10000, 100000, 1000000)
 SORT_POOL = 100000
 CONVOLUTIONS = ((100, 100), (1000, 1000), (10000, 100), (10000, 10000), (100000, 1000), (100000, 100000))
 WINDOW_SIZES = (256, 4096, 65536)
+PEAK_SIZES = (1000, 100000, 1000000)
 
 
 @dataclass
@@ -172,6 +173,20 @@ def window_cases(library):
             same = "True" if tolerance is None else f"numpy.allclose(kept, out, rtol=0, atol={tolerance})"
             yield Case(f"window_{name}", str(n), f"copyto(out, x); f(pout, n{extra})",
                        f"multiply(x, {scipy_call}, out)", names, same)
+
+
+def peak_cases(library):
+    """Windows of three samples find the local maxima above the threshold, and interpolate them besides; an apex between
+    samples may pass a threshold that its sample does not, so there is none."""
+    detect, release = library.call(194, "pidicccpppp"), library.call(234, "p", None)
+    for n in PEAK_SIZES:
+        x, out, arrays = noise(n, 1), np.zeros(1, np.int64), np.zeros(3, np.int64)
+        pointers = [ctypes.c_void_p(arrays.ctypes.data + 8 * k) for k in range(3)]
+        names = dict(f=detect, r=release, x=x, out=out, a=arrays, n=n, px=address(x), pout=address(out), p0=pointers[0],
+                     p1=pointers[1], p2=pointers[2], find_peaks=scipy.signal.find_peaks, low=-1e300)
+        yield Case("peaks_3", str(n), "r(int(a[0])); r(int(a[1])); r(int(a[2])); "
+                   "f(px, n, low, 3, 0, 1, 1, pout, p0, p1, p2)", "find_peaks(x, height=low)", names,
+                   "kept[0] == len(find_peaks(x)[0])")
 
 
 # Name, interval, Quorvan's value at x, SciPy's statement.

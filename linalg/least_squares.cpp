@@ -61,6 +61,8 @@ template <>
 Status SolveLeastSquares(const double* a, Count m, Count n, const double* b, Count nrhs, double tolerance,
                          double* x) noexcept {
     if (m < 1 || n < 1 || nrhs < 1) return status::kSamplesNotPositive;
+    // The provider takes NaN for an illegal argument, and the reference one ends the program on those.
+    if (MatScreen(a, Elements(m, n)) || MatScreen(b, Elements(m, nrhs))) return status::kNonFiniteInput;
     const auto solve = IsVeryWide(m, n) ? ByPseudoInverse<double> : ByDivideAndConquer;
     return solve(a, m, n, b, nrhs, tolerance, x);
 }
@@ -69,6 +71,7 @@ template <>
 Status SolveLeastSquares(const ComplexRecord* a, Count m, Count n, const ComplexRecord* b, Count nrhs, double tolerance,
                          ComplexRecord* x) noexcept {
     if (m < 1 || n < 1 || nrhs < 1) return status::kSamplesNotPositive;
+    if (MatScreen(a, Elements(m, n)) || MatScreen(b, Elements(m, nrhs))) return status::kNonFiniteInput;
     return ByPseudoInverse(a, m, n, b, nrhs, tolerance, x);
 }
 

@@ -93,12 +93,6 @@ Status SolveTriangular(const T* a, Count n, bool lower, const T* b, Count nrhs, 
     return status::kSuccess;
 }
 
-template <class T>
-Status SolveGeneral(const T* a, Count m, Count n, const T* b, Count nrhs, T* x) noexcept {
-    if (MatScreen(a, Elements(m, n)) || MatScreen(b, Elements(m, nrhs))) return status::kNonFiniteInput;
-    return SolveLeastSquares(a, m, n, b, nrhs, -1.0, x);
-}
-
 }  // namespace
 
 template <class T>
@@ -106,7 +100,7 @@ Status MatSolveMany(const T* a, Count m, Count n, std::uint32_t kind, const T* b
     if (kind != kGeneral && kind <= kUpperTriangular && m != n) return status::kNotSquare;
     if (m < 1 || n < 1 || nrhs < 1) return status::kSamplesNotPositive;
     switch (kind) {
-        case kGeneral: return SolveGeneral(a, m, n, b, nrhs, x);
+        case kGeneral: return SolveLeastSquares(a, m, n, b, nrhs, -1.0, x);
         case kPositiveDefinite: return SolvePositiveDefinite(a, n, b, nrhs, x);
         case kLowerTriangular:
         case kUpperTriangular: return SolveTriangular(a, n, kind == kLowerTriangular, b, nrhs, x);

@@ -7,7 +7,7 @@ namespace quorvan {
 
 // Minimum-norm least squares of A·X = B, A m by n, nrhs right-hand sides, with the factorisation's tolerance relative
 // to max(m, n)·s(0); a negative one stands for the double epsilon. Below full rank the warning 20001, with the
-// solution. Not screened here. X may be A or B.
+// solution. -20068 for NaN or infinities in A or B: the provider takes them for illegal arguments. X may be A or B.
 template <class T>
 Status SolveLeastSquares(const T* a, Count m, Count n, const T* b, Count nrhs, double tolerance, T* x) noexcept;
 

@@ -1476,6 +1476,188 @@ QV_API QvStatus ZemFunc251(QvComplex* v, int64_t n, uint32_t job, uint32_t side,
 
 /** @} */
 
+/** @defgroup direct_filters Direct-form and smoothing filters
+ * Filters that take plain coefficient arrays. The transfer function of the direct form is
+ * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
+ * state: the last nb - 1 inputs and the last na - 1 outputs, the oldest first. Zeros start from rest; handing the same
+ * arrays back continues a stream, and a stream may be cut anywhere.
+ * @{
+ */
+
+/**
+ * FilterFir.
+ * Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ...
+ * Each sum is added in this order, so that blocks give the bits of the whole.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ * @code
+ * double state[2] = {0, 0}, b[3] = {0.25, 0.5, 0.25};
+ * QvFilterFir(x, 1000, b, state, 3, y);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc352(const double* x, int64_t n, const double* b, double* inputState, int32_t nb, double* y);
+#define QvFilterFir ZemFunc352
+
+/**
+ * FilterDirect.
+ * Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ...
+ * Outputs of magnitude 2.2250738585072014e-308 and below become 0; without feedback they stay.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na], may be null: the denominator; null: no feedback
+ * @param outputState read and written, [na - 1], may be null: the last outputs, the oldest first; null: no feedback
+ * @param na the length of a; below 1: no feedback
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc92(const double* x, int64_t n, const double* a, double* outputState, int32_t na, const double* b, double* inputState, int32_t nb, double* y);
+#define QvFilterDirect ZemFunc92
+
+/**
+ * FilterFirComplex.
+ * Filters complex samples with real coefficients and without feedback.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc353(const QvComplex* x, int64_t n, const double* b, QvComplex* inputState, int32_t nb, QvComplex* y);
+#define QvFilterFirComplex ZemFunc353
+
+/**
+ * FilterDirectComplex.
+ * Filters complex samples with real coefficients and feedback; the parts are separate streams.
+ * A part of magnitude 2.2250738585072014e-308 and below becomes 0; without feedback it stays.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na], may be null: the denominator; null: no feedback
+ * @param outputState read and written, [na - 1], may be null: the last outputs, the oldest first; null: no feedback
+ * @param na the length of a; below 1: no feedback
+ * @param b read, [nb]: the numerator
+ * @param inputState read and written, [nb - 1]: the last inputs, the oldest first
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n or nb is below 1
+ */
+QV_API QvStatus ZemFunc354(const QvComplex* x, int64_t n, const double* a, QvComplex* outputState, int32_t na, const double* b, QvComplex* inputState, int32_t nb, QvComplex* y);
+#define QvFilterDirectComplex ZemFunc354
+
+/**
+ * FilterZeroPhase.
+ * Filters forwards and backwards: no phase, and the square of the amplitude response.
+ * The signal stands between max(na, nb) zeros on both sides, and both passes start from rest.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param a read, [na]: the denominator
+ * @param na the length of a
+ * @param b read, [nb]: the numerator
+ * @param nb the length of b
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n, na or nb is below 1
+ * @retval -20046 the padded signal exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFilterZeroPhase(ecg, 1000, a, 3, b, 3, smooth);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc385(const double* x, int64_t n, const double* a, int32_t na, const double* b, int32_t nb, double* y);
+#define QvFilterZeroPhase ZemFunc385
+
+/**
+ * SavitzkyGolayDesign.
+ * The least-squares polynomial filters of a frame.
+ * The polynomial's argument counts samples from the middle: k! times row k of derivatives is the k-th derivative there
+ * for a sampling interval of 1. A. Savitzky and M. J. E. Golay, Anal. Chem. 36 (1964). On an error nothing is written.
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param wantDerivatives not 0: derivatives are written
+ * @param smoother written, [(2 * side + 1) * (2 * side + 1)]: row i is the filter for the sample at position i of a frame
+ * @param derivatives written, [(order + 1) * (2 * side + 1)], may be null: row k gives the coefficient of the k-th power
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20046 2 side + 1 exceeds 2^31 - 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc355(int32_t order, int32_t side, const double* weights, int32_t wantDerivatives, double* smoother, double* derivatives);
+#define QvSavitzkyGolayDesign ZemFunc355
+
+/**
+ * SavitzkyGolayFilter.
+ * Smooths by the least-squares polynomial of each frame.
+ * There is no padding: the first and the last `side` samples come from the polynomials of the first and the last frame.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param y written, [n]: the output; may be x
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20008 n is below 2 side + 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc356(const double* x, int64_t n, int32_t order, int32_t side, const double* weights, double* y);
+#define QvSavitzkyGolayFilter ZemFunc356
+
+/**
+ * SavitzkyGolayFilterComplex.
+ * Smooths the two parts of complex samples, each as a real signal.
+ * There is no padding: the first and the last `side` samples come from the polynomials of the first and the last frame.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param order the order of the polynomials
+ * @param side the samples on each side of the middle: frames have N = 2 side + 1
+ * @param weights read, [2 * side + 1], may be null: the weights of the samples of a frame, by magnitude; null: all 1
+ * @param y written, [n]: the output; may be x
+ * @retval -20063 the order is below 1
+ * @retval -20037 2 side + 1 is not above the order
+ * @retval -20008 n is below 2 side + 1
+ * @retval -20068 a weight is not finite, or a power of a position overflows
+ * @retval -20041 too few samples have a weight
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc357(const QvComplex* x, int64_t n, int32_t order, int32_t side, const double* weights, QvComplex* y);
+#define QvSavitzkyGolayFilterComplex ZemFunc357
+
+/**
+ * FilterMedian.
+ * The running median, y[t] = median of x[t - leftRank .. t + rightRank].
+ * Beyond both ends stand zeros. An even window gives the mean of its two middle values. NaN sorts below all numbers.
+ * @param x read, [n]: the input
+ * @param n the number of samples
+ * @param leftRank the samples before each one in its window
+ * @param rightRank the samples behind it; negative: as many as before
+ * @param y written, [n]: the output; may be x
+ * @retval -20003 n is below 0
+ * @retval -20032 the left rank is negative
+ * @retval -20008 n is above 0 and not above the right rank
+ * @retval -20046 the window exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFilterMedian(x, 1000, 2, -1, y);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t rightRank, double* y);
+#define QvFilterMedian ZemFunc407
+
+/** @} */
+
 /** @defgroup eigenproblems Eigenproblems
  * Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
  * eigenvalues in a chosen order along the diagonal.
@@ -2076,6 +2258,115 @@ QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, doubl
  */
 QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule, double* result);
 #define QvIntegrateSamples ZemFunc230
+
+/** @} */
+
+/** @defgroup interpolation Interpolation
+ * The value between samples: by the one polynomial or the one diagonal rational function through all of them, by a cubic
+ * spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing spline, which weighs
+ * the fit of the samples against the curvature.
+ * @{
+ */
+
+/**
+ * InterpPolynomial.
+ * The value of the polynomial of degree n - 1 through all samples.
+ * Neville's scheme, along the path of corrections nearest the point. On an error nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample
+ * @retval -20003 n is below 1
+ * @retval -20049 two abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 3}, y[3] = {1, 2, 10}, value, error;
+ * QvInterpPolynomial(x, y, 3, 2, &value, &error);  // 5
+ * @endcode
+ */
+QV_API QvStatus ZemFunc138(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpPolynomial ZemFunc138
+
+/**
+ * InterpRational.
+ * The value of the diagonal rational function through all samples.
+ * The scheme of R. Bulirsch and J. Stoer (Numer. Math. 6, 1964). At a sample the value is that sample. On an error
+ * nothing is written.
+ * @param x read, [n]: the abscissas, distinct, in any order
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @param error written: an estimate of its error: the last correction; 0 for one sample and at a sample
+ * @retval -20003 n is below 1
+ * @retval -20050 the function has a pole at the point
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc146(const double* x, const double* y, int64_t n, double point, double* result, double* error);
+#define QvInterpRational ZemFunc146
+
+/**
+ * InterpSplineSecondDerivatives.
+ * The second derivatives of the interpolating cubic spline, for QvInterpSplineEvaluate.
+ * At a natural end the second derivative is 0. One sample gives 0. On -20049 the array holds partial values.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples
+ * @param first the first derivative at the first sample; above 9.9e29: a natural end
+ * @param last the first derivative at the last sample; above 9.9e29: a natural end
+ * @param second written, [n]: the second derivatives of the spline at the samples
+ * @retval -20003 n is below 1
+ * @retval -20049 two of three consecutive abscissas are equal
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvInterpSplineSecondDerivatives(x, y, n, 1e30, 1e30, second);
+ * QvInterpSplineEvaluate(x, y, second, n, 2.5, &value);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc164(const double* x, const double* y, int64_t n, double first, double last, double* second);
+#define QvInterpSplineSecondDerivatives ZemFunc164
+
+/**
+ * InterpSplineEvaluate.
+ * The value of a cubic spline. Beyond the samples the end interval goes on.
+ * @param x read, [n]: the abscissas, ascending or descending
+ * @param y read, [n]: the ordinates
+ * @param second read, [n]: the second derivatives at the samples
+ * @param n the number of samples
+ * @param point where the value is wanted
+ * @param result written: the value
+ * @retval -20003 n is below 1
+ * @retval -20049 the interval at the point has the width 0, as one sample has
+ */
+QV_API QvStatus ZemFunc163(const double* x, const double* y, const double* second, int64_t n, double point, double* result);
+#define QvInterpSplineEvaluate ZemFunc163
+
+/**
+ * InterpSmoothingSpline.
+ * The values at the samples of the cubic smoothing spline, which minimises
+ * balance sum of w (y - s)^2 + (1 - balance) integral of lambda s''^2.
+ * C. H. Reinsch, Numer. Math. 10 (1967). A balance outside 0 to 1 becomes 8 / (8 + g^3) with g = (x[n - 1] - x[0]) / n.
+ * A balance of exactly 1 copies y. Two samples leave the output untouched. On an error nothing is written, except that a
+ * balance of 1 copies before it finds equal abscissas.
+ * @param x read, [n], may be null: the abscissas, strictly ascending
+ * @param y read and written, [n]: the ordinates; the smoothed values when out is null
+ * @param weights read, [n], may be null: the weights of the samples, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param balance from 0, the least-squares line, to 1, interpolation; outside, it is chosen from the mean interval
+ * @param smoothness read, [n - 1], may be null: the weights of the intervals' curvature, by magnitude; null: all 1
+ * @param out written, [n], may be null: the smoothed values; null: over y
+ * @retval -20006 n is below 2
+ * @retval -20002 x is null
+ * @retval -20049 the abscissas do not ascend strictly; with a balance of 1: two of three consecutive ones are equal
+ * @retval -20141 a weight of a sample or of an interval is 0
+ * @retval -20041 the system is singular (seven samples and more)
+ * @retval -20062 the solver did not converge (fewer than seven samples)
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, int64_t n, double balance, const double* smoothness, double* out);
+#define QvInterpSmoothingSpline ZemFunc285
 
 /** @} */
 
@@ -2947,6 +3238,225 @@ QV_API QvStatus ZemFunc416(const QvComplex* x, int64_t n, int64_t p, uint32_t me
 
 /** @} */
 
+/** @defgroup nonlinear_fit Nonlinear fit
+ * Levenberg-Marquardt fits of a model y = f(x; a) that the caller supplies as a function; the gradient is taken by
+ * central differences. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient.
+ * While a derivative is taken one coefficient is moved in place; it is put back exactly. A model must return: one that
+ * leaves by longjmp or by an exception leaks the library's work memory, and that is its own fault.
+ * @{
+ */
+
+/**
+ * FitNonlinear.
+ * Fits the coefficients of a model to samples, without a limit to the iterations.
+ * The fit ends at the second small change of chi-square in a row, with small below 0.001 or below 1e-5 of it; scale data
+ * whose chi-square is that small. A model that becomes NaN or infinite ends the fit quietly with what was accepted.
+ * K. Levenberg, Quart. Appl. Math. 2 (1944); D. W. Marquardt, SIAM J. 11 (1963).
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 a solver did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double decay(double x, double* a, int32_t m) { return a[0] * exp(-a[1] * x); }
+ * double a[2] = {1, 0.1}, error;
+ * QvFitNonlinear(x, y, fitted, n, decay, a, 2, &error);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc130(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinear ZemFunc130
+
+/**
+ * FitNonlinearAlias (FitNonlinear).
+ * The same entry as ZemFunc130.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc339(const double* x, const double* y, double* fitted, int64_t n, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearAlias ZemFunc339
+
+/**
+ * FitNonlinearLimited.
+ * The fit with a limit to its iterations.
+ * A limit of 0 takes no step: the outputs describe the guess.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ * @retval -20003 n or m is below 1
+ * @retval -20037 n is below m
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more; the results are written
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc131(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimited ZemFunc131
+
+/**
+ * FitNonlinearLimitedAlias (FitNonlinearLimited).
+ * The same entry as ZemFunc131.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param fitted written, [n], may be null: the model at x; written only together with meanSquaredError
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean of (f - y)^2; written only together with fitted
+ */
+QV_API QvStatus ZemFunc338(const double* x, const double* y, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError);
+#define QvFitNonlinearLimitedAlias ZemFunc338
+
+/**
+ * FitNonlinearWeighted.
+ * The fit with weights.
+ * Weights that are all 0 fit like no weights. Without fitted there is no mean squared error. On an error neither is
+ * written; iterations is 0 then, or tells how far the fit came.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ * @retval -20068 a weight is NaN or infinite
+ * @retval -20003 n or m is below 1
+ * @retval -20037 fewer than m samples have a weight
+ * @retval -20062 at the limit the last two values of chi-square differ by 1e-6 of the smaller or more
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc374(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeighted ZemFunc374
+
+/**
+ * FitNonlinearWeightedAlias (FitNonlinearWeighted).
+ * The same entry as ZemFunc374.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; a sample of weight 0 is left out of the fit; null: all 1
+ * @param fitted written, [n], may be null: the model at all x
+ * @param n the number of samples
+ * @param limit the number of iterations at most; negative: no limit
+ * @param model the model
+ * @param coefficients read and written, [m]: in: the initial guess; out: the result
+ * @param m the number of coefficients
+ * @param meanSquaredError written, may be null: the mean over all n of |w| (f - y)^2; needs fitted
+ * @param iterations written, may be null: the number of iterations
+ */
+QV_API QvStatus ZemFunc375(const double* x, const double* y, const double* weights, double* fitted, int64_t n, int32_t limit, QvModel model, double* coefficients, int32_t m, double* meanSquaredError, int32_t* iterations);
+#define QvFitNonlinearWeightedAlias ZemFunc375
+
+/** @} */
+
+/** @defgroup peaks Peak and level detection
+ * Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas fitted to a
+ * sliding window. Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no
+ * handle. Positions count from the start of the stream.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * PeakThresholdRuns.
+ * Finds where a signal stays at or above a threshold for at least `width` samples. NaN is below every threshold.
+ * A width of 0 divides by zero, which ends the process on most machines.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param threshold samples at or above it form runs
+ * @param width least length of a run, below n; it must not be 0, which is not tested
+ * @param indices written, [n / width + 1], may be null: the first samples of the runs, as many as count tells
+ * @param count written: the number of runs
+ * @retval -20003 n / width + 1 is below 1; nothing is written
+ * @retval -20001 memory is exhausted; nothing is written
+ * @retval -20003 n is below 1; count is 0
+ * @retval -20013 the width is below 1, or not below n; count is 0
+ * @code
+ * int64_t starts[101], count;
+ * QvPeakThresholdRuns(x, 1000, 0.5, 10, starts, &count);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc237(const double* x, int64_t n, double threshold, int64_t width, int64_t* indices, int64_t* count);
+#define QvPeakThresholdRuns ZemFunc237
+
+/**
+ * PeakThresholdRunsStream.
+ * The same in consecutive blocks: a run may go on from block to block, and is told once, when it has reached the width.
+ * After a failure the stream stays as it was, also with reset, and nothing is written.
+ * The width may change from block to block. Positions have 32 bits, and wrap.
+ * @param x read, [n]: the next block of the signal
+ * @param n its length, also 0
+ * @param threshold samples at or above it form runs
+ * @param width least length of a run, 1 to 2^30
+ * @param reset other than 0: the block is the first of a new stream
+ * @param last other than 0: the stream ends with this block
+ * @param indices written, [n / width + 1], may be null: the first samples of the runs, as many as count tells
+ * @param count written: the number of runs that have reached the width within this block
+ * @retval -20001 memory is exhausted
+ * @retval -20003 n is below 0
+ * @retval -20013 the width is below 1 or above 2^30
+ */
+QV_API QvStatus ZemFunc493(const double* x, int64_t n, double threshold, int64_t width, int32_t reset, int32_t last, int64_t* indices, int64_t* count);
+#define QvPeakThresholdRunsStream ZemFunc493
+
+/**
+ * PeakDetect.
+ * Finds peaks or valleys from the parabolas c0 + c1 t + c2 t^2 that fit each window best (least squares), where their
+ * slope changes its sign from one window to the next. The apex must lie within the middle half of the window. Windows of
+ * 3 and 4 samples are judged by their curvature alone.
+ * Of peaks less than one sample apart the higher stands, of valleys the lower. This is not done across blocks.
+ * The last window of a block waits for the next one; call with last to have all, also to end a stream.
+ * The three arrays belong to the caller, who releases each with QvMemoryRelease; they are null where nothing was found and
+ * after every failure, which also ends the stream.
+ * @param x read, [n]: the next block of the signal
+ * @param n its length, at least the width
+ * @param threshold peaks must be above it, valleys below
+ * @param width of the window, 3 to 2^30, the same for all blocks of a stream
+ * @param polarity 0 peaks, 1 valleys; others find nothing
+ * @param first other than 0: the block begins a new stream
+ * @param last other than 0: the stream ends with this block
+ * @param count written: the number of peaks
+ * @param locations set to an array of the library, null when it is empty, [count]: their positions in samples, between samples too
+ * @param amplitudes set to an array of the library, null when it is empty, [count]: their heights
+ * @param secondDerivatives set to an array of the library, null when it is empty, [count]: of the parabola, per sample squared
+ * @retval -20061 the width is below 3 or above 2^30
+ * @retval -20001 memory is exhausted
+ * @retval -20013 the block is shorter than the width
+ * @retval -20064 first is 0, and there is no stream
+ * @retval -20058 the width is not that of the stream
+ * @code
+ * int64_t count;
+ * double *locations, *heights, *curvatures;
+ * QvPeakDetect(x, n, 0.5, 9, 0, 1, 1, &count, &locations, &heights, &curvatures);
+ * QvMemoryRelease(locations);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc194(const double* x, int64_t n, double threshold, int64_t width, uint32_t polarity, uint32_t first, int32_t last, int64_t* count, double** locations, double** amplitudes, double** secondDerivatives);
+#define QvPeakDetect ZemFunc194
+
+/** @} */
+
 /** @defgroup plans FFT plans
  * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
  * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the
@@ -3006,6 +3516,209 @@ QV_API void ZemFunc261(QvFftPlan* plan);
  */
 QV_API QvStatus ZemFunc231(const double* c, int32_t m, QvComplex* z);
 #define QvPolyZeros ZemFunc231
+
+/** @} */
+
+/** @defgroup pulse_parameters Shape of a single pulse
+ * @{
+ */
+
+/**
+ * PulseParameters.
+ * Levels and timing of the first pulse in a record.
+ * The levels are the centres of the fullest of 101 equal bins between the extremes, one looked for from each end, of
+ * equally full bins the outermost. A pulse goes down when its first sample is above level50.
+ * Times are interpolated between samples, and the slew rate is made of them; then they are truncated to whole samples.
+ * Where an edge does not end, its time lasts to the end of the record; the last sample never counts as a crossing.
+ * NaN is passed over, but not as first sample.
+ * @param x read, [n]: the waveform, with one pulse
+ * @param n its length
+ * @param amplitude written: top - base; negative for a pulse that goes down
+ * @param level90 written: 90 percent of the way from the lower to the upper level
+ * @param level50 written: 50 percent
+ * @param level10 written: 10 percent
+ * @param top written: the level of the pulse; the lower one for a pulse that goes down
+ * @param base written: the level around the pulse; the upper one for a pulse that goes down
+ * @param overshoot written: the largest sample above the upper level
+ * @param undershoot written: the smallest sample below the lower level
+ * @param delay written: samples from the start of the record to the first crossing of level50
+ * @param width written: samples from there to the next crossing of level50
+ * @param rise written: samples of the first edge between level10 and level90
+ * @param fall written: samples of the second edge between them
+ * @param slew written: 0.8 amplitude / rise; 1e30 for a rise of 0
+ * @retval -20003 n is below 1; nothing is written
+ * @retval -20116 a time has no value within the record, which includes every constant signal; the four times are 0
+ * @code
+ * double amplitude, level[3], top, base, overshoot, undershoot, slew;
+ * int64_t delay, width, rise, fall;
+ * QvPulseParameters(x, n, &amplitude, &level[2], &level[1], &level[0], &top, &base, &overshoot, &undershoot, &delay,
+ * &width, &rise, &fall, &slew);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc142(const double* x, int64_t n, double* amplitude, double* level90, double* level50, double* level10, double* top, double* base, double* overshoot, double* undershoot, int64_t* delay, int64_t* width, int64_t* rise, int64_t* fall, double* slew);
+#define QvPulseParameters ZemFunc142
+
+/** @} */
+
+/** @defgroup pulses Pulse and transition measurements
+ * A waveform is taken as a signal between two states. Its state levels are found first; then references between them,
+ * the crossings of the references, and from these the timing of pulses and edges. Times are in samples from the start
+ * of the record, interpolated linearly between samples.
+ * Level methods: 0 histogram, the fullest bins of the lower and of the upper two fifths, of equally full ones the
+ * outermost; 1 peak, the extremes; 2 autoselect, the modes of the histogram where each holds more than 5 percent of
+ * the samples, the extremes otherwise. A mode is given as the centre of its bin.
+ * References go in as high, mid, low, absolute or in percent of the amplitude above the low level. Percent are
+ * converted in place, and the absolute levels come out once more as low, mid, high, after every error but -20046, -20317
+ * and -20001. The method is looked at only where levels are measured. Polarity: 0 falling, 1 rising.
+ * The warning 20021 tells of a mode with less than 5 percent of the samples; it has no text in StatusMessage.
+ * Statuses are tested in the order in which they are listed. Behind -20001, outputs that an error leaves without a
+ * value are 0; before it nothing is written.
+ * @{
+ */
+
+/**
+ * PulseStateLevels.
+ * The two state levels of a waveform.
+ * The histogram has equal bins from the smallest to the largest sample; a sample is in bin floor((x - min) / width).
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param method 0 histogram, 1 peak, 2 autoselect
+ * @param bins of the histogram, for every method at least 1
+ * @param high written: the upper state level
+ * @param low written: the lower state level
+ * @param amplitude written: high - low
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 the method is above 2
+ * @retval -20309 all samples are equal; not with method 1
+ * @retval 20021 method 0, and a mode holds less than 5 percent of the samples
+ * @code
+ * double high, low, amplitude;
+ * QvPulseStateLevels(x, n, 0, 256, &high, &low, &amplitude);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc363(const double* x, int64_t n, uint32_t method, int64_t bins, double* high, double* low, double* amplitude);
+#define QvPulseStateLevels ZemFunc363
+
+/**
+ * PulseCycleTiming.
+ * Period, width and duty cycle of one pulse of a train.
+ * A crossing of mid counts when the signal has been on the other side of mid - h or mid + h since the one before, with h
+ * the smaller of high - mid and mid - low; this keeps noise from counting twice.
+ * 2 cycle + 1 crossings are needed.
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param polarity of the start of the pulse: 0 falling, 1 rising, -1 the first of any
+ * @param cycle number of the pulse, from 1
+ * @param high read and written: upper reference
+ * @param mid read and written: middle reference, whose crossings bound the pulse
+ * @param low read and written: lower reference
+ * @param percent other than 0: the references are in percent
+ * @param method of the state levels, for references in percent
+ * @param bins of the histogram, at least 1
+ * @param period written: samples between the crossings 2 cycle - 1 and 2 cycle + 1, whatever the polarity
+ * @param duration written: samples from the start to the end of the pulse
+ * @param duty written: duration / period
+ * @param centre written: the middle of the pulse, in samples
+ * @param lowOut written: low, absolute
+ * @param midOut written: mid, absolute
+ * @param highOut written: high, absolute
+ * @retval -20046 2 cycle + 1 does not fit 32 bits
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20323 cycle is below 1
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 percent, and the method is above 2
+ * @retval -20309 percent with method 0 or 2, and all samples are equal
+ * @retval -20313 mid is above high or below low
+ * @retval -20311 memory for the crossings is exhausted
+ * @retval -20308 there are fewer crossings, or none that the polarity names
+ * @retval 20021 percent with method 0, and a mode holds less than 5 percent of the samples
+ */
+QV_API QvStatus ZemFunc364(const double* x, int64_t n, int32_t polarity, int64_t cycle, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* period, double* duration, double* duty, double* centre, double* lowOut, double* midOut, double* highOut);
+#define QvPulseCycleTiming ZemFunc364
+
+/**
+ * PulseCycleAverage.
+ * Mean and root mean square over one period, from the start of a pulse of any polarity.
+ * The period is found as by PulseCycleTiming, start and length are rounded to samples, and a period that would end
+ * behind the record is moved back to its end.
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param cycle number of the pulse, from 1
+ * @param high read and written: upper reference
+ * @param mid read and written: middle reference, whose crossings bound the pulse
+ * @param low read and written: lower reference
+ * @param percent other than 0: the references are in percent
+ * @param method of the state levels, for references in percent
+ * @param bins of the histogram, at least 1
+ * @param mean written: of the samples of one period
+ * @param rms written: root mean square of the samples of one period
+ * @param start written: of the period, in samples
+ * @param end written: of the period, in samples
+ * @param lowOut written: low, absolute
+ * @param midOut written: mid, absolute
+ * @param highOut written: high, absolute
+ * @retval -20046 2 cycle + 1 does not fit 32 bits
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20323 cycle is below 1
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 percent, and the method is above 2
+ * @retval -20309 percent with method 0 or 2, and all samples are equal
+ * @retval -20313 mid is above high or below low
+ * @retval -20311 memory for the crossings is exhausted
+ * @retval -20308 there are fewer than 2 cycle + 1 crossings
+ * @retval -20319 the period rounds to no sample; start and end are written
+ * @retval 20021 percent with method 0, and a mode holds less than 5 percent of the samples
+ */
+QV_API QvStatus ZemFunc365(const double* x, int64_t n, int64_t cycle, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* mean, double* rms, double* start, double* end, double* lowOut, double* midOut, double* highOut);
+#define QvPulseCycleAverage ZemFunc365
+
+/**
+ * PulseTransition.
+ * Timing and slew rate of one edge, and the ringing before and behind it.
+ * Ringing is measured from the modes of the histogram, whatever the method, and is 0 within the bin of the mode. It is
+ * looked for half way to the neighbouring edges, at most three durations away, and not where the edge itself moves.
+ * What has been found before an error stays in its output.
+ * @param x read, [n], may be null: the waveform
+ * @param n its length
+ * @param polarity of the edge: 0 falling, 1 rising
+ * @param edge number of the edge of that polarity, from 1
+ * @param high read and written: upper reference
+ * @param mid read and written: middle reference
+ * @param low read and written: lower reference
+ * @param percent other than 0: the references are in percent
+ * @param method of the state levels
+ * @param bins of the histogram, at least 1
+ * @param slew written: (high - low) / duration, in the unit of x per sample, positive for falling edges too
+ * @param duration written: samples between the crossings of both references
+ * @param firstTime written: the earlier of these crossings, in samples
+ * @param secondTime written: the later of these crossings, in samples
+ * @param lowOut written: low, absolute
+ * @param midOut written: mid, absolute
+ * @param highOut written: high, absolute
+ * @param preUndershoot written: below the level before the edge, in percent of the distance of the modes
+ * @param preOvershoot written: above the level before the edge
+ * @param postUndershoot written: below the level behind the edge
+ * @param postOvershoot written: above the level behind the edge
+ * @retval -20046 2 edge + 1 does not fit 32 bits
+ * @retval -20317 bins is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20323 edge is below 1
+ * @retval -20312 n is below 1, or x is null
+ * @retval -20316 the method is above 2
+ * @retval -20309 all samples are equal; with method 1 after the first cause of -20313
+ * @retval -20313 mid is above high or below low; or, after -20311, low is not below high
+ * @retval -20311 memory for the edges is exhausted
+ * @retval -20310 there are too few edges, or none of that polarity
+ * @retval -20312 no sample is left to look for ringing
+ * @retval -20326 the duration is not above 0
+ * @retval 20021 a mode holds less than 5 percent of the samples
+ */
+QV_API QvStatus ZemFunc366(const double* x, int64_t n, int32_t polarity, int64_t edge, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* slew, double* duration, double* firstTime, double* secondTime, double* lowOut, double* midOut, double* highOut, double* preUndershoot, double* preOvershoot, double* postUndershoot, double* postOvershoot);
+#define QvPulseTransition ZemFunc366
 
 /** @} */
 
