@@ -140,7 +140,7 @@ void Reduce(const Matrices& w, double* scales) noexcept {
 template <class Rotations>
 Status QrByRotations(double* a, Count m, Count n, double* q, double* r) noexcept {
     if (m < 1 || n < 1) return status::kSamplesNotPositive;
-    if (!ElementsFit(m, n) || !ElementsFit(m, m)) return status::kOverflow;
+    if (!ElementsFit(m, n) || (q && !ElementsFit(m, m))) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     const auto rows = static_cast<std::size_t>(m);
     const Block<double> turned(q ? Elements(m, m) : 0), scales(rows);

@@ -56,7 +56,7 @@ Status MatQrPivot(T* a, Count m, Count n, std::uint32_t pivotMode, bool economy,
             for (Count j = 0; j < n; ++j) pivots[j] = j;
         return status;
     }
-    if (!ElementsFit(m, n) || (!economy && !ElementsFit(m, m))) return status::kOverflow;
+    if (!ElementsFit(m, n) || (q && !economy && !ElementsFit(m, m))) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     return Pivoted(a, m, n, economy, pivots, q, r);
 }

@@ -439,6 +439,23 @@ TYPED_TEST(QrOf, EveryAllocationMayFailAndLeavesTheMatrix) {
     }
 }
 
+TYPED_TEST(QrOf, ATallMatrixWhoseFullQWouldHaveTooManyElementsHasItsTriangle) {
+    using T = TypeParam;
+    const int m = static_cast<int>(kTooManyElements);
+    const Guarded<T> a(m, Element<T>(1));
+    Guarded<T> input = a, r(m);
+    ASSERT_EQ(Qr<T>(input, m, 1, nullptr, r), 0);
+    EXPECT_NEAR(static_cast<double>(std::abs(Widen(r[0]))), std::sqrt(m), Bound(2, std::sqrt(m)));
+    ASSERT_EQ(QrPivot<T>(input, m, 1, 1, 0, nullptr, nullptr, r), 0);
+    EXPECT_NEAR(static_cast<double>(std::abs(Widen(r[0]))), std::sqrt(m), Bound(2, std::sqrt(m)));
+    if constexpr (std::is_same_v<T, double>)
+        for (std::uint32_t method : {1u, 2u}) {
+            ASSERT_EQ(ZemFunc192(input, m, 1, method, nullptr, r), 0);
+            // Each rotation of the chain rounds, in the same direction at worst.
+            EXPECT_NEAR(std::fabs(r[0]), std::sqrt(m), 4 * m * DBL_EPSILON * std::sqrt(m));
+        }
+}
+
 // Rotations
 
 TEST(GivensQr, RefusesSizesMethodsAndContentInThisOrder) {

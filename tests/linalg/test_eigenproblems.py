@@ -72,7 +72,7 @@ def test_franks_eigenvalues_come_in_reciprocal_pairs(qv):
     assert qv.ZemFunc201(frank(n), n, 0, values, None) == 0
     values = np.sort(values.real)
     # Its smallest ones have conditions of 1e4 or so at this size.
-    near(values * values[::-1], np.ones(n), 1e5 * bound(frank(n)) * EPS ** 0)
+    near(values * values[::-1], np.ones(n), 1e5 * bound(frank(n)))
 
 
 def test_companion_eigenvalues_are_the_roots(qv):
@@ -281,7 +281,8 @@ def test_generalised_eigenvalues_are_scipys(qv, a, b):
     infinite = ~np.isfinite(values)
     assert infinite.sum() == (~np.isfinite(expected)).sum() or np.abs(values[~infinite]).max() > 1e13
     for value in values[~infinite]:
-        distance = np.abs(expected - value) / (1 + abs(value)) / (1 + np.abs(expected))
+        with np.errstate(invalid="ignore"):  # infinite eigenvalues are at no distance
+            distance = np.abs(expected - value) / (1 + abs(value)) / (1 + np.abs(expected))
         assert np.nanmin(distance) <= 1e-8 or abs(value) > 1e13
     x, y, finite = right[:, ~infinite], left[:, ~infinite], values[~infinite]
     size = 20 * n ** 1.5 * EPS * (norm(a) + norm(b) * np.abs(finite))
