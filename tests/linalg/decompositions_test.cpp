@@ -426,13 +426,13 @@ TYPED_TEST(QrOf, EveryAllocationMayFailAndLeavesTheMatrix) {
         Guarded<T> q(25);
         Indices p(25);
         for (std::uint32_t mode : {0u, 1u, 2u})
-            ExpectEveryAllocationFails([&] {
+            ExpectEveryAllocationFails([&, m = m, n = n] {
                 Guarded<T> over = a;
                 const Status status = QrPivot<T>(over, m, n, mode, 0, p, q, nullptr);
                 EXPECT_TRUE(status == 0 || Same(over, a));
                 return status;
             });
-        ExpectEveryAllocationFails([&] {
+        ExpectEveryAllocationFails([&, m = m, n = n] {
             Guarded<T> over = a, full(25);
             return Qr<T>(over, m, n, full, nullptr);
         });
