@@ -217,6 +217,37 @@ def decomposition_cases(library):
             yield Case(name, str(n), f"f({arguments})", statement, names, same)
 
 
+# Name, number, argument types, Quorvan's call, NumPy's statement with the legacy generator and with the new one, mean and
+# standard deviation of a value. The results are other numbers of the same distribution: their means are compared.
+RANDOM = (
+    ("uniform", 182, "icp", "f(n, 7, pout)", "out = r.random_sample(n)", "out = r.random(n)", 0.5, 12**-0.5),
+    ("gaussian", 84, "idcp", "f(n, 1.0, 7, pout)", "out = r.standard_normal(n)", "out = r.standard_normal(n)", 0.0, 1.0),
+    ("gamma", 388, "icccp", "f(n, 3, 7, 1, pout)", "out = r.standard_gamma(3, n)", "out = r.standard_gamma(3, n)",
+     3.0, 3**0.5),
+    ("gamma_large", 388, "icccp", "f(n, 30, 7, 1, pout)", "out = r.standard_gamma(30, n)",
+     "out = r.standard_gamma(30, n)", 30.0, 30**0.5),
+    ("poisson", 389, "idccp", "f(n, 4.0, 7, 1, pout)", "out = r.poisson(4, n)", "out = r.poisson(4, n)", 4.0, 2.0),
+    ("poisson_large", 389, "idccp", "f(n, 40.0, 7, 1, pout)", "out = r.poisson(40, n)", "out = r.poisson(40, n)",
+     40.0, 40**0.5),
+    ("shuffle", 396, "picp", "f(pout, n, 7, None)", "r.shuffle(out)", "r.shuffle(out)", None, None),
+)
+RANDOM_SIZES = (1000, 100000)
+
+
+def random_cases(library, generator):
+    """Beside numpy.random.RandomState ("legacy") or numpy.random.Generator ("new")."""
+    for name, number, types, call, legacy, new, mean, deviation in RANDOM:
+        for n in RANDOM_SIZES:
+            out = aligned(n)
+            out[:] = np.arange(n)
+            rival = np.random.RandomState(7) if generator == "legacy" else np.random.default_rng(7)
+            names = dict(f=library.call(number, types), out=out, pout=address(out), n=n, r=rival)
+            # Each mean has a standard error of deviation / sqrt(n).
+            same = ("sorted(kept) == sorted(out)" if mean is None else
+                    f"abs(kept.mean() - {mean}) < 5 * {deviation} / n**0.5 > abs(out.mean() - {mean})")
+            yield Case(f"random_{name}", str(n), call, legacy if generator == "legacy" else new, names, same)
+
+
 # Name, interval, Quorvan's value at x, SciPy's statement.
 SPECIAL = (
     ("gamma", 0.1, 30.0, "f309(x, None)", "s.gamma(x, out)"),

@@ -1658,6 +1658,130 @@ QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t
 
 /** @} */
 
+/** @defgroup distributions Probability distributions
+ * The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The normal pair
+ * are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions bisect with a fixed
+ * tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical values, not for digits.
+ * After a status the output is as it was, except where NaN is told. A NaN probability gives -20053.
+ * @{
+ */
+
+/**
+ * DistErf.
+ * The error function, 2 / sqrt(pi) times the integral of exp(-t^2) from 0 to x. Always succeeds.
+ * Method: rational approximations, Cephes Math Library, S. L. Moshier.
+ * @param out written: from -1 to 1; NaN for NaN
+ */
+QV_API QvStatus ZemFunc70(double x, double* out);
+#define QvDistErf ZemFunc70
+
+/**
+ * DistErfc.
+ * The complementary error function, 1 - erf(x), without cancellation for large x. Always succeeds.
+ * Below exp(-709.78), from x of 26.64 on, it is 0.
+ * Method: rational approximations, Cephes Math Library, S. L. Moshier.
+ * @param out written: from 2 to 0; NaN for NaN
+ */
+QV_API QvStatus ZemFunc71(double x, double* out);
+#define QvDistErfc ZemFunc71
+
+/**
+ * DistNormalCdf.
+ * The distribution function of the standard normal distribution, right to 1.2e-5. Always succeeds.
+ * Method: Abramowitz and Stegun (1964), 26.2.16.
+ * @param x in standard deviations from the mean
+ * @param out written: the probability of a value at or below x
+ * @code
+ * double p;
+ * QvDistNormalCdf(1.96, &p);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc134(double x, double* out);
+#define QvDistNormalCdf ZemFunc134
+
+/**
+ * DistNormalInverse.
+ * The quantile of the standard normal distribution, right to 4.5e-4. That of 0.5 is near 0, not exactly 0.
+ * Method: Abramowitz and Stegun (1964), 26.2.23.
+ * @param p a probability, 0 to 1
+ * @param out written: the quantile; -Inf for 0, +Inf for 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc106(double p, double* out);
+#define QvDistNormalInverse ZemFunc106
+
+/**
+ * DistTCdf.
+ * The distribution function of Student's t distribution, from the incomplete beta function.
+ * @param dof degrees of freedom
+ * @param out written: the probability of a value at or below t
+ * @retval -20052 dof is below 1
+ * @retval -20104 t is NaN; out is NaN
+ */
+QV_API QvStatus ZemFunc181(double t, int32_t dof, double* out);
+#define QvDistTCdf ZemFunc181
+
+/**
+ * DistTInverse.
+ * The quantile of Student's t distribution, by bisection between -10000 and 10000; no other quantile lies outside.
+ * @param p a probability, 0 to 1
+ * @param dof degrees of freedom
+ * @param out written: the quantile, within 1e-4 below it; -Inf for 0, +Inf for 1
+ * @retval -20052 dof is below 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc107(double p, int32_t dof, double* out);
+#define QvDistTInverse ZemFunc107
+
+/**
+ * DistChiSquareCdf.
+ * The distribution function of the chi-square distribution, from the incomplete gamma function. It is 0 up to 0.
+ * @param dof degrees of freedom; 0 is allowed and gives NaN above 0
+ * @param out written: the probability of a value at or below x
+ * @retval -20052 dof is below 0
+ */
+QV_API QvStatus ZemFunc190(double x, int32_t dof, double* out);
+#define QvDistChiSquareCdf ZemFunc190
+
+/**
+ * DistChiSquareInverse.
+ * The quantile of the chi-square distribution, by bisection. The upper end of the bracket grows in steps of 5000.
+ * @param p a probability, 0 to 1
+ * @param dof degrees of freedom
+ * @param out written: the quantile, within 1e-4 below it; 0 for 0, +Inf for 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ * @retval -20052 dof is below 1
+ */
+QV_API QvStatus ZemFunc108(double p, int32_t dof, double* out);
+#define QvDistChiSquareInverse ZemFunc108
+
+/**
+ * DistFCdf.
+ * The distribution function of the F distribution, from the incomplete beta function. It is 0 up to 0.
+ * @param dof1 degrees of freedom of the numerator
+ * @param dof2 degrees of freedom of the denominator
+ * @param out written: the probability of a value at or below x
+ * @retval -20052 dof1 or dof2 is below 1
+ * @retval -20104 x is NaN; out is NaN
+ */
+QV_API QvStatus ZemFunc83(double x, int32_t dof1, int32_t dof2, double* out);
+#define QvDistFCdf ZemFunc83
+
+/**
+ * DistFInverse.
+ * The quantile of the F distribution, by bisection between 1e-6 and 10000; no other quantile lies outside.
+ * @param p a probability, 0 to 1
+ * @param dof1 degrees of freedom of the numerator
+ * @param dof2 degrees of freedom of the denominator
+ * @param out written: the quantile, within 1e-4 below it; 0 for 0, +Inf for 1
+ * @retval -20052 dof1 or dof2 is below 1
+ * @retval -20053 p is outside [0, 1] or NaN
+ */
+QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
+#define QvDistFInverse ZemFunc104
+
+/** @} */
+
 /** @defgroup eigenproblems Eigenproblems
  * Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
  * eigenvalues in a chosen order along the diagonal.
@@ -3187,6 +3311,30 @@ QV_API void ZemFunc470(void* block);
  */
 
 /**
+ * PolyRootsMultiple.
+ * The roots of a complex polynomial, with multiple roots kept together.
+ * The multiplicities come from approximate greatest common divisors with the derivative, found by singular values at a
+ * tolerance of 1e-10; with them held fixed the roots are refined by Gauss-Newton steps, on which a multiple root is as
+ * well conditioned as a simple one (Z. Zeng, Math. Comp. 74, 2005). Roots that lie closer than their coefficients can
+ * tell come back as one multiple root. High zero coefficients lower the degree; the rest of roots stays unwritten.
+ * @param c read, [n]: the coefficients in ascending powers, the constant first
+ * @param n their number
+ * @param roots written, [n - 1]: the roots, each as often as its multiplicity says, the root 0 last
+ * @retval -20003 n is below 1
+ * @retval -20063 a coefficient is NaN, infinite or of the largest magnitude
+ * @retval -20111 all coefficients are 0
+ * @retval -20021 the polynomial is a constant
+ * @retval -20062 the refinement or an eigenvalue did not converge; nothing is written
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvComplex c[4] = {{-1, 0}, {3, 0}, {-3, 0}, {1, 0}};
+ * QvPolyRootsMultiple(c, 4, roots);  // 1, three times
+ * @endcode
+ */
+QV_API QvStatus ZemFunc300(const QvComplex* c, uint32_t n, QvComplex* roots);
+#define QvPolyRootsMultiple ZemFunc300
+
+/**
  * MatLagProduct.
  * The normal matrix of linear prediction, unscaled: X^H X of the matrix X whose row t holds x[t], x[t - 1], ..., x[t
  * - p].
@@ -3490,6 +3638,38 @@ QV_API void ZemFunc261(QvFftPlan* plan);
 
 /** @} */
 
+/** @defgroup polynomial_roots Polynomial roots with their multiplicities
+ * The roots of a real polynomial, found in a way that keeps multiple roots together: first the structure of
+ * multiplicities, through a chain of approximate greatest common divisors of the polynomial and its derivative, then the
+ * distinct roots as simple roots of a divisor. The method is for accuracy on low and moderate degrees.
+ * @{
+ */
+
+/**
+ * PolyRootsReal.
+ * The roots of a real polynomial, with multiple roots kept together.
+ * Z. Zeng, Math. Comp. 74 (2005), at a tolerance of 1e-10; degrees 1 and 2 directly. Where no consistent structure is
+ * found, the eigenvalues of the companion matrix. High zero coefficients lower the degree; the rest of roots stays
+ * unwritten.
+ * @param c read, [n]: the coefficients in ascending powers, the constant first
+ * @param n their number
+ * @param roots written, [n - 1]: the roots, each as often as its multiplicity says, the root 0 last
+ * @retval -20003 n is below 1
+ * @retval -20063 a coefficient is NaN, infinite or of the largest magnitude
+ * @retval -20111 all coefficients are 0
+ * @retval -20021 the polynomial is a constant
+ * @retval -20062 an eigenvalue or a singular value did not converge; nothing is written
+ * @retval -20001 memory is exhausted
+ * @code
+ * double c[4] = {-1, 3, -3, 1};
+ * QvPolyRootsReal(c, 4, roots);  // 1, three times
+ * @endcode
+ */
+QV_API QvStatus ZemFunc299(const double* c, uint32_t n, QvComplex* roots);
+#define QvPolyRootsReal ZemFunc299
+
+/** @} */
+
 /** @defgroup polynomial_zeros Complex polynomial zeros
  * All zeros of a polynomial, one after the other: a walk downhill on |p(z)| with limited and turned Newton steps, pure
  * Newton steps near the zero, and deflation (K. Madsen, BIT 13, 1973). Plain and fast, without a notion of multiplicity.
@@ -3719,6 +3899,220 @@ QV_API QvStatus ZemFunc365(const double* x, int64_t n, int64_t cycle, double* hi
  */
 QV_API QvStatus ZemFunc366(const double* x, int64_t n, int32_t polarity, int64_t edge, double* high, double* mid, double* low, int32_t percent, uint32_t method, int64_t bins, double* slew, double* duration, double* firstTime, double* secondTime, double* lowOut, double* midOut, double* highOut, double* preUndershoot, double* preOvershoot, double* postUndershoot, double* postOvershoot);
 #define QvPulseTransition ZemFunc366
+
+/** @} */
+
+/** @defgroup random Noise, low-discrepancy sequences and shuffles
+ * Each generator keeps a stream of its own for each thread: kinds called in turn do not disturb each other, and two
+ * threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982).
+ * A seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
+ * negative one takes the clock on the thread's first call of that generator and goes on later. The seed is applied
+ * before n is tested.
+ * A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the seed
+ * if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever its seed.
+ * Seeding from the clock goes through srand and rand of the C library, whose state the process shares where the
+ * system has it so.
+ * Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them with -20061.
+ * @{
+ */
+
+/**
+ * GenUniformNoise.
+ * Uniform noise in [0, 1): draws of the core generator.
+ * @param n samples
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double out[1000];
+ * QvGenUniformNoise(1000, 7, out);  // the same samples at every call
+ * QvGenUniformNoise(1000, 0, out);  // goes on behind them
+ * @endcode
+ */
+QV_API QvStatus ZemFunc182(int64_t n, int32_t seed, double* out);
+#define QvGenUniformNoise ZemFunc182
+
+/**
+ * GenWhiteNoise.
+ * Uniform white noise in [-amplitude, amplitude): (u - 0.5) (2 amplitude) for draws u.
+ * @param n samples
+ * @param amplitude half the width; its sign is kept
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc185(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenWhiteNoise ZemFunc185
+
+/**
+ * GenGaussianNoise.
+ * Normal noise of mean 0 by the polar method (Marsaglia and Bray 1964).
+ * Deviates come in pairs; the second one waits for the next output, also of a later call.
+ * @param n samples
+ * @param deviation standard deviation; any number, it is a plain factor
+ * @param seed positive restarts and drops the waiting deviate, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the stream stands at 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc84(int64_t n, double deviation, int32_t seed, double* out);
+#define QvGenGaussianNoise ZemFunc84
+
+/**
+ * GenPeriodicRandomNoise.
+ * Noise of period n: the sum of cosines of one amplitude and random phases at all lines between zero frequency and half
+ * the sampling rate, without both.
+ * @param n samples, one period
+ * @param amplitude of each spectral line
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc387(int64_t n, double amplitude, int32_t seed, double* out);
+#define QvGenPeriodicRandomNoise ZemFunc387
+
+/**
+ * RngShuffleReal.
+ * Puts an array in random order (Fisher and Yates, from the last place down). The draws do not depend on perm.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc396(double* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleReal ZemFunc396
+
+/**
+ * RngShuffleComplex.
+ * RngShuffleReal for complex numbers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc397(QvComplex* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleComplex ZemFunc397
+
+/**
+ * RngShuffleInt.
+ * RngShuffleReal for integers, with a stream of its own.
+ * @param data read and written, [n]
+ * @param n elements
+ * @param seed positive restarts, 0 goes on, negative takes the clock once
+ * @param perm written, [n], may be null: perm[i] is the input element that now stands at place i
+ * @retval -20003 n is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc398(int32_t* data, int64_t n, int32_t seed, int64_t* perm);
+#define QvRngShuffleInt ZemFunc398
+
+/**
+ * GenGammaNoise.
+ * Gamma variates of integer order: -ln of a product of uniform draws below order 6, else rejection under a Lorentzian
+ * (Ahrens and Dieter 1974).
+ * @param n samples
+ * @param order the waiting time for so many events of rate 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20140 order is below 1
+ * @retval -20061 the stream stands at 0, from order 6 on
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc388(int64_t n, int32_t order, int32_t seed, int32_t reset, double* out);
+#define QvGenGammaNoise ZemFunc388
+
+/**
+ * GenPoissonNoise.
+ * Poisson variates, whole numbers: a product of uniform draws against exp(-mean) below a mean of 12, else rejection
+ * under a Lorentzian.
+ * @param n samples
+ * @param mean events expected
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 mean is negative, infinite or NaN, or so large that ln Gamma(mean + 1) overflows
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc389(int64_t n, double mean, int32_t seed, int32_t reset, double* out);
+#define QvGenPoissonNoise ZemFunc389
+
+/**
+ * GenBinomialNoise.
+ * Binomial variates, numbers of successes: by single trials below 25 of them, by the Poisson product for a mean below
+ * 1 of the rarer outcome, else by rejection under a Lorentzian.
+ * @param n samples
+ * @param trials in one sample
+ * @param probability of a success
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 trials is negative
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc390(int64_t n, int32_t trials, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBinomialNoise ZemFunc390
+
+/**
+ * GenBernoulliNoise.
+ * Ones with the given probability, else zeros: 1 where probability - 0.5 exceeds white noise of amplitude 0.5.
+ * @param n samples
+ * @param probability of a 1
+ * @param seed of a first or resetting call
+ * @param reset not 0 starts the stream anew
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20053 probability is outside [0, 1]
+ * @retval -20061 probability is NaN
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc414(int64_t n, double probability, int32_t seed, int32_t reset, int32_t* out);
+#define QvGenBernoulliNoise ZemFunc414
+
+/**
+ * GenHaltonSequence.
+ * The radical inverse of consecutive integers (van der Corput 1935, Halton 1960): their digits in the base, mirrored at
+ * the point. It starts with 0 and fills [0, 1) evenly.
+ * The integers have 32 bits and turn negative behind 2^31 - 1; then a reset is needed.
+ * @param n samples
+ * @param base its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this base
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20061 the base in force is 0, 1 or -1; nothing changes
+ * @retval -20059 the sequence has used up the integers
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc412(int64_t n, int32_t base, int32_t reset, double* out);
+#define QvGenHaltonSequence ZemFunc412
+
+/**
+ * GenWeylSequence.
+ * The multiples of a step modulo 1 (Weyl 1916), accumulated. It starts with 0 and fills [0, 1) evenly if the step is
+ * irrational.
+ * @param n samples
+ * @param step its absolute value counts; taken on the first or a resetting call
+ * @param reset not 0 starts at 0 with this step
+ * @param out written, [n]
+ * @retval -20003 n is below 1
+ * @retval -20059 the stored value is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc413(int64_t n, double step, int32_t reset, double* out);
+#define QvGenWeylSequence ZemFunc413
 
 /** @} */
 
@@ -4135,6 +4529,412 @@ QV_API const char* ZemFunc240(int32_t code);
 
 /** @} */
 
+/** @defgroup time_domain Time-domain operations
+ * Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal block by
+ * block; where the blocks are cut makes no difference. They keep their state for each thread and operation, so that
+ * a thread runs one stream an operation; a first call on a thread starts as a reset does.
+ * @{
+ */
+
+/**
+ * IntegrateSimpson.
+ * The running integral by the rule of Simpson: out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the integral; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ * @code
+ * QvIntegrateSimpson(speed, n, 0.01, speed[0], speed[n - 1], distance);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc95(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvIntegrateSimpson ZemFunc95
+
+/**
+ * Differentiate.
+ * The derivative by central differences: out[i] = (x[i + 1] - x[i - 1]) (0.5 / dt).
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial the sample in front of the first
+ * @param final the sample behind the last
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20016 dt is 0 or negative
+ */
+QV_API QvStatus ZemFunc56(double* x, int64_t n, double dt, double initial, double final, double* out);
+#define QvDifferentiate ZemFunc56
+
+/**
+ * DifferentiateMethod.
+ * The derivative by differences: (x[i + 1] - x[i - 1]) / 2, (8 x[i + 1] - x[i + 2] - 8 x[i - 1] + x[i - 2]) / 12,
+ * x[i + 1] - x[i] or x[i] - x[i - 1], over dt.
+ * The factor is formed once as a reciprocal.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param dt sampling interval
+ * @param initial read, [nInitial]: the samples in front of the first, in order; the first ones given count
+ * @param nInitial at least 1, 2, 0, 1 for the methods 0 to 3
+ * @param final read, [nFinal]: the samples behind the last, in order
+ * @param nFinal at least 1, 2, 1, 0 for the methods 0 to 3
+ * @param method 0 central of second order, 1 central of fourth order, 2 forward, 3 backward
+ * @param out written, [n], may be null: the derivative; null writes over x
+ * @retval -20003 n is below 1, or a boundary array of method 0, 2 or 3 is too short
+ * @retval -20016 dt is 0 or negative
+ * @retval -20006 a boundary array of method 1 has fewer than two values
+ * @retval -20061 method is above 3
+ */
+QV_API QvStatus ZemFunc367(double* x, int64_t n, double dt, const double* initial, int64_t nInitial, const double* final, int64_t nFinal, uint32_t method, double* out);
+#define QvDifferentiateMethod ZemFunc367
+
+/**
+ * Decimate.
+ * Reduces the sampling rate: one result for each whole block of factor samples; the tail is dropped.
+ * @param x read, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor]: the results
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc53(const double* x, int64_t n, int64_t factor, uint32_t average, double* out);
+#define QvDecimate ZemFunc53
+
+/**
+ * DecimateComplex.
+ * Decimate for complex samples.
+ * @param x read and written, [n]: samples
+ * @param n samples
+ * @param factor samples that make one result
+ * @param average 0 takes the first sample of each block, anything else its mean
+ * @param out written, [n / factor], may be null: the results; null writes over x
+ * @retval -20003 n is below 1
+ * @retval -20022 factor is below 1 or above n
+ */
+QV_API QvStatus ZemFunc360(QvComplex* x, int64_t n, int64_t factor, uint32_t average, QvComplex* out);
+#define QvDecimateComplex ZemFunc360
+
+/**
+ * DecimateContinuous.
+ * Decimates an endless signal block by block, in place: all results together are those of Decimate on the joined
+ * signal.
+ * With averaging and a block that ends before the offset the count may be negative: there are no results.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ * @code
+ * int64_t count;
+ * QvDecimateContinuous(block, 1024, 10, 1, 0, 0, &count);  // block[0] to block[count - 1]
+ * @endcode
+ */
+QV_API QvStatus ZemFunc417(double* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuous ZemFunc417
+
+/**
+ * DecimateContinuousComplex.
+ * DecimateContinuous for complex samples, with a state of its own.
+ * @param x read and written, [n]: a block of the signal; its results stand at the begin
+ * @param n samples in this block, at least 1 and otherwise any number
+ * @param factor samples that make one result; taken on the first or a resetting call
+ * @param average 0 takes the first sample of each group, anything else its mean
+ * @param offset samples to skip at the begin of the signal; taken on the first or a resetting call
+ * @param reset not 0 starts a new signal
+ * @param count written: results of this block
+ * @retval -20003 n is below 1; nothing changes
+ * @retval -20140 the factor in force is below 1; count is 0
+ * @retval -20059 the offset in force is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc418(QvComplex* x, int64_t n, int64_t factor, uint32_t average, int32_t offset, int32_t reset, int64_t* count);
+#define QvDecimateContinuousComplex ZemFunc418
+
+/**
+ * DetectLevelCrossing.
+ * The first crossing of a level in a block. Rising: a sample below level - |hysteresis| arms, a later one at or above
+ * the level is the crossing. Falling: above level + |hysteresis|, then at or below the level.
+ * The rest of the block is not looked at, and the next crossing needs arming again.
+ * @param x read, [n]: a block of the signal
+ * @param n samples in this block, 0 or more
+ * @param level the level to cross
+ * @param hysteresis its absolute value counts
+ * @param slope 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts a new signal
+ * @param index written: of the crossing in this block, -1 if there is none
+ * @param found written: 1 if there is one, else 0
+ * @retval -20004 n is negative; a reset has been done
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc419(const double* x, int64_t n, double level, double hysteresis, int32_t slope, int32_t reset, int64_t* index, int32_t* found);
+#define QvDetectLevelCrossing ZemFunc419
+
+/**
+ * DetectLevelCrossings.
+ * DetectLevelCrossing for several signals at once, with states of their own.
+ * @param x read, [channels * n]: one row of n samples a channel
+ * @param channels signals
+ * @param n samples of each signal in this block
+ * @param levels read, [channels]: the levels to cross
+ * @param hysteresis read, [channels]: their absolute values count
+ * @param slopes read, [channels]: 1 rising, 0 falling; any other finds nothing
+ * @param reset not 0 starts new signals
+ * @param indices written, [channels]: of the crossings in this block, -1 where there is none
+ * @param found written, [channels]: 1 where there is one, else 0
+ * @retval -20003 channels or n is below 1
+ * @retval -20058 channels differs from what the stream was started with
+ * @retval -20001 memory is exhausted; a start that found none needs a reset
+ */
+QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const double* levels, const double* hysteresis, const int32_t* slopes, int32_t reset, int64_t* indices, int32_t* found);
+#define QvDetectLevelCrossings ZemFunc420
+
+/** @} */
+
+/** @defgroup tones Harmonic and tone analysis
+ * Sinusoids in data, to much better accuracy than one bin of a spectrum: the harmonics in a given power spectrum, a
+ * fundamental and its harmonics in a time record, and the extraction of one or several tones.
+ * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins around
+ * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
+ * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
+ * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
+ * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
+ * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
+ * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
+ * frequency; the synthesis of the modes 2 and 3 takes that half again.
+ * Tones of complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give
+ * besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that in
+ * decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
+ * @{
+ */
+
+/**
+ * SpecHarmonicAnalyzer.
+ * The harmonics in a power spectrum, with frequencies interpolated by the shape of the window.
+ * A fundamental outside the spectrum, or in the main lobe of bin 0, is replaced by the largest bin beyond that lobe.
+ * Harmonics that the spectrum does not reach are 0. A distortion that would divide by zero is 1e9.
+ * Method: bisection for the offset at which the window's response has the ratio of the two largest bins.
+ * @param power read, [n]: a one-sided power spectrum
+ * @param fftSize points of the transform that it is of; below 1: 2n
+ * @param harmonics how many, the fundamental included
+ * @param window code of the window that it was taken through, 0 to 8
+ * @param fs sampling rate
+ * @param fundamental in the unit of fs
+ * @param amp written, [harmonics]: root mean square amplitudes
+ * @param freq written, [harmonics]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: all but the fundamental in percent of the whole, from amplitudes
+ * @retval -20003 n is below 1; or it is not above the half-width of the main lobe, rounded up, and the fundamental is not in it
+ * @retval -20067 fs or fundamental is 0
+ * @retval -20061 the window is above 8
+ */
+QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32_t harmonics, uint32_t window, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecHarmonicAnalyzer ZemFunc87
+
+/**
+ * SpecToneHarmonics.
+ * A fundamental, its harmonics and the distortion of a time record.
+ * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
+ * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
+ * After a failure, what has not been found is 0.
+ * @param x read, [n]
+ * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
+ * @param fs sampling rate
+ * @param fundamental a guess, in the unit of fs, right to 5 percent of fs
+ * @param amp written, [harmonics if max(harmonics, 1) == harmonics else n]: peak amplitudes
+ * @param freq written, [harmonics if max(harmonics, 1) == harmonics else n]: in the unit of fs
+ * @param thd written: harmonics in percent of the fundamental
+ * @param thdPlusNoise written: what is left without the fundamental in percent of the whole, by root mean squares about the mean
+ * @retval -20003 n is below 1
+ * @retval -20059 fs or fundamental is not above 0
+ * @retval -20001 memory is exhausted
+ * @retval -20017 the largest bin near the fundamental, or near a harmonic, is the last one
+ * @retval -20060 a tone is not finite; or x is constant; or the fundamental has no amplitude
+ * @retval -20020 a tone lies outside 0 to fs/2
+ */
+QV_API QvStatus ZemFunc362(const double* x, int64_t n, int32_t harmonics, double fs, double fundamental, double* amp, double* freq, double* thd, double* thdPlusNoise);
+#define QvSpecToneHarmonics ZemFunc362
+
+/**
+ * ToneSingleReal.
+ * The strongest tone of a real record.
+ * A band in which no bin lies is taken as the bin nearest to its middle; one outside the spectrum, or of no width, as
+ * the whole spectrum. Silence has the amplitude 0.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0; 0 is allowed, and frequencies are then infinite
+ * @retval -20001 memory is exhausted
+ * @code
+ * double freq, amp, phase;
+ * QvToneSingleReal(x, 1000, 1e-4, NULL, &freq, &amp, &phase);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc377(const double* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleReal ZemFunc377
+
+/**
+ * ToneSingleRealEx.
+ * The strongest tone of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleReal
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc378(const double* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleRealEx ZemFunc378
+
+/**
+ * ToneMultiReal.
+ * The strongest tones of a real record.
+ * The first count elements of the arrays are written. Tones should be some bins apart: closer ones show one peak.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc379(const double* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiReal ZemFunc379
+
+/**
+ * ToneMultiRealEx.
+ * The strongest tones of a real record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [(n + 1) / 2], may be null: of it, in decibels of squared rms amplitudes
+ * @param f0 written: the first frequency of the spectrum, 0
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc380(const double* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, double* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiRealEx ZemFunc380
+
+/**
+ * ToneSingleComplex.
+ * The strongest tone of a complex record.
+ * @param x read, [n]
+ * @param search read, [2], may be null: a centre in the unit of 1/dt and a half-width in percent of the sampling rate; null: everywhere
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc381(const QvComplex* x, int64_t n, double dt, const double* search, double* freq, double* amp, double* phase);
+#define QvToneSingleComplex ZemFunc381
+
+/**
+ * ToneSingleComplexEx.
+ * The strongest tone of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param search read, [2], may be null: as for ToneSingleComplex
+ * @param mode 0 to 3
+ * @param freq written
+ * @param amp written: twice the modulus of the exponential
+ * @param phase written
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc382(const QvComplex* x, int64_t n, double dt, const double* search, uint32_t mode, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneSingleComplexEx ZemFunc382
+
+/**
+ * ToneMultiComplex.
+ * The strongest tones of a complex record.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc383(const QvComplex* x, int64_t n, double dt, uint32_t sort, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase);
+#define QvToneMultiComplex ZemFunc383
+
+/**
+ * ToneMultiComplexEx.
+ * The strongest tones of a complex record, with the signal or what remains of it.
+ * @param x read, [n]
+ * @param sort 1: by falling amplitude; any other: by rising frequency
+ * @param mode 0 to 3
+ * @param threshold the least amplitude
+ * @param count written: the number of tones found
+ * @param freq written, [maxTones]
+ * @param amp written, [maxTones]: twice the moduli of the exponentials
+ * @param phase written, [maxTones]
+ * @param out written, [n], may be null: the signal that the mode tells
+ * @param outDt written: dt
+ * @param spectrum written, [n], may be null: of it, in decibels, from the most negative frequency on
+ * @param f0 written: the first frequency of the spectrum, -(n/2) df
+ * @param df written: the step between its frequencies
+ * @retval -20007 n is below 3
+ * @retval -20016 dt is below 0
+ * @retval -20061 the mode is above 3
+ * @retval -20140 maxTones is below 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t sort, uint32_t mode, double threshold, int32_t maxTones, int32_t* count, double* freq, double* amp, double* phase, QvComplex* out, double* outDt, double* spectrum, double* f0, double* df);
+#define QvToneMultiComplexEx ZemFunc384
+
+/** @} */
+
 /** @defgroup transforms Transforms
  * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
  * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
@@ -4541,6 +5341,126 @@ QV_API QvStatus ZemFunc467(const QvComplex* x, int64_t n, double* out);
  */
 QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, QvComplex* out);
 #define QvCrossPowerComplex ZemFunc468
+
+/** @} */
+
+/** @defgroup variance_analysis Analysis of variance and contingency
+ * Analysis of variance with one, two and three factors, and the chi-square test of a contingency table.
+ * The level of an observation is any integer that fits 32 bits, not an index: levels are numbered as they are first
+ * seen. In the forms with two and three factors every cell holds the same number of observations, and the number of
+ * levels of a factor carries a sign: positive for a fixed factor, negative for a random one.
+ * A table holds rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that of the
+ * error; its F is never written. A significance is the probability of an F at least as large by chance.
+ * All sums are taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation has.
+ * Statuses stand in the order in which they are tested.
+ * @{
+ */
+
+/**
+ * AnovaOneWay.
+ * One-way analysis of variance. The levels need not have equally many observations.
+ * An f of NaN, from data without any variance, gives a significance of NaN.
+ * @param y read, [n]: the observations
+ * @param level read, [n]: the level of each
+ * @param levels how many distinct levels there are
+ * @param ssA written: sum of squares between the levels
+ * @param msA written: its mean square, with levels - 1 degrees of freedom
+ * @param f written: msA / msError
+ * @param significance written: of f
+ * @param ssError written: sum of squares within the levels
+ * @param msError written: its mean square, with n - levels degrees of freedom
+ * @param ssTotal written: sum of squares about the mean
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20042 levels is below 2, or not below n
+ * @retval -20001 memory is exhausted
+ * @retval -20043 there are more distinct levels than told; nothing is written
+ * @retval -20044 there are fewer; ssTotal is written
+ * @code
+ * QvAnovaOneWay(y, instrument, 25, 5, &ssA, &msA, &f, &significance, &ssError, &msError, &ssTotal);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc6(const double* y, const int64_t* level, int64_t n, int64_t levels, double* ssA, double* msA, double* f, double* significance, double* ssError, double* msError, double* ssTotal);
+#define QvAnovaOneWay ZemFunc6
+
+/**
+ * AnovaTwoWay.
+ * Two-way analysis of variance of balanced data.
+ * F of A has the mean square of AB as its denominator if B is random, else that of the error; F of B likewise. All three
+ * significances take the degrees of freedom of the error for the denominator, in mixed models too.
+ * With one observation a cell the interaction serves as the error, and the row AB and sigAB are 0.
+ * @param y read, [n]: the observations
+ * @param levelA read, [n]: the level of factor A of each
+ * @param levelB read, [n]: the level of factor B of each
+ * @param perCell observations in each cell
+ * @param levelsA levels of A, negative for a random factor
+ * @param levelsB levels of B, negative for a random factor
+ * @param table written, [16]: rows A, B, AB, error
+ * @param sigA written: significance of A
+ * @param sigB written: significance of B
+ * @param sigAB written: significance of the interaction
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20045 n is not perCell |levelsA| |levelsB|
+ * @retval -20042 a factor has fewer than 2 levels
+ * @retval -20048 perCell is 1 and a factor is random
+ * @retval -20001 memory is exhausted
+ * @retval -20043 a factor has more distinct levels than told
+ * @retval -20047 a cell holds another number of observations
+ */
+QV_API QvStatus ZemFunc7(const double* y, const int64_t* levelA, const int64_t* levelB, int64_t n, int64_t perCell, int64_t levelsA, int64_t levelsB, double* table, double* sigA, double* sigB, double* sigAB);
+#define QvAnovaTwoWay ZemFunc7
+
+/**
+ * AnovaThreeWay.
+ * Three-way analysis of variance of balanced data.
+ * The denominator of each F follows from which factors are random: the row whose expected mean square has the same
+ * terms but for the tested one. Where there is none, F and the significance are -1.
+ * @param y read, [n]: the observations
+ * @param levelA read, [n]: the level of factor A of each
+ * @param levelB read, [n]: the level of factor B of each
+ * @param levelC read, [n]: the level of factor C of each
+ * @param perCell observations in each cell, at least 2
+ * @param levelsA levels of A, negative for a random factor
+ * @param levelsB levels of B, negative for a random factor
+ * @param levelsC levels of C, negative for a random factor
+ * @param table written, [32]: rows A, B, C, AB, AC, BC, ABC, error
+ * @param sigA written: significance of A
+ * @param sigB written: significance of B
+ * @param sigC written: significance of C
+ * @param sigAB written: significance of AB
+ * @param sigAC written: significance of AC
+ * @param sigBC written: significance of BC
+ * @param sigABC written: significance of ABC
+ * @retval -20046 a level does not fit 32 bits; so does a size
+ * @retval -20003 n is below 1
+ * @retval -20045 n is not perCell |levelsA| |levelsB| |levelsC|
+ * @retval -20044 perCell is below 2
+ * @retval -20042 a factor has fewer than 2 levels
+ * @retval -20001 memory is exhausted
+ * @retval -20043 a factor has more distinct levels than told
+ * @retval -20047 a cell holds another number of observations
+ */
+QV_API QvStatus ZemFunc8(const double* y, const int64_t* levelA, const int64_t* levelB, const int64_t* levelC, int64_t n, int64_t perCell, int64_t levelsA, int64_t levelsB, int64_t levelsC, double* table, double* sigA, double* sigB, double* sigC, double* sigAB, double* sigAC, double* sigBC, double* sigABC);
+#define QvAnovaThreeWay ZemFunc8
+
+/**
+ * ContingencyChiSquare.
+ * Tests whether the rows and the columns of a table of counts are independent.
+ * A row or a column of zeros divides by zero: the results are not finite.
+ * @param rows taken as a signed number
+ * @param cols taken as a signed number
+ * @param counts read, [rows * cols]: the table, row-major
+ * @param chiSquare written: the sum of (observed - expected)^2 / expected
+ * @param significance written: the probability of at least that much by chance
+ * @retval -20056 rows or cols is negative
+ * @retval -20055 rows or cols is below 2
+ * @retval -20046 rows * cols exceeds 2^31 - 1
+ * @retval -20056 a count is negative
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc31(uint32_t rows, uint32_t cols, const int32_t* counts, double* chiSquare, double* significance);
+#define QvContingencyChiSquare ZemFunc31
 
 /** @} */
 
