@@ -1998,6 +1998,266 @@ QV_API QvStatus ZemFunc257(const QvComplex* a, const QvComplex* b, int64_t n, ui
 
 /** @} */
 
+/** @defgroup elliptic Elliptic, hypergeometric and integral functions
+ * Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN, in every output.
+ * The elliptic functions take the parameter m = k^2, not the modulus k. The hypergeometric functions take x before the
+ * parameters. Where an argument goes by address, a null pointer selects the complete integral; the address of 0.0 does not.
+ * @{
+ */
+
+/**
+ * SpecEllipticK.
+ * Null phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
+ * Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1 infinite from |phi| = pi/2 on.
+ * NaN for m outside [0, 1].
+ * Rational forms in 1 - m with its logarithm; the descending Landen transformation (Moshier 1989, ellpk and ellik).
+ * @param m the parameter, 0 to 1
+ * @param phi read, may be null: the amplitude in radians; null selects the complete integral
+ * @code
+ * double phi = 0.5, k = QvSpecEllipticK(0.25, NULL), f = QvSpecEllipticK(0.25, &phi);
+ * @endcode
+ */
+QV_API double ZemFunc318(double m, const double* phi);
+#define QvSpecEllipticK ZemFunc318
+
+/**
+ * SpecEllipticE.
+ * Null phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
+ * Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E.
+ * NaN for m outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
+ * @param m the parameter, 0 to 1
+ * @param phi read, may be null: the amplitude in radians; null selects the complete integral
+ */
+QV_API double ZemFunc319(double m, const double* phi);
+#define QvSpecEllipticE ZemFunc319
+
+/**
+ * SpecJacobiElliptic.
+ * The Jacobian elliptic functions. All outputs are NaN for m outside [0, 1] and for infinite u (but for m = 1).
+ * Arithmetic-geometric mean with at most nine steps; expansions in m below 1e-9 and in 1 - m from 0.999999999 on (Moshier 1989, ellpj).
+ * @param u the argument
+ * @param m the parameter, 0 to 1
+ * @param sn written: sn(u|m) = sin phi
+ * @param cn written: cn(u|m) = cos phi
+ * @param dn written: dn(u|m) = sqrt(1 - m sin^2 phi)
+ * @param phi written, may be null: the amplitude, F(phi, m) = u, in radians
+ */
+QV_API void ZemFunc332(double u, double m, double* sn, double* cn, double* dn, double* phi);
+#define QvSpecJacobiElliptic ZemFunc332
+
+/**
+ * SpecDawson.
+ * Dawson's integral, e^(-x^2) times the integral of e^(t^2) from 0 to x. Odd; 0.5413 at most, near 1/(2x) for large x.
+ * Rational forms with cuts at 3.25 and 6.25, 1/(2x) above 1e9 (Moshier 1989, dawsn).
+ * @param x any
+ */
+QV_API double ZemFunc320(double x);
+#define QvSpecDawson ZemFunc320
+
+/**
+ * SpecFresnel.
+ * The Fresnel integrals, both odd. Above |x| = 36974 both are 0.5 with the sign of x.
+ * Rational forms, by auxiliary functions from x^2 = 2.5625 on (Moshier 1989, fresnl).
+ * @param x any
+ * @param s written: S(x), the integral of sin(pi t^2/2) from 0 to x
+ * @param c written: C(x), the integral of cos(pi t^2/2) from 0 to x
+ */
+QV_API void ZemFunc331(double x, double* s, double* c);
+#define QvSpecFresnel ZemFunc331
+
+/**
+ * SpecExpIntegralN.
+ * E_n(x), the integral of e^(-x t) / t^n from 1 to infinity. NaN for x < 0 or n < 0.
+ * 0 above x = 709.7827128933; at x = 0 1/(n - 1), +Inf for n < 2.
+ * Power series up to x = 1, continued fraction above, an asymptotic form for n above 5000 (Moshier 1989, expn).
+ * @param x at least 0
+ * @param n the order, at least 0
+ */
+QV_API double ZemFunc321(double x, int32_t n);
+#define QvSpecExpIntegralN ZemFunc321
+
+/**
+ * SpecSineIntegral.
+ * Si(x), the integral of sin(t)/t from 0 to x. Odd; pi/2 at +Inf.
+ * Rational forms with cuts at 4 and 8, pi/2 - cos(x)/x above 1e9 (Moshier 1989, sici).
+ * @param x any
+ */
+QV_API double ZemFunc322(double x);
+#define QvSpecSineIntegral ZemFunc322
+
+/**
+ * SpecCosineIntegral.
+ * Ci(x) = gamma + ln|x| + the integral of (cos(t) - 1)/t from 0 to x. -Inf at 0; at negative x the real part, the value at |x|.
+ * Rational forms with cuts at 4 and 8, sin(x)/x above 1e9 (Moshier 1989, sici).
+ * @param x any
+ */
+QV_API double ZemFunc323(double x);
+#define QvSpecCosineIntegral ZemFunc323
+
+/**
+ * SpecHyperbolicSineIntegral.
+ * Shi(x), the integral of sinh(t)/t from 0 to x. Odd; infinite above |x| = 88, well before a double would overflow.
+ * Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+ * @param x any
+ */
+QV_API double ZemFunc325(double x);
+#define QvSpecHyperbolicSineIntegral ZemFunc325
+
+/**
+ * SpecHyperbolicCosineIntegral.
+ * Chi(x) = gamma + ln|x| + the integral of (cosh(t) - 1)/t from 0 to x. -Inf at 0, +Inf above |x| = 88; at negative x the value at |x|.
+ * Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+ * @param x any
+ */
+QV_API double ZemFunc324(double x);
+#define QvSpecHyperbolicCosineIntegral ZemFunc324
+
+/**
+ * SpecHyperg1F1.
+ * Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ...
+ * +Inf for b = 0, -1, -2, ... unless a ends the series before. NaN for infinite parameters, and where no digit would be right.
+ * Power series, Kummer's transformation or asymptotic form, the best by its estimated error (Moshier 1989, hyperg).
+ * @param x any
+ * @param a upper parameter
+ * @param b lower parameter
+ */
+QV_API double ZemFunc316(double x, double a, double b);
+#define QvSpecHyperg1F1 ZemFunc316
+
+/**
+ * SpecHypergU.
+ * Tricomi's confluent hypergeometric function U(a, b, x), which falls like x^-a.
+ * Complex at x < 0, and NaN there unless it is a polynomial (times a whole power of x); at x = 0 infinite for b >= 1.
+ * Two 1F1 or their limit for whole b (Abramowitz and Stegun 13.1.3, 13.1.6), the asymptotic series, or the integral 13.2.5.
+ * @param x at least 0
+ * @param a first parameter
+ * @param b second parameter
+ */
+QV_API double ZemFunc317(double x, double a, double b);
+#define QvSpecHypergU ZemFunc317
+
+/**
+ * SpecHyperg2F1.
+ * Gauss's hypergeometric function 2F1(a, b; c; x) = 1 + a b/c x + a(a+1) b(b+1)/(c(c+1)) x^2/2! + ..., continued to x <= 1.
+ * +Inf for c = 0, -1, -2, ... unless a or b ends the series before. NaN for x > 1 unless it is a polynomial (times a whole
+ * power of 1 - x), and where no digit would be right. At x = 1 infinite for c - a - b <= 0.
+ * Power series up to 0.9, in powers of 1 - x above, by x/(x - 1) below -0.2 (Moshier 1989, hyp2f1).
+ * @param x at most 1; any where the function is a polynomial
+ * @param a first upper parameter
+ * @param b second upper parameter
+ * @param c lower parameter
+ * @code
+ * double log2 = QvSpecHyperg2F1(-1.0, 1.0, 1.0, 2.0); // ln(1 - x)/-x at x = -1
+ * @endcode
+ */
+QV_API double ZemFunc386(double x, double a, double b, double c);
+#define QvSpecHyperg2F1 ZemFunc386
+
+/**
+ * SpecHyperg2F1Transformed.
+ * The same function 2F1(a, b; c; x) with the transformation to x/(x - 1) below -0.5.
+ * @param x at most 1; any where the function is a polynomial
+ * @param a first upper parameter
+ * @param b second upper parameter
+ * @param c lower parameter
+ */
+QV_API double ZemFunc315(double x, double a, double b, double c);
+#define QvSpecHyperg2F1Transformed ZemFunc315
+
+/**
+ * SpecParabolicCylinder.
+ * The parabolic cylinder function D_v(x), from two reciprocal Gammas and Kummer's series, to some 2e-9 for small arguments.
+ * x = +Inf gives 0. x = -Inf gives 0 for whole v >= 0, +Inf for v < 0, and else +Inf or -Inf as the whole part of v is odd or even.
+ * NaN for v = +Inf at finite x, and wherever a sum leaves the range of a double.
+ * @param x the argument
+ * @param v the order
+ */
+QV_API double ZemFunc327(double x, double v);
+#define QvSpecParabolicCylinder ZemFunc327
+
+/** @} */
+
+/** @defgroup filter_objects Filter objects and the cascade engine
+ * A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay lines of
+ * its stages behind it in the same block of memory. It is created, designed (see the designs of the family below), and
+ * then applied to any number of blocks: the delay lines carry over, and a signal that is cut into blocks comes out as
+ * it would in one piece, to the last bit. MemoryRelease gives the object back.
+ * A stage with the coefficients a and b and the delay line d turns the sample v into
+ * v' = t b[0] + b[1] d[0] + b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line
+ * (direct form II; sums from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude
+ * is 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals.
+ * An object belongs to one thread at a time.
+ * @{
+ */
+
+/**
+ * IirFilterCreate.
+ * Creates a filter with its delay lines at 0. Its coefficients are not set before it is designed.
+ * Null for another kind, for an order below 1, and when memory runs out.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype, at least 1; band kinds have twice this order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(0, 4);
+ * double x[5] = {1}, y[5];
+ * QvIirDesignButterworth(1000, 100, 0, filter);
+ * QvIirCascadeApply(x, 5, filter, y);
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvIirFilter* ZemFunc233(uint32_t kind, int32_t order);
+#define QvIirFilterCreate ZemFunc233
+
+/**
+ * IirStateComplexCreate.
+ * Creates the delay lines with which a filter is applied to complex data, all 0.
+ * Null for a kind above 3, for an order below 1, and when memory runs out.
+ * @param kind of the filter that it will be used with
+ * @param order of the filter that it will be used with
+ */
+QV_API QvIirStateComplex* ZemFunc469(uint32_t kind, int32_t order);
+#define QvIirStateComplexCreate ZemFunc469
+
+/**
+ * IirFilterReset.
+ * Makes the next application, and only that one, start from delay lines of 0.
+ * The delay lines cleared are those of that application: the filter's own, or the ones for complex data.
+ * @param filter handle, may be null: the filter
+ */
+QV_API void ZemFunc235(QvIirFilter* filter);
+#define QvIirFilterReset ZemFunc235
+
+/**
+ * IirCascadeApply.
+ * Filters the next block of a signal. y may be x.
+ * A pending reset is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the record do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc91(const double* x, int64_t n, QvIirFilter* filter, double* y);
+#define QvIirCascadeApply ZemFunc91
+
+/**
+ * IirCascadeApplyComplex.
+ * Filters the next block of a complex signal: its real and its imaginary part, each by itself. y may be x.
+ * A pending reset of the filter is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param state handle: the delay lines, of the same kind and order
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the two records do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, QvIirStateComplex* state, QvComplex* y);
+#define QvIirCascadeApplyComplex ZemFunc466
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
@@ -2355,6 +2615,1106 @@ QV_API QvStatus ZemFunc347(int64_t n, double amp, double delay, double dt, doubl
  */
 QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, double width, double skew, double* out);
 #define QvGenSkewedTrianglePulse ZemFunc350
+
+/** @} */
+
+/** @defgroup iir_design IIR design and one-shot IIR filters
+ * Recursive filters of six families and four kinds. An analog lowpass prototype with its cutoff at 1 rad/s goes, pole
+ * pair by pole pair, through the bilinear transform with prewarped edges, w = tan(pi f / fs), into stages of second
+ * order (lowpass, highpass) or of fourth order (bandpass, bandstop, which have twice the order of the prototype). No
+ * polynomial of high degree is formed, so that high orders stay accurate.
+ * Frequencies are in the unit of fs, the sampling rate. Kinds: 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop; the first
+ * two have their cutoff in fl (or fc) and ignore fh. Ripple and attenuation are in dB, above 0.
+ * The edges mean: Butterworth and Bessel 3 dB down; Chebyshev and elliptic the end of the passband, where the ripple is
+ * reached for the last time; inverse Chebyshev the begin of the stopband, where the attenuation is first reached. The
+ * even-pole family has poles on the unit circle with equally spaced imaginary parts.
+ * Designs check in the order of their statuses. The one-shot filters of real arrays check their sizes and levels
+ * elsewhere, and accept a cutoff of fs/2, which the designs refuse with -20023.
+ * @{
+ */
+
+/**
+ * IirDesignEvenPole.
+ * Designs an even-pole filter: poles on the unit circle with equally spaced imaginary parts.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc12(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignEvenPole ZemFunc12
+
+/**
+ * IirDesignButterworth.
+ * Designs a Butterworth filter, maximally flat in the passband and 3 dB down at the edges.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(2, 3);
+ * QvIirDesignButterworth(1000, 8, 13, filter);  // the alpha band of an EEG
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc18(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignButterworth ZemFunc18
+
+/**
+ * IirDesignBessel.
+ * Designs a Bessel filter, of maximally flat delay before the transform to digital form, and 3 dB down at the edges.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ */
+QV_API QvStatus ZemFunc471(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignBessel ZemFunc471
+
+/**
+ * IirDesignChebyshev.
+ * Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc24(double fs, double fl, double fh, double ripple, QvIirFilter* filter);
+#define QvIirDesignChebyshev ZemFunc24
+
+/**
+ * IirDesignInverseChebyshev.
+ * Designs an inverse Chebyshev filter, of equal ripple in the stopband.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param attenuation attenuation of the stopband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc98(double fs, double fl, double fh, double attenuation, QvIirFilter* filter);
+#define QvIirDesignInverseChebyshev ZemFunc98
+
+/**
+ * IirDesignElliptic.
+ * Designs an elliptic filter, of equal ripple in passband and stopband.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc61(double fs, double fl, double fh, double ripple, double attenuation, QvIirFilter* filter);
+#define QvIirDesignElliptic ZemFunc61
+
+/**
+ * IirCoefficientsEvenPole.
+ * Designs an even-pole filter: poles on the unit circle with equally spaced imaginary parts, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc13(int32_t kind, int32_t order, double fs, double fl, double fh, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsEvenPole ZemFunc13
+
+/**
+ * IirCoefficientsButterworth.
+ * Designs a Butterworth filter, maximally flat in the passband and 3 dB down at the edges, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ * @code
+ * double a[3], b[3];
+ * QvIirCoefficientsButterworth(0, 2, 4, 1, 0, a, 3, b, 3);  // b = 0.2929, 0.5858, 0.2929; a = 1, 0, 0.1716
+ * @endcode
+ */
+QV_API QvStatus ZemFunc19(int32_t kind, int32_t order, double fs, double fl, double fh, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsButterworth ZemFunc19
+
+/**
+ * IirCoefficientsChebyshev.
+ * Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc25(int32_t kind, int32_t order, double fs, double fl, double fh, double ripple, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsChebyshev ZemFunc25
+
+/**
+ * IirCoefficientsInverseChebyshev.
+ * Designs an inverse Chebyshev filter, of equal ripple in the stopband, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param attenuation attenuation of the stopband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc99(int32_t kind, int32_t order, double fs, double fl, double fh, double attenuation, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsInverseChebyshev ZemFunc99
+
+/**
+ * IirCoefficientsElliptic.
+ * Designs an elliptic filter, of equal ripple in passband and stopband, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc62(int32_t kind, int32_t order, double fs, double fl, double fh, double ripple, double attenuation, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsElliptic ZemFunc62
+
+/**
+ * IirToDirectForm.
+ * Multiplies the stages of a filter up to one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param filter handle, may be null: the filter, designed
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20066 the filter is null
+ * @retval -20021 the order of the record is below 1
+ * @retval -20061 the kind of the record is none of the four
+ * @retval -20066 the counts of the record do not fit together, or an array is too short
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc236(QvIirFilter* filter, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirToDirectForm ZemFunc236
+
+/**
+ * IirFilterButterworthLowpass.
+ * Filters a signal from rest with a Butterworth lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20020 fc is above fs/2
+ * @code
+ * QvIirFilterButterworthLowpass(x, 1000, 360, 40, 4, 0);  // in place
+ * @endcode
+ */
+QV_API QvStatus ZemFunc21(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterButterworthLowpass ZemFunc21
+
+/**
+ * IirFilterButterworthHighpass.
+ * Filters a signal from rest with a Butterworth highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc20(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterButterworthHighpass ZemFunc20
+
+/**
+ * IirFilterButterworthBandpass.
+ * Filters a signal from rest with a Butterworth bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc16(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterButterworthBandpass ZemFunc16
+
+/**
+ * IirFilterButterworthBandstop.
+ * Filters a signal from rest with a Butterworth bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc17(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterButterworthBandstop ZemFunc17
+
+/**
+ * IirFilterChebyshevLowpass.
+ * Filters a signal from rest with a Chebyshev lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc27(double* x, int64_t n, double fs, double fc, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevLowpass ZemFunc27
+
+/**
+ * IirFilterChebyshevHighpass.
+ * Filters a signal from rest with a Chebyshev highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc26(double* x, int64_t n, double fs, double fc, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevHighpass ZemFunc26
+
+/**
+ * IirFilterChebyshevBandpass.
+ * Filters a signal from rest with a Chebyshev bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc22(double* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevBandpass ZemFunc22
+
+/**
+ * IirFilterChebyshevBandstop.
+ * Filters a signal from rest with a Chebyshev bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc23(double* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevBandstop ZemFunc23
+
+/**
+ * IirFilterInverseChebyshevLowpass.
+ * Filters a signal from rest with an inverse Chebyshev lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc101(double* x, int64_t n, double fs, double fc, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevLowpass ZemFunc101
+
+/**
+ * IirFilterInverseChebyshevHighpass.
+ * Filters a signal from rest with an inverse Chebyshev highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc100(double* x, int64_t n, double fs, double fc, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevHighpass ZemFunc100
+
+/**
+ * IirFilterInverseChebyshevBandpass.
+ * Filters a signal from rest with an inverse Chebyshev bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc96(double* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevBandpass ZemFunc96
+
+/**
+ * IirFilterInverseChebyshevBandstop.
+ * Filters a signal from rest with an inverse Chebyshev bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc97(double* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevBandstop ZemFunc97
+
+/**
+ * IirFilterEllipticLowpass.
+ * Filters a signal from rest with an elliptic lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc64(double* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticLowpass ZemFunc64
+
+/**
+ * IirFilterEllipticHighpass.
+ * Filters a signal from rest with an elliptic highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc63(double* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticHighpass ZemFunc63
+
+/**
+ * IirFilterEllipticBandpass.
+ * Filters a signal from rest with an elliptic bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc59(double* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticBandpass ZemFunc59
+
+/**
+ * IirFilterEllipticBandstop.
+ * Filters a signal from rest with an elliptic bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc60(double* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticBandstop ZemFunc60
+
+/**
+ * IirFilterBesselLowpass.
+ * Designs a Bessel lowpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc399(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterBesselLowpass ZemFunc399
+
+/**
+ * IirFilterBesselHighpass.
+ * Designs a Bessel highpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc400(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterBesselHighpass ZemFunc400
+
+/**
+ * IirFilterBesselBandpass.
+ * Designs a Bessel bandpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc401(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterBesselBandpass ZemFunc401
+
+/**
+ * IirFilterBesselBandstop.
+ * Designs a Bessel bandstop and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc402(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterBesselBandstop ZemFunc402
+
+/**
+ * IirFilterComplexButterworthLowpass.
+ * Designs a Butterworth lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc450(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthLowpass ZemFunc450
+
+/**
+ * IirFilterComplexButterworthHighpass.
+ * Designs a Butterworth highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc451(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthHighpass ZemFunc451
+
+/**
+ * IirFilterComplexButterworthBandpass.
+ * Designs a Butterworth bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc452(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthBandpass ZemFunc452
+
+/**
+ * IirFilterComplexButterworthBandstop.
+ * Designs a Butterworth bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc453(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthBandstop ZemFunc453
+
+/**
+ * IirFilterComplexChebyshevLowpass.
+ * Designs a Chebyshev lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc454(QvComplex* x, int64_t n, double fs, double fc, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevLowpass ZemFunc454
+
+/**
+ * IirFilterComplexChebyshevHighpass.
+ * Designs a Chebyshev highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc455(QvComplex* x, int64_t n, double fs, double fc, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevHighpass ZemFunc455
+
+/**
+ * IirFilterComplexChebyshevBandpass.
+ * Designs a Chebyshev bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc456(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevBandpass ZemFunc456
+
+/**
+ * IirFilterComplexChebyshevBandstop.
+ * Designs a Chebyshev bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc457(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevBandstop ZemFunc457
+
+/**
+ * IirFilterComplexInverseChebyshevLowpass.
+ * Designs an inverse Chebyshev lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc458(QvComplex* x, int64_t n, double fs, double fc, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevLowpass ZemFunc458
+
+/**
+ * IirFilterComplexInverseChebyshevHighpass.
+ * Designs an inverse Chebyshev highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc459(QvComplex* x, int64_t n, double fs, double fc, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevHighpass ZemFunc459
+
+/**
+ * IirFilterComplexInverseChebyshevBandpass.
+ * Designs an inverse Chebyshev bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc460(QvComplex* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevBandpass ZemFunc460
+
+/**
+ * IirFilterComplexInverseChebyshevBandstop.
+ * Designs an inverse Chebyshev bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc461(QvComplex* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevBandstop ZemFunc461
+
+/**
+ * IirFilterComplexEllipticLowpass.
+ * Designs an elliptic lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc462(QvComplex* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticLowpass ZemFunc462
+
+/**
+ * IirFilterComplexEllipticHighpass.
+ * Designs an elliptic highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc463(QvComplex* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticHighpass ZemFunc463
+
+/**
+ * IirFilterComplexEllipticBandpass.
+ * Designs an elliptic bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc464(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticBandpass ZemFunc464
+
+/**
+ * IirFilterComplexEllipticBandstop.
+ * Designs an elliptic bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc465(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticBandstop ZemFunc465
+
+/**
+ * IirFilterComplexBesselLowpass.
+ * Designs a Bessel lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc403(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselLowpass ZemFunc403
+
+/**
+ * IirFilterComplexBesselHighpass.
+ * Designs a Bessel highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc404(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselHighpass ZemFunc404
+
+/**
+ * IirFilterComplexBesselBandpass.
+ * Designs a Bessel bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc405(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselBandpass ZemFunc405
+
+/**
+ * IirFilterComplexBesselBandstop.
+ * Designs a Bessel bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc406(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselBandstop ZemFunc406
 
 /** @} */
 
