@@ -232,6 +232,34 @@ def peak_cases(library):
                    "kept[0] == len(find_peaks(x)[0])")
 
 
+# Name, number, argument types, Quorvan's arguments, NumPy's statement, what must agree; out holds Quorvan's values.
+DECOMPOSITIONS = (
+    ("svd", 193, "piippp", "pa, n, n, pu, pout, pv", "r = svd(a, full_matrices=False)", "r[1]"),
+    ("singular_values", 195, "piip", "pa, n, n, pout", "r = svd(a, compute_uv=False)", "r"),
+    ("symmetric_eigen", 202, "picpp", "pa, n, 1, pout, pu", "r = eigh(a)", "r[0]"),
+    ("general_eigen", 201, "picpp", "pa, n, 1, pout, pu", "r = eig(a)", "r[0]"),
+    ("qr", 192, "piicpp", "pa, n, n, 0, pu, pout", "r = qr(a)", "r[1]"),
+)
+DECOMPOSITION_SIZES = (8, 64, 512)
+
+
+def decomposition_cases(library):
+    """The same matrices as bench/linalg_eigen_bench.cpp measures: uniform, symmetric where it must be."""
+    for name, number, types, arguments, statement, values in DECOMPOSITIONS:
+        for n in DECOMPOSITION_SIZES:
+            a, u, v = noise(n * n, 1).reshape(n, n), aligned(n * n, np.complex128), aligned(n * n)
+            if name == "symmetric_eigen":
+                a[:] = np.triu(a) + np.triu(a, 1).T
+            out = {"general_eigen": aligned(n, np.complex128), "qr": aligned(n * n)}.get(name)
+            out = aligned(n) if out is None else out
+            names = dict(f=library.call(number, types), a=a, u=u, v=v, out=out, n=n, pa=address(a), pu=address(u),
+                         pv=address(v), pout=address(out), svd=np.linalg.svd, eigh=np.linalg.eigh, eig=np.linalg.eig,
+                         qr=np.linalg.qr)
+            # Signs and the order of eigenvalues are free.
+            same = f"numpy.allclose(numpy.sort(abs(kept)), numpy.sort(abs({values}).ravel()), rtol=1e-8, atol=1e-8)"
+            yield Case(name, str(n), f"f({arguments})", statement, names, same)
+
+
 # Name, number, argument types, Quorvan's call, NumPy's statement with the legacy generator and with the new one, mean and
 # standard deviation of a value. The results are other numbers of the same distribution: their means are compared.
 RANDOM = (

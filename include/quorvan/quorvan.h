@@ -1202,6 +1202,394 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup decompositions Matrix decompositions
+ * Singular values, LU, Cholesky, QR in several methods, Hessenberg form and balancing, for real and complex matrices.
+ * A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied before they are worked on: an output
+ * may be the input itself. On an error the outputs stay as they are.
+ * @{
+ */
+
+/**
+ * MatSingularValues.
+ * The singular values of a matrix.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc195(const double* a, int64_t m, int64_t n, double* s);
+#define QvMatSingularValues ZemFunc195
+
+/**
+ * MatSingularValuesComplex (MatSingularValues).
+ * The singular values of a matrix.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc216(const QvComplex* a, int64_t m, int64_t n, QvComplex* s);
+#define QvMatSingularValuesComplex ZemFunc216
+
+/**
+ * MatSvd.
+ * The singular value decomposition A = U diag(s) V^T in economy form.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param u written, [m * min(m, n)]: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @code
+ * double a[6] = {1, 2, 3, 4, 5, 6}, u[6], s[2], v[4];
+ * QvMatSvd(a, 3, 2, u, s, v);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc193(const double* a, int64_t m, int64_t n, double* u, double* s, double* v);
+#define QvMatSvd ZemFunc193
+
+/**
+ * MatSvdComplex (MatSvd).
+ * The singular value decomposition A = U diag(s) V^H in economy form.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param u written, [m * min(m, n)]: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc219(const QvComplex* a, int64_t m, int64_t n, QvComplex* u, QvComplex* s, QvComplex* v);
+#define QvMatSvdComplex ZemFunc219
+
+/**
+ * MatSvdMode.
+ * The singular value decomposition A = U diag(s) V^T.
+ * With U or V null only the singular values are computed, whatever the mode.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param mode 0: full, U m by m and V n by n; 1: economy
+ * @param u written, [m * (m if mode == 0 else min(m, n))], may be null: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc246(const double* a, int64_t m, int64_t n, int32_t mode, double* u, double* s, double* v);
+#define QvMatSvdMode ZemFunc246
+
+/**
+ * MatSvdModeComplex (MatSvdMode).
+ * The singular value decomposition A = U diag(s) V^H.
+ * With U or V null only the singular values are computed, whatever the mode.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param mode 0: full, U m by m and V n by n; 1: economy
+ * @param u written, [m * (m if mode == 0 else min(m, n))], may be null: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc247(const QvComplex* a, int64_t m, int64_t n, int32_t mode, QvComplex* u, QvComplex* s, QvComplex* v);
+#define QvMatSvdModeComplex ZemFunc247
+
+/**
+ * MatLu.
+ * The factors P A = L U with partial pivoting.
+ * @param a read and written, [n * n]: the matrix, row-major; becomes its factors: U on and above the diagonal, below it L without its unit diagonal
+ * @param n its rows and columns
+ * @param pivots written, [n], may be null: row i was interchanged with row pivots[i], for i = 0, 1, ...; from 0
+ * @param parity written: 1 where the number of interchanges is odd, otherwise 0
+ * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
+ * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
+ * @retval -20001 memory is exhausted; a stays as it is
+ */
+QV_API QvStatus ZemFunc118(double* a, int64_t n, int64_t* pivots, uint32_t* parity);
+#define QvMatLu ZemFunc118
+
+/**
+ * MatLuComplex (MatLu).
+ * The factors P A = L U with partial pivoting.
+ * @param a read and written, [n * n]: the matrix, row-major; becomes its factors: U on and above the diagonal, below it L without its unit diagonal
+ * @param n its rows and columns
+ * @param pivots written, [n], may be null: row i was interchanged with row pivots[i], for i = 0, 1, ...; from 0
+ * @param parity written: 1 where the number of interchanges is odd, otherwise 0
+ * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
+ * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
+ * @retval -20001 memory is exhausted; a stays as it is
+ */
+QV_API QvStatus ZemFunc213(QvComplex* a, int64_t n, int64_t* pivots, uint32_t* parity);
+#define QvMatLuComplex ZemFunc213
+
+/**
+ * MatCholesky.
+ * The Cholesky factor, A = R^T R with R upper triangular and a positive diagonal.
+ * @param a read and written, [n * n]: the matrix, row-major; only its upper triangle is factored, but all of it must be finite
+ * @param n its rows and columns
+ * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20071 the matrix is not positive definite; nothing is written
+ */
+QV_API QvStatus ZemFunc196(double* a, int64_t n, double* out);
+#define QvMatCholesky ZemFunc196
+
+/**
+ * MatCholeskyComplex (MatCholesky).
+ * The Cholesky factor, A = R^H R with R upper triangular and a positive diagonal.
+ * @param a read and written, [n * n]: the matrix, row-major; only its upper triangle is factored, but all of it must be finite
+ * @param n its rows and columns
+ * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20071 the matrix is not positive definite; nothing is written
+ */
+QV_API QvStatus ZemFunc210(QvComplex* a, int64_t n, QvComplex* out);
+#define QvMatCholeskyComplex ZemFunc210
+
+/**
+ * MatQrMethod.
+ * The full decomposition A = Q R with an orthogonal Q.
+ * Method 0 clears R below its diagonal; methods 1 and 2 leave what rounding leaves there, of the order of the double epsilon.
+ * The methods may differ in the signs of rows of R and columns of Q; method 1 and 2 pass over a column of zeros and are then in echelon form.
+ * Fast Givens rotations after Gentleman (1973); Golub and Van Loan, Matrix Computations.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param method 0: Householder reflections; 1: Givens rotations; 2: fast Givens rotations
+ * @param q written, [m * m], may be null: Q, row-major; null: not formed
+ * @param r written, [m * n], may be null: R, row-major; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the method is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc192(double* a, int64_t m, int64_t n, uint32_t method, double* q, double* r);
+#define QvMatQrMethod ZemFunc192
+
+/**
+ * MatQrPivot.
+ * The decomposition A P = Q R with column pivoting (Businger and Golub, 1965): the diagonal of R falls in magnitude.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param pivotMode 0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
+ * @param economy 0: Q is m by m; otherwise Q has min(m, n) columns
+ * @param p written, [n * n if pivotMode == 2 else n], may be null: the index, from 0, of the column of A that comes j-th; in mode 2 the matrix with p(index, j) = 1
+ * @param q written, [m * (min(m, n) if economy else m)], may be null: Q, row-major; null: not formed
+ * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc243(double* a, int64_t m, int64_t n, uint32_t pivotMode, uint32_t economy, int64_t* p, double* q, double* r);
+#define QvMatQrPivot ZemFunc243
+
+/**
+ * MatQrPivotComplex (MatQrPivot).
+ * The decomposition A P = Q R with column pivoting (Businger and Golub, 1965): the diagonal of R falls in magnitude.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param pivotMode 0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
+ * @param economy 0: Q is m by m; otherwise Q has min(m, n) columns
+ * @param p written, [n * n if pivotMode == 2 else n], may be null: the index, from 0, of the column of A that comes j-th; in mode 2 the matrix with p(index, j) = 1
+ * @param q written, [m * (min(m, n) if economy else m)], may be null: Q, row-major; null: not formed
+ * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc245(QvComplex* a, int64_t m, int64_t n, uint32_t pivotMode, uint32_t economy, int64_t* p, QvComplex* q, QvComplex* r);
+#define QvMatQrPivotComplex ZemFunc245
+
+/**
+ * MatQrComplex.
+ * The full decomposition A = Q R with a unitary Q.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param q written, [m * m], may be null: Q, row-major; null: not formed
+ * @param r written, [m * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc228(QvComplex* a, int64_t m, int64_t n, QvComplex* q, QvComplex* r);
+#define QvMatQrComplex ZemFunc228
+
+/**
+ * MatHessenberg.
+ * The Hessenberg form, A = Q H Q^T, by Householder reflections.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
+ * @param q written, [n * n]: Q, row-major
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc254(double* a, int64_t n, double* h, double* q);
+#define QvMatHessenberg ZemFunc254
+
+/**
+ * MatHessenbergComplex (MatHessenberg).
+ * The Hessenberg form, A = Q H Q^H, by Householder reflections.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
+ * @param q written, [n * n]: Q, row-major
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc255(QvComplex* a, int64_t n, QvComplex* h, QvComplex* q);
+#define QvMatHessenbergComplex ZemFunc255
+
+/**
+ * MatBalance.
+ * Permutes and scales a matrix by a similarity that brings rows and columns to like norms (Parlett and Reinsch, 1969).
+ * The factors are powers of two, so that scaling rounds nothing.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param job 0: none; 1: permutation; 2: scaling; 3: both
+ * @param low written: the first row, from 0, of the part that is not triangular
+ * @param high written: its last row
+ * @param scale written, [n]: from low to high the factors of rows and columns; elsewhere the number, from 1, of the row that was interchanged
+ * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc248(double* a, int64_t n, uint32_t job, int64_t* low, int64_t* high, double* scale, double* balanced);
+#define QvMatBalance ZemFunc248
+
+/**
+ * MatBalanceComplex (MatBalance).
+ * Permutes and scales a matrix by a similarity that brings rows and columns to like norms (Parlett and Reinsch, 1969).
+ * The factors are powers of two, so that scaling rounds nothing.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param job 0: none; 1: permutation; 2: scaling; 3: both
+ * @param low written: the first row, from 0, of the part that is not triangular
+ * @param high written: its last row
+ * @param scale written, [n]: from low to high the factors of rows and columns; elsewhere the number, from 1, of the row that was interchanged
+ * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc249(QvComplex* a, int64_t n, uint32_t job, int64_t* low, int64_t* high, double* scale, QvComplex* balanced);
+#define QvMatBalanceComplex ZemFunc249
+
+/**
+ * MatBalanceBack.
+ * Transforms the eigenvectors of a balanced matrix to those of the matrix that was balanced.
+ * @param v read and written, [n * n]: the eigenvectors of the balanced matrix, row-major, one a column
+ * @param n rows and columns
+ * @param job as it was balanced
+ * @param side 0: right eigenvectors; 1: left ones
+ * @param low as balancing gave it
+ * @param high as balancing gave it
+ * @param scale read, [n]: as balancing gave it
+ * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
+ * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc250(double* v, int64_t n, uint32_t job, uint32_t side, int64_t low, int64_t high, const double* scale, double* out);
+#define QvMatBalanceBack ZemFunc250
+
+/**
+ * MatBalanceBackComplex (MatBalanceBack).
+ * Transforms the eigenvectors of a balanced matrix to those of the matrix that was balanced.
+ * @param v read and written, [n * n]: the eigenvectors of the balanced matrix, row-major, one a column
+ * @param n rows and columns
+ * @param job as it was balanced
+ * @param side 0: right eigenvectors; 1: left ones
+ * @param low as balancing gave it
+ * @param high as balancing gave it
+ * @param scale read, [n]: as balancing gave it
+ * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
+ * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc251(QvComplex* v, int64_t n, uint32_t job, uint32_t side, int64_t low, int64_t high, const double* scale, QvComplex* out);
+#define QvMatBalanceBackComplex ZemFunc251
+
+/** @} */
+
 /** @defgroup direct_filters Direct-form and smoothing filters
  * Filters that take plain coefficient arrays. The transfer function of the direct form is
  * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
@@ -1505,6 +1893,222 @@ QV_API QvStatus ZemFunc83(double x, int32_t dof1, int32_t dof2, double* out);
  */
 QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
 #define QvDistFInverse ZemFunc104
+
+/** @} */
+
+/** @defgroup eigenproblems Eigenproblems
+ * Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
+ * eigenvalues in a chosen order along the diagonal.
+ * Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it. Inputs are
+ * copied before they are worked on. On an error the outputs stay as they are.
+ * Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal ones keep
+ * their places.
+ * @{
+ */
+
+/**
+ * MatEigenGeneral.
+ * The eigenvalues of a real matrix, A x = lambda x, by the QR algorithm.
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues; pairs stand together, the one with the positive imaginary part first
+ * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ * @code
+ * double a[4] = {0, 1, -1, 0};
+ * QvComplex values[2], vectors[4];
+ * QvMatEigenGeneral(a, 2, 1, values, vectors);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc201(const double* a, int64_t n, uint32_t wantVectors, QvComplex* values, QvComplex* vectors);
+#define QvMatEigenGeneral ZemFunc201
+
+/**
+ * MatEigenSymmetric.
+ * The eigenvalues of a symmetric matrix, by divide and conquer (Cuppen, 1981).
+ * Symmetry is not tested: the lower triangle is not used.
+ * @param a read, [n * n]: the matrix, row-major; its upper triangle counts, but all of it must be finite
+ * @param n its rows and columns
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues, ascending
+ * @param vectors written, [n * n], may be null: the eigenvectors, orthonormal; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc202(const double* a, int64_t n, uint32_t wantVectors, double* values, double* vectors);
+#define QvMatEigenSymmetric ZemFunc202
+
+/**
+ * MatEigenComplex.
+ * The eigenvalues of a complex matrix, A x = lambda x.
+ * @param a read, [n * n]: the matrix, row-major; of a Hermitian one the upper triangle counts
+ * @param n its rows and columns
+ * @param kind 0: general; 1: Hermitian
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues; of a Hermitian matrix ascending, with zero imaginary parts
+ * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 the kind is neither 0 nor 1, or wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc211(const QvComplex* a, int64_t n, int32_t kind, uint32_t wantVectors, QvComplex* values, QvComplex* vectors);
+#define QvMatEigenComplex ZemFunc211
+
+/**
+ * MatSchur.
+ * The Schur form, A = Q T Q^T, ordered by exchanges of neighbours (Bai and Demmel, 1993).
+ * With an order, a pair whose imaginary part is rounding alone (at most n epsilon beside its real part, and epsilon beside the sum of all eigenvalues) becomes two real eigenvalues: its block is cleared beside the diagonal.
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param vectors written, [n * n], may be null: Q, row-major; null: not formed
+ * @param t written, [n * n]: T, row-major, triangular but for a block of two rows for each pair
+ * @param values written, [n]: the eigenvalues in the order of the diagonal of T
+ * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc258(const double* a, int64_t n, uint32_t sort, double* vectors, double* t, QvComplex* values);
+#define QvMatSchur ZemFunc258
+
+/**
+ * MatSchurComplex (MatSchur).
+ * The Schur form, A = Q T Q^H, ordered by exchanges of neighbours (Bai and Demmel, 1993).
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param vectors written, [n * n], may be null: Q, row-major; null: not formed
+ * @param t written, [n * n]: T, row-major, triangular
+ * @param values written, [n]: the eigenvalues in the order of the diagonal of T
+ * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc259(const QvComplex* a, int64_t n, uint32_t sort, QvComplex* vectors, QvComplex* t, QvComplex* values);
+#define QvMatSchurComplex ZemFunc259
+
+/**
+ * MatEigenGeneralised.
+ * The generalised eigenvalues, A x = lambda B x, by the QZ method (Moler and Stewart, 1973).
+ * Where beta is 0 the quotient is what the division gives: an infinite real part, and NaN for 0 / 0.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param values written, [n]: the eigenvalues alpha / beta
+ * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc252(const double* a, const double* b, int64_t n, QvComplex* values, QvComplex* right, QvComplex* left);
+#define QvMatEigenGeneralised ZemFunc252
+
+/**
+ * MatEigenGeneralisedComplex (MatEigenGeneralised).
+ * The generalised eigenvalues, A x = lambda B x, by the QZ method (Moler and Stewart, 1973).
+ * Where beta is 0 the quotient is what the division gives: both parts NaN.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param values written, [n]: the eigenvalues alpha / beta
+ * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc253(const QvComplex* a, const QvComplex* b, int64_t n, QvComplex* values, QvComplex* right, QvComplex* left);
+#define QvMatEigenGeneralisedComplex ZemFunc253
+
+/**
+ * MatQz.
+ * The generalised Schur form A = Q S Z^T, B = Q T Z^T by the QZ method (Moler and Stewart, 1973), ordered by exchanges of neighbours (Kagstrom, 1993).
+ * Infinite eigenvalues come last in ascending and first in descending order.
+ * Exchanges keep the quotients; alpha and beta are those that were found before the exchanges.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param s written, [n * n]: S, row-major, upper triangular, but for a block of two rows for each pair
+ * @param t written, [n * n]: T, row-major, upper triangular
+ * @param q written, [n * n], may be null: Q, row-major; null: not formed
+ * @param z written, [n * n], may be null: Z, row-major; null: not formed
+ * @param alpha written, [n]: the numerators of the eigenvalues, in the order of the diagonal
+ * @param beta written, [n]: their denominators; 0 for an infinite eigenvalue
+ * @param right written, [n * n], may be null: the right eigenvectors, beta A x = alpha B x; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
+ * @retval 20005 a first form cannot be ordered and a second does not converge; the first is given, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge, or with vectors a pair is so nearly real that it has none; nothing is written
+ * @retval -20999 the provider fails
+ * @retval -20073 eigenvalues are too close to be exchanged, in a second form that is tried as well; nothing is written
+ */
+QV_API QvStatus ZemFunc256(const double* a, const double* b, int64_t n, uint32_t sort, double* s, double* t, double* q, double* z, QvComplex* alpha, double* beta, QvComplex* right, QvComplex* left);
+#define QvMatQz ZemFunc256
+
+/**
+ * MatQzComplex (MatQz).
+ * The generalised Schur form A = Q S Z^H, B = Q T Z^H by the QZ method (Moler and Stewart, 1973), ordered by exchanges of neighbours (Kagstrom, 1993).
+ * Infinite eigenvalues come last in ascending and first in descending order.
+ * Exchanges keep the quotients; alpha and beta are those that were found before the exchanges.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param s written, [n * n]: S, row-major, upper triangular
+ * @param t written, [n * n]: T, row-major, upper triangular
+ * @param q written, [n * n], may be null: Q, row-major; null: not formed
+ * @param z written, [n * n], may be null: Z, row-major; null: not formed
+ * @param alpha written, [n]: the numerators of the eigenvalues, in the order of the diagonal
+ * @param beta written, [n]: their denominators, with zero imaginary parts; 0 for an infinite eigenvalue
+ * @param right written, [n * n], may be null: the right eigenvectors, beta A x = alpha B x; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ * @retval -20073 eigenvalues are too close to be exchanged; nothing is written
+ */
+QV_API QvStatus ZemFunc257(const QvComplex* a, const QvComplex* b, int64_t n, uint32_t sort, QvComplex* s, QvComplex* t, QvComplex* q, QvComplex* z, QvComplex* alpha, QvComplex* beta, QvComplex* right, QvComplex* left);
+#define QvMatQzComplex ZemFunc257
 
 /** @} */
 
