@@ -1766,6 +1766,159 @@ QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, in
 
 /** @} */
 
+/** @defgroup linear_fits Linear and polynomial fits
+ * Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which some
+ * coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions at
+ * observation i. Weights count by magnitude.
+ * The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
+ * coefficients one alone is not written.
+ * @{
+ */
+
+/**
+ * FitGeneralLinear.
+ * The coefficients c that minimise |y - X c|.
+ * 0 and 6 give the solution of smallest norm: 0 drops singular values of 0, 6 those at or below m s(0) 2.2e-16. The
+ * normal equations (4, 5) are faster for many observations and square the condition number. NaN in y shows in the
+ * coefficients; NaN in the design too with selector 4.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param coefficients written, [n]: the coefficients
+ * @param selector 0 singular values; 1, 2, 3 QR; 4 LU, 5 Cholesky of the normal equations; 6 singular values truncated
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 an element of the design (selectors 0 to 3, 6) or of the normal matrix (5) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double design[6] = {1, 0, 1, 1, 1, 2}, y[3] = {1, 3, 5}, c[2];
+ * QvFitGeneralLinear(design, 3, 2, y, c, 0);  // 1 and 2: y = 1 + 2 x
+ * @endcode
+ */
+QV_API QvStatus ZemFunc239(const double* design, int64_t m, int64_t n, const double* y, double* coefficients, uint32_t selector);
+#define QvFitGeneralLinear ZemFunc239
+
+/**
+ * FitGeneralLinearEx.
+ * The coefficients that minimise the sum of ((y - X c) / deviation)^2.
+ * With the selectors 4 and 5 the covariance is written before the coefficients are solved for.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param deviations read, [m], may be null: the standard deviations of the observations; 0 weighs 1; null: all 1
+ * @param selector as for QvFitGeneralLinear
+ * @param fitted written, [m], may be null: the fitted curve, X c; only together with the error
+ * @param coefficients written, [n]: the coefficients
+ * @param covariance written, [n * n], may be null: the covariance of the coefficients, (X' W X)^-1 with W the weights
+ * @param meanSquaredError written, may be null: sum of w (y - f)^2 / m; only together with the curve
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 a scaled element of the design (selectors 0 to 3, 6) or of the normal matrix (5; 4 with a covariance) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc86(const double* design, int64_t m, int64_t n, const double* y, const double* deviations, uint32_t selector, double* fitted, double* coefficients, double* covariance, double* meanSquaredError);
+#define QvFitGeneralLinearEx ZemFunc86
+
+/**
+ * FitPolynomial.
+ * The polynomial of least squares, by singular values. Powers above 25 are not fitted: their coefficients are 0.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order
+ * @param order the degree of the polynomial
+ * @param fitted written, [n], may be null: the fitted curve; only together with the error
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20103 the order is negative
+ * @retval -20037 n is not above the order
+ * @retval -20046 n times the number of powers is above 2^31 - 1
+ * @retval -20068 a power of an abscissa is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ * @code
+ * double x[4] = {0, 1, 2, 3}, y[4] = {1, 2, 5, 10}, curve[4], c[3], error;
+ * QvFitPolynomial(x, y, 4, 2, curve, c, &error);  // 1, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc137(double* x, const double* y, int64_t n, int32_t order, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomial ZemFunc137
+
+/**
+ * FitPolynomialConstrained.
+ * The polynomial of least squares among those with the given coefficients.
+ * Powers above 25 are not fitted, unless fewer than two below are free: then up to the second free one. Without given
+ * coefficients a curve without an error is not written.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc298(double* x, const double* y, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialConstrained ZemFunc298
+
+/**
+ * FitPolynomialWeighted.
+ * QvFitPolynomialConstrained with weights.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights; null: all 1
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of |w| (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa times its weight is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc361(double* x, const double* y, const double* weights, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialWeighted ZemFunc361
+
+/** @} */
+
 /** @defgroup matrices Solving, inversion and matrix operations
  * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
  * at the
