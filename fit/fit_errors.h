@@ -12,4 +12,7 @@ Status FitMeanSquaredError(const double* y, const double* fit, const double* wei
 Status FitMeanAbsoluteError(const double* fit, const double* y, const double* weights, Count n,
                             double* result) noexcept;
 
+// The relative change at which a fit that iterates ends.
+inline double ToleranceOrDefault(double tolerance) noexcept { return tolerance <= 0 ? 0.0001 : tolerance; }
+
 }  // namespace quorvan

@@ -17,8 +17,6 @@
 namespace quorvan {
 namespace {
 
-double ToleranceOrDefault(double tolerance) { return tolerance <= 0 ? 0.0001 : tolerance; }
-
 // h(i) = x(i)·(X'WX)⁺·x(i)', and what it makes of a residual. The weight stays out of h here, deliberately: the fits of
 // the fixed models have it in.
 Status LeverageFactors(const double* design, Count m, Count n, const double* weights, double* factors) {

@@ -2731,6 +2731,200 @@ QV_API void ZemFunc470(void* block);
 
 /** @} */
 
+/** @defgroup model_fits Line, exponential, power, logarithm and Gaussian fits
+ * Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least
+ * absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the one before
+ * and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it
+ * ends when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+ * On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
+ * @{
+ */
+
+/**
+ * FitLine.
+ * The line of least squares, y = a x + b. Equal abscissas give what the division by 0 gives, and no error.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 2}, y[3] = {1, 3, 5}, curve[3], slope, intercept, error;
+ * QvFitLine(x, y, 3, curve, &slope, &intercept, &error);  // 2 and 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc117(const double* x, double* y, int64_t n, double* fitted, double* slope, double* intercept, double* meanSquaredError);
+#define QvFitLine ZemFunc117
+
+/**
+ * FitLineRobust.
+ * The line y = a x + b by one of three methods.
+ * The methods 1 and 2 draw two samples' line exactly, whatever the weights, with the residue 0. Method 1 alternates
+ * weighted medians of slope and intercept.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20055 method 1: two and more abscissas are 0
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc288(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* slope, double* intercept, double* residue);
+#define QvFitLineRobust ZemFunc288
+
+/**
+ * FitExponential.
+ * The exponential y = a exp(b x) by the line through (x, ln |y|) with the weights y^2, without iteration.
+ * Samples of the sign of the minority, and zeros, take no part; a tie takes the positive ones.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20068 an abscissa or an ordinate of that sign is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc73(const double* x, double* y, int64_t n, double* fitted, double* a, double* b, double* meanSquaredError);
+#define QvFitExponential ZemFunc73
+
+/**
+ * FitExponentialRobust.
+ * The model y = a exp(b x) by one of three methods.
+ * Least squares starts from the line through (x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc286(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitExponentialRobust ZemFunc286
+
+/**
+ * FitPower.
+ * The model y = a x^b by one of three methods.
+ * Least squares starts from the line through (ln x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a x^b
+ * @param b written: b, the exponent
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc290(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitPower ZemFunc290
+
+/**
+ * FitLogarithm.
+ * The model y = a log(b x) by one of three methods, each over the line through (log |x|, y).
+ * With a = 0, b is the sign of x.
+ * @param x read, [n]: the abscissas, all above or all below 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a log(b x)
+ * @param b written: b, of the sign of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20036 an abscissa is 0, or they differ in sign (the text speaks of y)
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc289(const double* x, double* y, const double* weights, int64_t n, double base, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitLogarithm ZemFunc289
+
+/**
+ * FitGaussian.
+ * The Gaussian y = a exp(-((x - m) / s)^2 / 2) by one of three methods.
+ * Without a guess the peak and the samples above a tenth of it give the start; a peak that stands alone gives the
+ * result, with its neighbours. At most 501 steps up the gradient, halved while the error grows. The residue of least
+ * squares is that of the last trial, which may have been rejected, unless the start was best.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param guess read, [3], may be null: amplitude, centre and width to start from; one that is not finite: none
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param amplitude written: a of y = a exp(-((x - m) / s)^2 / 2)
+ * @param centre written: m
+ * @param width written: s, at least 0
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20007 n is below 3
+ * @retval -20068 a weight is NaN, or an abscissa is not finite
+ * @retval -20141 all weights but one or two are 0
+ * @retval -20026 the width is 0, or a lone peak lacks a neighbour of its sign on one side
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[5] = {-2, -1, 0, 1, 2}, y[5] = {0.27, 1.21, 2, 1.21, 0.27}, curve[5], a, m, s, residue;
+ * QvFitGaussian(x, y, NULL, 5, 0, -1, NULL, curve, &a, &m, &s, &residue);  // about 2, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc287(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, const double* guess, double* fitted, double* amplitude, double* centre, double* width, double* residue);
+#define QvFitGaussian ZemFunc287
+
+/** @} */
+
 /** @defgroup multiple_roots Multiple polynomial roots and lag products
  * @{
  */
