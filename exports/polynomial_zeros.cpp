@@ -1,7 +1,6 @@
 // Entry of the complex zeros of a polynomial.
-#include "poly/complex_zeros.h"
-
 #include "frame/entry.h"
+#include "poly/complex_zeros.h"
 #include "quorvan/quorvan.h"
 
 using namespace quorvan;
