@@ -43,6 +43,9 @@ struct TwoCoefficients {
     static constexpr double kRefitTolerance = -1;
 };
 
+// Value(x, c) is the model; Row(x, c, row) its derivatives by the coefficients, for a line that by the intercept first;
+// FromRow(row, c) the model again, without another transcendental function.
+
 // y = c0 x + c1.
 struct LineModel : TwoCoefficients {
     static constexpr FitLimits kLimits{0, 0, 0, 0, 0};
@@ -51,9 +54,11 @@ struct LineModel : TwoCoefficients {
         row[0] = 1;  // the intercept first
         row[1] = x;
     }
+    double FromRow(const double* row, const double* c) const noexcept { return c[0] * row[1] + c[1]; }
 };
 
 struct GrowthModel : TwoCoefficients {
+    double FromRow(const double* row, const double* c) const noexcept { return c[0] * row[0]; }
     static constexpr FitLimits kLimits{100, 50, 50, 100, 50};
 };
 
@@ -86,6 +91,7 @@ struct LogarithmModel : TwoCoefficients {
         row[0] = base.Log(c[1] * x);
         row[1] = base.Slope(c[0] / c[1]);
     }
+    double FromRow(const double* row, const double* c) const noexcept { return c[0] * row[0]; }
 };
 
 // y = c0 exp(-((x - c1) / c2)² / 2).
@@ -108,6 +114,7 @@ struct GaussianModel {
         row[1] = c[0] * z * row[0] / c[2];
         row[2] = c[0] * (z * z) * row[0] / c[2];
     }
+    double FromRow(const double* row, const double* c) const noexcept { return c[0] * row[0]; }
 };
 
 }  // namespace quorvan

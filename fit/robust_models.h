@@ -6,6 +6,7 @@
 
 #include "fit/fit_errors.h"
 #include "fit/model_engines.h"
+#include "fit/model_rows.h"
 #include "fit/robust_weights.h"
 #include "frame/memory.h"
 #include "linalg/solve.h"
@@ -63,17 +64,12 @@ Status ModelLeverageFactors(const Model& model, const ModelSamples& samples, con
     double* row = rows;
     for (Count i = 0; i < samples.n; ++i, row += k) {
         model.Row(samples.x[i], c, row);
-        for (Count p = 0; p < k; ++p)
-            for (Count q = 0; q < k; ++q) inverse[p * k + q] += weight(i) * row[p] * row[q];
+        AddInformation<k>(row, weight(i), inverse);
     }
     if (Status failed = MatPseudoInverse<double>(inverse, k, k, -1, nullptr)) return failed;
     row = rows;
-    for (Count i = 0; i < samples.n; ++i, row += k) {
-        double leverage = 0;
-        for (Count p = 0; p < k; ++p)
-            for (Count q = 0; q < k; ++q) leverage += row[p] * inverse[p * k + q] * row[q];
-        factors[i] = LeverageFactor(weight(i) * leverage, samples.weights, i);
-    }
+    for (Count i = 0; i < samples.n; ++i, row += k)
+        factors[i] = LeverageFactor(weight(i) * RowVariance<k>(row, inverse), samples.weights, i);
     return status::kSuccess;
 }
 

@@ -2372,6 +2372,224 @@ QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, Q
 
 /** @} */
 
+/** @defgroup fit_bounds Fit bounds, goodness of fit and sample removal
+ * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients come
+ * in as arguments; three numbers for its goodness; and the removal of samples before it.
+ * A confidence band (type 0) is where the mean response lies with the given probability, a prediction band (type 1)
+ * where a new observation does. Both come from the linearised model: with J the derivatives, G = (sum of |w| J' J)^+,
+ * s^2 = sum of |w| (f - y)^2 / (n - p) and t the quantile of Student's distribution with n - p degrees of freedom, the
+ * half-width is t s sqrt(J G J'), for a new observation t s sqrt(J G J' + 1/|w|).
+ * @{
+ */
+
+/**
+ * FitBoundsLine.
+ * The band of a fitted line, y = slope x + intercept. The method is exact for normal errors.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; their sign counts in the information matrix of a confidence band; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param slope the slope
+ * @param intercept the intercept
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param slopeHalfWidth written: of the confidence interval of slope; type 0 only
+ * @param interceptHalfWidth written: of the confidence interval of intercept; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFitLine(x, y, n, curve, &slope, &intercept, &error);
+ * QvFitBoundsLine(x, y, NULL, n, 0, 0.95, slope, intercept, upper, lower, &ds, &di);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc293(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double slope, double intercept, double* upper, double* lower, double* slopeHalfWidth, double* interceptHalfWidth);
+#define QvFitBoundsLine ZemFunc293
+
+/**
+ * FitBoundsExponential.
+ * The band of a fitted exponential, y = a exp(b x). The derivatives are exp(b x) and a x exp(b x).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the rate
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc291(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsExponential ZemFunc291
+
+/**
+ * FitBoundsPower.
+ * The band of a fitted power, y = a x^b. The derivatives are x^b and a x^b ln x.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the exponent
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc295(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsPower ZemFunc295
+
+/**
+ * FitBoundsLogarithm.
+ * The band of a fitted logarithm, y = a log(b x). The derivatives are log(b x) and a / (b ln base).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, of the sign of b
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the scale of x
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc294(const double* x, const double* y, const double* weights, int64_t n, double base, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsLogarithm ZemFunc294
+
+/**
+ * FitBoundsGaussian.
+ * The band of a fitted Gaussian, y = a exp(-((x - m) / s)^2 / 2). The derivatives are e, a z e / s and a z^2 e / s with z = (x - m) / s, e = exp(-z^2 / 2).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param amplitude a
+ * @param centre m
+ * @param width s, not 0
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param amplitudeHalfWidth written: of the confidence interval of amplitude; type 0 only
+ * @param centreHalfWidth written: of the confidence interval of centre; type 0 only
+ * @param widthHalfWidth written: of the confidence interval of width; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20069 n is below 4
+ * @retval -20026 the width is 0
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc292(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double amplitude, double centre, double width, double* upper, double* lower, double* amplitudeHalfWidth, double* centreHalfWidth, double* widthHalfWidth);
+#define QvFitBoundsGaussian ZemFunc292
+
+/**
+ * FitGoodness.
+ * Sum of squared errors, coefficient of determination and root mean squared error of a fit.
+ * The mean is that of y without weights. On an error nothing is written.
+ * @param y read, [n]: the ordinates
+ * @param fitted read, [n]: the fitted curve
+ * @param weights read, [n], may be null: the weights, with their sign; null: all 1
+ * @param n the number of samples
+ * @param dof the degrees of freedom, below n; below 1: n - 2
+ * @param sse written: sum of w (y - f)^2
+ * @param rSquare written: 1 - sse / sum of w (y - mean)^2; of a constant y 1 for sse = 0, infinity otherwise
+ * @param rmse written: sqrt(sse / dof)
+ * @retval -20006 n is below 2
+ * @retval -20052 dof is n or above
+ */
+QV_API QvStatus ZemFunc284(const double* y, const double* fitted, const double* weights, int64_t n, int64_t dof, double* sse, double* rSquare, double* rmse);
+#define QvFitGoodness ZemFunc284
+
+/**
+ * FitRemoveOutOfRange.
+ * Removes the samples that do not lie strictly inside the range.
+ * The three counts are written whatever the status, except for -20046. With -20010, and -20003 for nothing to remove,
+ * they tell what would be kept and removed while the arrays stay; after other errors n is 0 and the others are the
+ * former n. A sample of NaN stays.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param mode 0 by y, 1 by x, 2 by x and y
+ * @param limits read, [limitCount]: the range, in either order; in mode 2 that of x, then that of y
+ * @param limitCount at least 2, in mode 2 at least 4
+ * @param removed written, [capacity]: the indices of the samples removed, ascending
+ * @param capacity read and written: in the room for indices, out the number of samples removed
+ * @param removedCount written: the number of samples removed
+ * @retval -20046 n or capacity does not fit 32 bits
+ * @retval -20003 n or limitCount is below 1; or there is nothing to remove
+ * @retval -20061 the mode is above 2
+ * @retval -20006 modes 0 and 1: fewer than two limits
+ * @retval -20069 mode 2: fewer than four limits
+ * @retval -20068 a limit is NaN
+ * @retval -20010 there are more samples to remove than capacity
+ * @code
+ * int64_t n = 5, room = 5, count, gone[5];
+ * double range[2] = {0, 10}, x[5] = {1, 2, 3, 4, 5}, y[5] = {1, -1, 9, 10, 3};
+ * QvFitRemoveOutOfRange(x, y, NULL, &n, 0, range, 2, gone, &room, &count);  // keeps 1, 3, 5; gone are 1, 3
+ * @endcode
+ */
+QV_API QvStatus ZemFunc297(double* x, double* y, double* weights, int64_t* n, uint32_t mode, const double* limits, int32_t limitCount, int64_t* removed, int64_t* capacity, int64_t* removedCount);
+#define QvFitRemoveOutOfRange ZemFunc297
+
+/**
+ * FitRemoveByIndex.
+ * Removes samples by their indices. On an error nothing is written.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param indices read, [count]: the samples to remove, in any order; one may be named more than once
+ * @param count the number of indices
+ * @retval -20046 n, count or an index does not fit 32 bits
+ * @retval -20003 n or count is below 1
+ * @retval -20017 an index is not from 0 to n - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc296(double* x, double* y, double* weights, int64_t* n, const int64_t* indices, int64_t count);
+#define QvFitRemoveByIndex ZemFunc296
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
