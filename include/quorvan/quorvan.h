@@ -2372,6 +2372,224 @@ QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, Q
 
 /** @} */
 
+/** @defgroup fit_bounds Fit bounds, goodness of fit and sample removal
+ * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients come
+ * in as arguments; three numbers for its goodness; and the removal of samples before it.
+ * A confidence band (type 0) is where the mean response lies with the given probability, a prediction band (type 1)
+ * where a new observation does. Both come from the linearised model: with J the derivatives, G = (sum of |w| J' J)^+,
+ * s^2 = sum of |w| (f - y)^2 / (n - p) and t the quantile of Student's distribution with n - p degrees of freedom, the
+ * half-width is t s sqrt(J G J'), for a new observation t s sqrt(J G J' + 1/|w|).
+ * @{
+ */
+
+/**
+ * FitBoundsLine.
+ * The band of a fitted line, y = slope x + intercept. The method is exact for normal errors.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; their sign counts in the information matrix of a confidence band; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param slope the slope
+ * @param intercept the intercept
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param slopeHalfWidth written: of the confidence interval of slope; type 0 only
+ * @param interceptHalfWidth written: of the confidence interval of intercept; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFitLine(x, y, n, curve, &slope, &intercept, &error);
+ * QvFitBoundsLine(x, y, NULL, n, 0, 0.95, slope, intercept, upper, lower, &ds, &di);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc293(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double slope, double intercept, double* upper, double* lower, double* slopeHalfWidth, double* interceptHalfWidth);
+#define QvFitBoundsLine ZemFunc293
+
+/**
+ * FitBoundsExponential.
+ * The band of a fitted exponential, y = a exp(b x). The derivatives are exp(b x) and a x exp(b x).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the rate
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc291(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsExponential ZemFunc291
+
+/**
+ * FitBoundsPower.
+ * The band of a fitted power, y = a x^b. The derivatives are x^b and a x^b ln x.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the exponent
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc295(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsPower ZemFunc295
+
+/**
+ * FitBoundsLogarithm.
+ * The band of a fitted logarithm, y = a log(b x). The derivatives are log(b x) and a / (b ln base).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, of the sign of b
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the scale of x
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc294(const double* x, const double* y, const double* weights, int64_t n, double base, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsLogarithm ZemFunc294
+
+/**
+ * FitBoundsGaussian.
+ * The band of a fitted Gaussian, y = a exp(-((x - m) / s)^2 / 2). The derivatives are e, a z e / s and a z^2 e / s with z = (x - m) / s, e = exp(-z^2 / 2).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param amplitude a
+ * @param centre m
+ * @param width s, not 0
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param amplitudeHalfWidth written: of the confidence interval of amplitude; type 0 only
+ * @param centreHalfWidth written: of the confidence interval of centre; type 0 only
+ * @param widthHalfWidth written: of the confidence interval of width; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20069 n is below 4
+ * @retval -20026 the width is 0
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc292(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double amplitude, double centre, double width, double* upper, double* lower, double* amplitudeHalfWidth, double* centreHalfWidth, double* widthHalfWidth);
+#define QvFitBoundsGaussian ZemFunc292
+
+/**
+ * FitGoodness.
+ * Sum of squared errors, coefficient of determination and root mean squared error of a fit.
+ * The mean is that of y without weights. On an error nothing is written.
+ * @param y read, [n]: the ordinates
+ * @param fitted read, [n]: the fitted curve
+ * @param weights read, [n], may be null: the weights, with their sign; null: all 1
+ * @param n the number of samples
+ * @param dof the degrees of freedom, below n; below 1: n - 2
+ * @param sse written: sum of w (y - f)^2
+ * @param rSquare written: 1 - sse / sum of w (y - mean)^2; of a constant y 1 for sse = 0, infinity otherwise
+ * @param rmse written: sqrt(sse / dof)
+ * @retval -20006 n is below 2
+ * @retval -20052 dof is n or above
+ */
+QV_API QvStatus ZemFunc284(const double* y, const double* fitted, const double* weights, int64_t n, int64_t dof, double* sse, double* rSquare, double* rmse);
+#define QvFitGoodness ZemFunc284
+
+/**
+ * FitRemoveOutOfRange.
+ * Removes the samples that do not lie strictly inside the range.
+ * The three counts are written whatever the status, except for -20046. With -20010, and -20003 for nothing to remove,
+ * they tell what would be kept and removed while the arrays stay; after other errors n is 0 and the others are the
+ * former n. A sample of NaN stays.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param mode 0 by y, 1 by x, 2 by x and y
+ * @param limits read, [limitCount]: the range, in either order; in mode 2 that of x, then that of y
+ * @param limitCount at least 2, in mode 2 at least 4
+ * @param removed written, [capacity]: the indices of the samples removed, ascending
+ * @param capacity read and written: in the room for indices, out the number of samples removed
+ * @param removedCount written: the number of samples removed
+ * @retval -20046 n or capacity does not fit 32 bits
+ * @retval -20003 n or limitCount is below 1; or there is nothing to remove
+ * @retval -20061 the mode is above 2
+ * @retval -20006 modes 0 and 1: fewer than two limits
+ * @retval -20069 mode 2: fewer than four limits
+ * @retval -20068 a limit is NaN
+ * @retval -20010 there are more samples to remove than capacity
+ * @code
+ * int64_t n = 5, room = 5, count, gone[5];
+ * double range[2] = {0, 10}, x[5] = {1, 2, 3, 4, 5}, y[5] = {1, -1, 9, 10, 3};
+ * QvFitRemoveOutOfRange(x, y, NULL, &n, 0, range, 2, gone, &room, &count);  // keeps 1, 3, 5; gone are 1, 3
+ * @endcode
+ */
+QV_API QvStatus ZemFunc297(double* x, double* y, double* weights, int64_t* n, uint32_t mode, const double* limits, int32_t limitCount, int64_t* removed, int64_t* capacity, int64_t* removedCount);
+#define QvFitRemoveOutOfRange ZemFunc297
+
+/**
+ * FitRemoveByIndex.
+ * Removes samples by their indices. On an error nothing is written.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param indices read, [count]: the samples to remove, in any order; one may be named more than once
+ * @param count the number of indices
+ * @retval -20046 n, count or an index does not fit 32 bits
+ * @retval -20003 n or count is below 1
+ * @retval -20017 an index is not from 0 to n - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc296(double* x, double* y, double* weights, int64_t* n, const int64_t* indices, int64_t count);
+#define QvFitRemoveByIndex ZemFunc296
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
@@ -3968,6 +4186,159 @@ QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, in
 
 /** @} */
 
+/** @defgroup linear_fits Linear and polynomial fits
+ * Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which some
+ * coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions at
+ * observation i. Weights count by magnitude.
+ * The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
+ * coefficients one alone is not written.
+ * @{
+ */
+
+/**
+ * FitGeneralLinear.
+ * The coefficients c that minimise |y - X c|.
+ * 0 and 6 give the solution of smallest norm: 0 drops singular values of 0, 6 those at or below m s(0) 2.2e-16. The
+ * normal equations (4, 5) are faster for many observations and square the condition number. NaN in y shows in the
+ * coefficients; NaN in the design too with selector 4.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param coefficients written, [n]: the coefficients
+ * @param selector 0 singular values; 1, 2, 3 QR; 4 LU, 5 Cholesky of the normal equations; 6 singular values truncated
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 an element of the design (selectors 0 to 3, 6) or of the normal matrix (5) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double design[6] = {1, 0, 1, 1, 1, 2}, y[3] = {1, 3, 5}, c[2];
+ * QvFitGeneralLinear(design, 3, 2, y, c, 0);  // 1 and 2: y = 1 + 2 x
+ * @endcode
+ */
+QV_API QvStatus ZemFunc239(const double* design, int64_t m, int64_t n, const double* y, double* coefficients, uint32_t selector);
+#define QvFitGeneralLinear ZemFunc239
+
+/**
+ * FitGeneralLinearEx.
+ * The coefficients that minimise the sum of ((y - X c) / deviation)^2.
+ * With the selectors 4 and 5 the covariance is written before the coefficients are solved for.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param deviations read, [m], may be null: the standard deviations of the observations; 0 weighs 1; null: all 1
+ * @param selector as for QvFitGeneralLinear
+ * @param fitted written, [m], may be null: the fitted curve, X c; only together with the error
+ * @param coefficients written, [n]: the coefficients
+ * @param covariance written, [n * n], may be null: the covariance of the coefficients, (X' W X)^-1 with W the weights
+ * @param meanSquaredError written, may be null: sum of w (y - f)^2 / m; only together with the curve
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 a scaled element of the design (selectors 0 to 3, 6) or of the normal matrix (5; 4 with a covariance) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc86(const double* design, int64_t m, int64_t n, const double* y, const double* deviations, uint32_t selector, double* fitted, double* coefficients, double* covariance, double* meanSquaredError);
+#define QvFitGeneralLinearEx ZemFunc86
+
+/**
+ * FitPolynomial.
+ * The polynomial of least squares, by singular values. Powers above 25 are not fitted: their coefficients are 0.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order
+ * @param order the degree of the polynomial
+ * @param fitted written, [n], may be null: the fitted curve; only together with the error
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20103 the order is negative
+ * @retval -20037 n is not above the order
+ * @retval -20046 n times the number of powers is above 2^31 - 1
+ * @retval -20068 a power of an abscissa is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ * @code
+ * double x[4] = {0, 1, 2, 3}, y[4] = {1, 2, 5, 10}, curve[4], c[3], error;
+ * QvFitPolynomial(x, y, 4, 2, curve, c, &error);  // 1, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc137(double* x, const double* y, int64_t n, int32_t order, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomial ZemFunc137
+
+/**
+ * FitPolynomialConstrained.
+ * The polynomial of least squares among those with the given coefficients.
+ * Powers above 25 are not fitted, unless fewer than two below are free: then up to the second free one. Without given
+ * coefficients a curve without an error is not written.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc298(double* x, const double* y, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialConstrained ZemFunc298
+
+/**
+ * FitPolynomialWeighted.
+ * QvFitPolynomialConstrained with weights.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights; null: all 1
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of |w| (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa times its weight is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc361(double* x, const double* y, const double* weights, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialWeighted ZemFunc361
+
+/** @} */
+
 /** @defgroup matrices Solving, inversion and matrix operations
  * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
  * at the
@@ -4777,6 +5148,200 @@ QV_API void ZemFunc238(void* block);
  */
 QV_API void ZemFunc470(void* block);
 #define QvIirStateComplexRelease ZemFunc470
+
+/** @} */
+
+/** @defgroup model_fits Line, exponential, power, logarithm and Gaussian fits
+ * Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least
+ * absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the one before
+ * and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it
+ * ends when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+ * On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
+ * @{
+ */
+
+/**
+ * FitLine.
+ * The line of least squares, y = a x + b. Equal abscissas give what the division by 0 gives, and no error.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 2}, y[3] = {1, 3, 5}, curve[3], slope, intercept, error;
+ * QvFitLine(x, y, 3, curve, &slope, &intercept, &error);  // 2 and 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc117(const double* x, double* y, int64_t n, double* fitted, double* slope, double* intercept, double* meanSquaredError);
+#define QvFitLine ZemFunc117
+
+/**
+ * FitLineRobust.
+ * The line y = a x + b by one of three methods.
+ * The methods 1 and 2 draw two samples' line exactly, whatever the weights, with the residue 0. Method 1 alternates
+ * weighted medians of slope and intercept.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20055 method 1: two and more abscissas are 0
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc288(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* slope, double* intercept, double* residue);
+#define QvFitLineRobust ZemFunc288
+
+/**
+ * FitExponential.
+ * The exponential y = a exp(b x) by the line through (x, ln |y|) with the weights y^2, without iteration.
+ * Samples of the sign of the minority, and zeros, take no part; a tie takes the positive ones.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20068 an abscissa or an ordinate of that sign is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc73(const double* x, double* y, int64_t n, double* fitted, double* a, double* b, double* meanSquaredError);
+#define QvFitExponential ZemFunc73
+
+/**
+ * FitExponentialRobust.
+ * The model y = a exp(b x) by one of three methods.
+ * Least squares starts from the line through (x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc286(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitExponentialRobust ZemFunc286
+
+/**
+ * FitPower.
+ * The model y = a x^b by one of three methods.
+ * Least squares starts from the line through (ln x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a x^b
+ * @param b written: b, the exponent
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc290(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitPower ZemFunc290
+
+/**
+ * FitLogarithm.
+ * The model y = a log(b x) by one of three methods, each over the line through (log |x|, y).
+ * With a = 0, b is the sign of x.
+ * @param x read, [n]: the abscissas, all above or all below 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a log(b x)
+ * @param b written: b, of the sign of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20036 an abscissa is 0, or they differ in sign (the text speaks of y)
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc289(const double* x, double* y, const double* weights, int64_t n, double base, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitLogarithm ZemFunc289
+
+/**
+ * FitGaussian.
+ * The Gaussian y = a exp(-((x - m) / s)^2 / 2) by one of three methods.
+ * Without a guess the peak and the samples above a tenth of it give the start; a peak that stands alone gives the
+ * result, with its neighbours. At most 501 steps up the gradient, halved while the error grows. The residue of least
+ * squares is that of the last trial, which may have been rejected, unless the start was best.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param guess read, [3], may be null: amplitude, centre and width to start from; one that is not finite: none
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param amplitude written: a of y = a exp(-((x - m) / s)^2 / 2)
+ * @param centre written: m
+ * @param width written: s, at least 0
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20007 n is below 3
+ * @retval -20068 a weight is NaN, or an abscissa is not finite
+ * @retval -20141 all weights but one or two are 0
+ * @retval -20026 the width is 0, or a lone peak lacks a neighbour of its sign on one side
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[5] = {-2, -1, 0, 1, 2}, y[5] = {0.27, 1.21, 2, 1.21, 0.27}, curve[5], a, m, s, residue;
+ * QvFitGaussian(x, y, NULL, 5, 0, -1, NULL, curve, &a, &m, &s, &residue);  // about 2, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc287(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, const double* guess, double* fitted, double* amplitude, double* centre, double* width, double* residue);
+#define QvFitGaussian ZemFunc287
 
 /** @} */
 
