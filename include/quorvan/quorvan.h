@@ -1270,6 +1270,443 @@ QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t
 
 /** @} */
 
+/** @defgroup fir_windows FIR design by window
+ * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
+ * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
+ * Signal Processing, chapter 7). With t = i - (taps - 1)/2 and w = 2 pi f/fs the lowpass is sin(w t)/(pi t), the
+ * bandpass the difference of two lowpasses; highpass and bandstop are a unit pulse less these. The passband is not
+ * scaled to a gain of exactly 1.
+ * Frequencies are in the unit of the sampling rate fs. Taps are symmetric about the middle; the delay is (taps - 1)/2.
+ * After an error h is undefined. The filters write the whole convolution, with both transients, and y must not overlap
+ * x. Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirIdealResponse.
+ * The ideal response, without a window.
+ * The angles of the sines are accumulated from tap to tap.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ */
+QV_API QvStatus ZemFunc79(uint32_t kind, double fs, double fl, double fh, int32_t taps, double* h);
+#define QvFirIdealResponse ZemFunc79
+
+/**
+ * FirDesignWindow.
+ * The ideal response under a window of any code. One tap is left as it is, whatever the window.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double h[63];
+ * QvFirDesignWindow(0, 1000.0, 40.0, 0.0, 63, QV_WINDOW_BLACKMAN, 0.0, h);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc335(uint32_t kind, double fs, double fl, double fh, int32_t taps, int32_t window, double parameter, double* h);
+#define QvFirDesignWindow ZemFunc335
+
+/**
+ * FirDesignLowpass.
+ * A lowpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirDesignLowpass(1000.0, 40.0, 63, h, 4);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc189(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignLowpass ZemFunc189
+
+/**
+ * FirDesignHighpass.
+ * A highpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc188(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignHighpass ZemFunc188
+
+/**
+ * FirDesignBandpass.
+ * A bandpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc186(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandpass ZemFunc186
+
+/**
+ * FirDesignBandstop.
+ * A bandstop under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc187(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandstop ZemFunc187
+
+/**
+ * FirDesignKaiserLowpass.
+ * A lowpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc112(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserLowpass ZemFunc112
+
+/**
+ * FirDesignKaiserHighpass.
+ * A highpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc111(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserHighpass ZemFunc111
+
+/**
+ * FirDesignKaiserBandpass.
+ * A bandpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc109(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandpass ZemFunc109
+
+/**
+ * FirDesignKaiserBandstop.
+ * A bandstop under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc110(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandstop ZemFunc110
+
+/**
+ * FirFilterWindow.
+ * Designs any kind as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirFilterWindow(x, 1000, 63, 2, 1000.0, 40.0, 60.0, QV_WINDOW_KAISER, 6.0, y);  // 1062 samples
+ * @endcode
+ */
+QV_API QvStatus ZemFunc480(const double* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindow ZemFunc480
+
+/**
+ * FirFilterWindowLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc481(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowLowpass ZemFunc481
+
+/**
+ * FirFilterWindowHighpass.
+ * Designs a highpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc482(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowHighpass ZemFunc482
+
+/**
+ * FirFilterWindowBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc483(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandpass ZemFunc483
+
+/**
+ * FirFilterWindowBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc484(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandstop ZemFunc484
+
+/**
+ * FirFilterWindowComplex.
+ * Designs any kind as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc485(const QvComplex* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplex ZemFunc485
+
+/**
+ * FirFilterWindowComplexLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc486(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexLowpass ZemFunc486
+
+/**
+ * FirFilterWindowComplexHighpass.
+ * Designs a highpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc487(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexHighpass ZemFunc487
+
+/**
+ * FirFilterWindowComplexBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc488(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandpass ZemFunc488
+
+/**
+ * FirFilterWindowComplexBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc489(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandstop ZemFunc489
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
