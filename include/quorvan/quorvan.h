@@ -1270,6 +1270,362 @@ QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t
 
 /** @} */
 
+/** @defgroup fir_equiripple Equiripple FIR design
+ * Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the Remez
+ * exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner, IEEE Trans.
+ * Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs.
+ * Multiband filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error
+ * reaches plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written.
+ * A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirRemezDesign.
+ * Designs a filter for any number of bands.
+ * Multiband filters and differentiators begin at 0; filters end at fs/2, Hilbert transformers leave out 0. Antisymmetric
+ * filters of odd length are zero at fs/2 and must end before: by 0.01 or 0.001 in the unit of fs. A slope below 0.0001
+ * has its absolute error weighted.
+ * @param bands the number of bands
+ * @param desired read, [bands]: the gain of each band; for a differentiator the slope over f/fs
+ * @param weights read, [bands]: the weight of each band's error; for a differentiator of the relative error
+ * @param fs the sampling rate
+ * @param edges read, [2 * bands]: lower and upper edge of each band, ascending
+ * @param kind 1 multiband filter, 2 differentiator, 3 Hilbert transformer; others antisymmetric, without checks
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20003 bands is below 1
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative
+ * @retval -20031 a weight or gain is not finite
+ * @retval -20023 a weight is not above 0 or a gain is negative
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20023 the edges do not ascend
+ * @retval -20031 the first or last edge is not what the kind wants
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 an antisymmetric filter has 3 taps, or a Hilbert transformer less than 6
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * double gain[2] = {1, 0}, weight[2] = {1, 10}, edges[4] = {0, 100, 150, 500}, h[41], delta;
+ * QvFirRemezDesign(2, gain, weight, 1000.0, edges, 1, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc65(int32_t bands, const double* desired, const double* weights, double fs, const double* edges, int32_t kind, int32_t taps, double* h, double* delta);
+#define QvFirRemezDesign ZemFunc65
+
+/**
+ * FirRemezBands.
+ * FirRemezDesign with a record for each band, and kinds that count from 0.
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param bands read, [count]: gain, lower edge, upper edge and weight of each band
+ * @param count the number of bands
+ * @param kind 0 multiband filter, 1 differentiator, 2 Hilbert transformer
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3, count is below 1, or a value of a record is infinite
+ * @retval -20001 memory is exhausted
+ * @retval -20023 as FirRemezDesign, which also refuses NaN (-20031)
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 the design is refused or fails, as in FirRemezDesign
+ */
+QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t count, int32_t kind, double* h, double* delta);
+#define QvFirRemezBands ZemFunc408
+
+/**
+ * FirRemezLowpass.
+ * A lowpass with equal weights.
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * QvFirRemezLowpass(1000.0, 100.0, 150.0, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, double* h, double* delta);
+#define QvFirRemezLowpass ZemFunc69
+
+/**
+ * FirRemezHighpass.
+ * A highpass with equal weights.
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, double* h, double* delta);
+#define QvFirRemezHighpass ZemFunc68
+
+/**
+ * FirRemezBandpass.
+ * A bandpass with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandpass ZemFunc66
+
+/**
+ * FirRemezBandstop.
+ * A bandstop with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandstop ZemFunc67
+
+/**
+ * FirRemezFilterLowpass.
+ * Designs a lowpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, double* y);
+#define QvFirRemezFilterLowpass ZemFunc472
+
+/**
+ * FirRemezFilterHighpass.
+ * Designs a highpass with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, double* y);
+#define QvFirRemezFilterHighpass ZemFunc473
+
+/**
+ * FirRemezFilterBandpass.
+ * Designs a bandpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandpass ZemFunc474
+
+/**
+ * FirRemezFilterBandstop.
+ * Designs a bandstop with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandstop ZemFunc475
+
+/**
+ * FirRemezFilterComplexLowpass.
+ * Designs a lowpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, QvComplex* y);
+#define QvFirRemezFilterComplexLowpass ZemFunc476
+
+/**
+ * FirRemezFilterComplexHighpass.
+ * Designs a highpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, QvComplex* y);
+#define QvFirRemezFilterComplexHighpass ZemFunc477
+
+/**
+ * FirRemezFilterComplexBandpass.
+ * Designs a bandpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandpass ZemFunc478
+
+/**
+ * FirRemezFilterComplexBandstop.
+ * Designs a bandstop with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc479(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandstop ZemFunc479
+
+/** @} */
+
 /** @defgroup fir_windows FIR design by window
  * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
  * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
