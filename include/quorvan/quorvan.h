@@ -1626,6 +1626,88 @@ QV_API QvStatus ZemFunc479(const QvComplex* x, int64_t n, int32_t taps, double f
 
 /** @} */
 
+/** @defgroup fir_narrowband Narrowband FIR design
+ * Filters with a very narrow transition, as two stages with few multiplications: a model filter whose taps stand
+ * `factor` samples apart, and an image suppressor that removes the copies of its response (Y. Neuvo, Dong C.-Y. and
+ * S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984). The factor with the least sum of Kaiser's order
+ * estimates is taken; where none gains, a single filter is designed. Both stages are equiripple and each spends at most
+ * half of the deviation, so that the cascade stays within it. Bands beyond fs/4 are mirrored, or designed as the
+ * complement, whose output is added to the delayed input.
+ * The record belongs to the caller, between FirNarrowbandCreate and FirNarrowbandRelease, and takes one design.
+ * @{
+ */
+
+/**
+ * FirNarrowbandCreate.
+ * A record with all fields zero; null when memory is exhausted.
+ */
+QV_API QvFirNarrowband* ZemFunc491(void);
+#define QvFirNarrowbandCreate ZemFunc491
+
+/**
+ * FirNarrowbandRelease.
+ * Frees both arrays of taps and the record.
+ * @param filter handle, may be null: the record; null does nothing
+ */
+QV_API void ZemFunc492(QvFirNarrowband* filter);
+#define QvFirNarrowbandRelease ZemFunc492
+
+/**
+ * FirNarrowbandDesign.
+ * Designs a filter into the record; arrays that it held are not freed.
+ * Lowpass and bandpass want f1 < f2, highpass and bandstop f1 > f2. Each stage begins with the estimated order and
+ * grows by a twentieth until its error is small enough.
+ * @param fs the sampling rate
+ * @param f1 edge of the passband of a lowpass or highpass; full width of the passband about the centre
+ * @param f2 edge of the stopband of a lowpass or highpass; full width of the stopband about the centre
+ * @param center centre of a bandpass or bandstop, inside 0 to fs/2; else ignored
+ * @param ripple linear deviation of the passband
+ * @param attenuation of the stopband, in dB
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param filter handle: a fresh record; changed on success alone
+ * @retval -20031 a width, an edge, the centre or a deviation is out of its range, the kind is above 3, or an order is negative
+ * @retval -20001 memory is exhausted, or a stage needs more than 2045 cosine functions
+ * @retval -20023 a band reaches beyond 0 or fs/2
+ * @retval -20031 the exchange fails
+ * @code
+ * QvFirNarrowband* filter = QvFirNarrowbandCreate();
+ * QvFirNarrowbandDesign(1000.0, 10.0, 12.0, 0.0, 0.01, 60.0, 0, filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc409(double fs, double f1, double f2, double center, double ripple, double attenuation, uint32_t kind, QvFirNarrowband* filter);
+#define QvFirNarrowbandDesign ZemFunc409
+
+/**
+ * FirNarrowbandFilter.
+ * Filters samples: the whole convolution with both stages, in modes 3 to 5 added to the delayed input.
+ * The products are added themselves, without transforms. Modes outside 0 to 5 add no input.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output: n + model_count - 1 samples for a factor of 1, otherwise (model_count - 1) factor + n + suppressor_count - 1; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc410(const double* x, int64_t n, QvFirNarrowband* filter, double* y);
+#define QvFirNarrowbandFilter ZemFunc410
+
+/**
+ * FirNarrowbandFilterComplex.
+ * Filters the two parts of complex samples as two real signals.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output, as long as that of FirNarrowbandFilter; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc411(const QvComplex* x, int64_t n, QvFirNarrowband* filter, QvComplex* y);
+#define QvFirNarrowbandFilterComplex ZemFunc411
+
+/** @} */
+
 /** @defgroup fir_windows FIR design by window
  * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
  * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
