@@ -2372,6 +2372,881 @@ QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, Q
 
 /** @} */
 
+/** @defgroup fir_equiripple Equiripple FIR design
+ * Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the Remez
+ * exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner, IEEE Trans.
+ * Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs.
+ * Multiband filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error
+ * reaches plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written.
+ * A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirRemezDesign.
+ * Designs a filter for any number of bands.
+ * Multiband filters and differentiators begin at 0; filters end at fs/2, Hilbert transformers leave out 0. Antisymmetric
+ * filters of odd length are zero at fs/2 and must end before: by 0.01 or 0.001 in the unit of fs. A slope below 0.0001
+ * has its absolute error weighted.
+ * @param bands the number of bands
+ * @param desired read, [bands]: the gain of each band; for a differentiator the slope over f/fs
+ * @param weights read, [bands]: the weight of each band's error; for a differentiator of the relative error
+ * @param fs the sampling rate
+ * @param edges read, [2 * bands]: lower and upper edge of each band, ascending
+ * @param kind 1 multiband filter, 2 differentiator, 3 Hilbert transformer; others antisymmetric, without checks
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20003 bands is below 1
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative
+ * @retval -20031 a weight or gain is not finite
+ * @retval -20023 a weight is not above 0 or a gain is negative
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20023 the edges do not ascend
+ * @retval -20031 the first or last edge is not what the kind wants
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 an antisymmetric filter has 3 taps, or a Hilbert transformer less than 6
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * double gain[2] = {1, 0}, weight[2] = {1, 10}, edges[4] = {0, 100, 150, 500}, h[41], delta;
+ * QvFirRemezDesign(2, gain, weight, 1000.0, edges, 1, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc65(int32_t bands, const double* desired, const double* weights, double fs, const double* edges, int32_t kind, int32_t taps, double* h, double* delta);
+#define QvFirRemezDesign ZemFunc65
+
+/**
+ * FirRemezBands.
+ * FirRemezDesign with a record for each band, and kinds that count from 0.
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param bands read, [count]: gain, lower edge, upper edge and weight of each band
+ * @param count the number of bands
+ * @param kind 0 multiband filter, 1 differentiator, 2 Hilbert transformer
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3, count is below 1, or a value of a record is infinite
+ * @retval -20001 memory is exhausted
+ * @retval -20023 as FirRemezDesign, which also refuses NaN (-20031)
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 the design is refused or fails, as in FirRemezDesign
+ */
+QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t count, int32_t kind, double* h, double* delta);
+#define QvFirRemezBands ZemFunc408
+
+/**
+ * FirRemezLowpass.
+ * A lowpass with equal weights.
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * QvFirRemezLowpass(1000.0, 100.0, 150.0, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, double* h, double* delta);
+#define QvFirRemezLowpass ZemFunc69
+
+/**
+ * FirRemezHighpass.
+ * A highpass with equal weights.
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, double* h, double* delta);
+#define QvFirRemezHighpass ZemFunc68
+
+/**
+ * FirRemezBandpass.
+ * A bandpass with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandpass ZemFunc66
+
+/**
+ * FirRemezBandstop.
+ * A bandstop with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandstop ZemFunc67
+
+/**
+ * FirRemezFilterLowpass.
+ * Designs a lowpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, double* y);
+#define QvFirRemezFilterLowpass ZemFunc472
+
+/**
+ * FirRemezFilterHighpass.
+ * Designs a highpass with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, double* y);
+#define QvFirRemezFilterHighpass ZemFunc473
+
+/**
+ * FirRemezFilterBandpass.
+ * Designs a bandpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandpass ZemFunc474
+
+/**
+ * FirRemezFilterBandstop.
+ * Designs a bandstop with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandstop ZemFunc475
+
+/**
+ * FirRemezFilterComplexLowpass.
+ * Designs a lowpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, QvComplex* y);
+#define QvFirRemezFilterComplexLowpass ZemFunc476
+
+/**
+ * FirRemezFilterComplexHighpass.
+ * Designs a highpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, QvComplex* y);
+#define QvFirRemezFilterComplexHighpass ZemFunc477
+
+/**
+ * FirRemezFilterComplexBandpass.
+ * Designs a bandpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandpass ZemFunc478
+
+/**
+ * FirRemezFilterComplexBandstop.
+ * Designs a bandstop with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc479(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandstop ZemFunc479
+
+/** @} */
+
+/** @defgroup fir_narrowband Narrowband FIR design
+ * Filters with a very narrow transition, as two stages with few multiplications: a model filter whose taps stand
+ * `factor` samples apart, and an image suppressor that removes the copies of its response (Y. Neuvo, Dong C.-Y. and
+ * S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984). The factor with the least sum of Kaiser's order
+ * estimates is taken; where none gains, a single filter is designed. Both stages are equiripple and each spends at most
+ * half of the deviation, so that the cascade stays within it. Bands beyond fs/4 are mirrored, or designed as the
+ * complement, whose output is added to the delayed input.
+ * The record belongs to the caller, between FirNarrowbandCreate and FirNarrowbandRelease, and takes one design.
+ * @{
+ */
+
+/**
+ * FirNarrowbandCreate.
+ * A record with all fields zero; null when memory is exhausted.
+ */
+QV_API QvFirNarrowband* ZemFunc491(void);
+#define QvFirNarrowbandCreate ZemFunc491
+
+/**
+ * FirNarrowbandRelease.
+ * Frees both arrays of taps and the record.
+ * @param filter handle, may be null: the record; null does nothing
+ */
+QV_API void ZemFunc492(QvFirNarrowband* filter);
+#define QvFirNarrowbandRelease ZemFunc492
+
+/**
+ * FirNarrowbandDesign.
+ * Designs a filter into the record; arrays that it held are not freed.
+ * Lowpass and bandpass want f1 < f2, highpass and bandstop f1 > f2. Each stage begins with the estimated order and
+ * grows by a twentieth until its error is small enough.
+ * @param fs the sampling rate
+ * @param f1 edge of the passband of a lowpass or highpass; full width of the passband about the centre
+ * @param f2 edge of the stopband of a lowpass or highpass; full width of the stopband about the centre
+ * @param center centre of a bandpass or bandstop, inside 0 to fs/2; else ignored
+ * @param ripple linear deviation of the passband
+ * @param attenuation of the stopband, in dB
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param filter handle: a fresh record; changed on success alone
+ * @retval -20031 a width, an edge, the centre or a deviation is out of its range, the kind is above 3, or an order is negative
+ * @retval -20001 memory is exhausted, or a stage needs more than 2045 cosine functions
+ * @retval -20023 a band reaches beyond 0 or fs/2
+ * @retval -20031 the exchange fails
+ * @code
+ * QvFirNarrowband* filter = QvFirNarrowbandCreate();
+ * QvFirNarrowbandDesign(1000.0, 10.0, 12.0, 0.0, 0.01, 60.0, 0, filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc409(double fs, double f1, double f2, double center, double ripple, double attenuation, uint32_t kind, QvFirNarrowband* filter);
+#define QvFirNarrowbandDesign ZemFunc409
+
+/**
+ * FirNarrowbandFilter.
+ * Filters samples: the whole convolution with both stages, in modes 3 to 5 added to the delayed input.
+ * The products are added themselves, without transforms. Modes outside 0 to 5 add no input.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output: n + model_count - 1 samples for a factor of 1, otherwise (model_count - 1) factor + n + suppressor_count - 1; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc410(const double* x, int64_t n, QvFirNarrowband* filter, double* y);
+#define QvFirNarrowbandFilter ZemFunc410
+
+/**
+ * FirNarrowbandFilterComplex.
+ * Filters the two parts of complex samples as two real signals.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output, as long as that of FirNarrowbandFilter; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc411(const QvComplex* x, int64_t n, QvFirNarrowband* filter, QvComplex* y);
+#define QvFirNarrowbandFilterComplex ZemFunc411
+
+/** @} */
+
+/** @defgroup fir_windows FIR design by window
+ * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
+ * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
+ * Signal Processing, chapter 7). With t = i - (taps - 1)/2 and w = 2 pi f/fs the lowpass is sin(w t)/(pi t), the
+ * bandpass the difference of two lowpasses; highpass and bandstop are a unit pulse less these. The passband is not
+ * scaled to a gain of exactly 1.
+ * Frequencies are in the unit of the sampling rate fs. Taps are symmetric about the middle; the delay is (taps - 1)/2.
+ * After an error h is undefined. The filters write the whole convolution, with both transients, and y must not overlap
+ * x. Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirIdealResponse.
+ * The ideal response, without a window.
+ * The angles of the sines are accumulated from tap to tap.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ */
+QV_API QvStatus ZemFunc79(uint32_t kind, double fs, double fl, double fh, int32_t taps, double* h);
+#define QvFirIdealResponse ZemFunc79
+
+/**
+ * FirDesignWindow.
+ * The ideal response under a window of any code. One tap is left as it is, whatever the window.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double h[63];
+ * QvFirDesignWindow(0, 1000.0, 40.0, 0.0, 63, QV_WINDOW_BLACKMAN, 0.0, h);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc335(uint32_t kind, double fs, double fl, double fh, int32_t taps, int32_t window, double parameter, double* h);
+#define QvFirDesignWindow ZemFunc335
+
+/**
+ * FirDesignLowpass.
+ * A lowpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirDesignLowpass(1000.0, 40.0, 63, h, 4);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc189(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignLowpass ZemFunc189
+
+/**
+ * FirDesignHighpass.
+ * A highpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc188(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignHighpass ZemFunc188
+
+/**
+ * FirDesignBandpass.
+ * A bandpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc186(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandpass ZemFunc186
+
+/**
+ * FirDesignBandstop.
+ * A bandstop under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc187(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandstop ZemFunc187
+
+/**
+ * FirDesignKaiserLowpass.
+ * A lowpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc112(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserLowpass ZemFunc112
+
+/**
+ * FirDesignKaiserHighpass.
+ * A highpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc111(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserHighpass ZemFunc111
+
+/**
+ * FirDesignKaiserBandpass.
+ * A bandpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc109(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandpass ZemFunc109
+
+/**
+ * FirDesignKaiserBandstop.
+ * A bandstop under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc110(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandstop ZemFunc110
+
+/**
+ * FirFilterWindow.
+ * Designs any kind as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirFilterWindow(x, 1000, 63, 2, 1000.0, 40.0, 60.0, QV_WINDOW_KAISER, 6.0, y);  // 1062 samples
+ * @endcode
+ */
+QV_API QvStatus ZemFunc480(const double* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindow ZemFunc480
+
+/**
+ * FirFilterWindowLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc481(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowLowpass ZemFunc481
+
+/**
+ * FirFilterWindowHighpass.
+ * Designs a highpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc482(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowHighpass ZemFunc482
+
+/**
+ * FirFilterWindowBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc483(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandpass ZemFunc483
+
+/**
+ * FirFilterWindowBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc484(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandstop ZemFunc484
+
+/**
+ * FirFilterWindowComplex.
+ * Designs any kind as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc485(const QvComplex* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplex ZemFunc485
+
+/**
+ * FirFilterWindowComplexLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc486(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexLowpass ZemFunc486
+
+/**
+ * FirFilterWindowComplexHighpass.
+ * Designs a highpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc487(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexHighpass ZemFunc487
+
+/**
+ * FirFilterWindowComplexBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc488(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandpass ZemFunc488
+
+/**
+ * FirFilterWindowComplexBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc489(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandstop ZemFunc489
+
+/** @} */
+
 /** @defgroup fit_bounds Fit bounds, goodness of fit and sample removal
  * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients come
  * in as arguments; three numbers for its goodness; and the removal of samples before it.
