@@ -18,8 +18,8 @@ using Values = std::vector<double>;
 constexpr std::uint32_t kSelectors = 7;
 
 // y = 1 + 2x at 0, 1, 2, 3.
-const Reals kLineDesign{1, 0, 1, 1, 1, 2, 1, 3};
-const Reals kLine{1, 3, 5, 7};
+const Reals kLineDesign(Values{1, 0, 1, 1, 1, 2, 1, 3});
+const Reals kLine(Values{1, 3, 5, 7});
 
 // The general fit
 
@@ -260,8 +260,8 @@ TEST(FitGeneralLinear, EveryAllocationFails) {
 
 // Polynomials. The three entries with what they share; algorithm 0 and no weights where an entry has no such argument.
 
-const Reals kX{0, 1, 2, 3};
-const Reals kParabola{1, 2, 5, 10};  // 1 + x²
+const Reals kX(Values{0, 1, 2, 3});
+const Reals kParabola(Values{1, 2, 5, 10});  // 1 + x²
 
 TEST(FitPolynomial, RecoversAParabola) {
     Reals x = kX, curve = Output(4), c = Output(3);
