@@ -94,8 +94,10 @@ void PrintEdges(const std::vector<Pulse>& pulses, double rate) {
     const double ms = 1e3 / rate;
     BesideColumns();
     Beside("beats with a rise", double(rise.size()), double(shapeRise.size()), "", "pulse parameters");
-    Beside("rise, 10 to 90 %, median", ms * Median(rise), ms * Median(shapeRise), "ms", "the same, whole samples");
-    Beside("fall, 90 to 10 %, median", ms * Median(fall), ms * Median(shapeFall), "ms", "the same, whole samples");
+    Beside("rise, 10 to 90 %, median", ms * Median(rise), ms * Median(shapeRise), "ms",
+           "the same, cut to whole samples");
+    Beside("fall, 90 to 10 %, median", ms * Median(fall), ms * Median(shapeFall), "ms",
+           "the same, cut to whole samples");
 }
 
 double Bell(double x, double* c, std::int32_t) {

@@ -183,9 +183,8 @@ void Trend() {
     Beside("band of the curve, rms half-width", t * fit.deviation * std::sqrt(variances / m),
            t * fit.deviation * std::sqrt(static_cast<double>(kTerms) / m), "ppm", "from the number of terms");
     Row("what is left, deviation", fit.deviation, "ppm");
-    std::printf(
-        "\n  %zu weeks, %zu without a value. The band takes weeks as independent; they are not.\n",
-        y.size() + series.gaps, series.gaps);
+    std::printf("\n  %zu weeks, %zu without a value. The band takes weeks as independent; they are not.\n",
+                y.size() + series.gaps, series.gaps);
 }
 
 }  // namespace tour
