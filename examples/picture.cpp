@@ -40,7 +40,7 @@ std::string Axis(double lowest, double highest, const std::string& unit) {
     for (int c = 0; c < kColumns; ++c) line += "─";
     const double step = Step(highest - lowest);
     const double lastNumber = highest - 6 * width;  // room for the unit
-    for (double k = std::ceil(lowest / step); k * step < lastNumber; ++k)
+    for (int k = static_cast<int>(std::ceil(lowest / step)); k * step < lastNumber; ++k)
         Put(numbers, kMargin + static_cast<std::size_t>((k * step - lowest) / width), Text("%.4g", k * step));
     Put(numbers, kMargin + kColumns, unit);
     return line + "\n" + numbers + "\n";

@@ -35,7 +35,7 @@ Response Polynomial(const double* c, int count, double angle) {
 
 double Magnitude(const Response& r) { return std::hypot(r.re, r.im); }
 
-Gain OfTaps(std::vector<double> taps, double rate) {
+Gain OfTaps(const std::vector<double>& taps, double rate) {
     return [=](double f) {
         return Magnitude(Polynomial(taps.data(), static_cast<int>(taps.size()), 2 * std::numbers::pi * f / rate));
     };
@@ -85,7 +85,9 @@ double Edge(const Gain& gain, double level, double from, double to) {
 }
 
 void PrintResponse(const char* name, const Gain& gain, double level, double from, double to, double designed) {
-    const auto decibels = [&](double f) { return 20.0 * std::log10(std::max(gain(f), 1e-15)); };
+    const auto decibels = [&](double f) {
+        return std::round(2000.0 * std::log10(std::max(gain(f), 1e-15))) / 100.0 + 0.0;  // two decimals, and no -0.00
+    };
     std::printf("  %-32s %8.2f %8.2f %8.2f %8.2f  %9.4f %9.4f  Hz\n", name, decibels(0.05), decibels(10.0),
                 decibels(50.0), decibels(kMains), Edge(gain, level, from, to), designed);
 }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
@@ -27,7 +28,7 @@ std::vector<double> Maxima(const Recording& sunspots) {
     std::int64_t count;
     double *locations, *heights, *curvatures;
     Check(QvPeakDetect(smooth.data(), Size(smooth), 10.0, 5, 0, 1, 1, &count, &locations, &heights, &curvatures));
-    const std::vector<double> maxima(locations, locations + count);
+    std::vector<double> maxima(locations, locations + count);
     QvMemoryRelease(locations);
     QvMemoryRelease(heights);
     QvMemoryRelease(curvatures);
@@ -42,9 +43,10 @@ struct Waves {
 Waves FitCycle(const Series& series) {
     Waves best{};
     double least = 0.0;
-    const double lobe = 1.0 / static_cast<double>(series.x.size());
-    for (double start = 1.0 / 13.0; start < 1.0 / 9.0; start += 0.5 * lobe) {
-        double c[4] = {50.0, 20.0, 0.0, start}, error;
+    const double lowest = 1.0 / 13.0, highest = 1.0 / 9.0, lobe = 1.0 / static_cast<double>(series.x.size());
+    const int starts = static_cast<int>((highest - lowest) / (0.5 * lobe)) + 1;
+    for (int i = 0; i < starts; ++i) {
+        double c[4] = {50.0, 20.0, 0.0, lowest + i * 0.5 * lobe}, error;
         std::vector<double> fitted(series.x.size());
         std::int32_t iterations;
         constexpr std::int32_t kLimit = 100;
@@ -66,6 +68,7 @@ void Sunspots() {
     const std::vector<double> maxima = Maxima(sunspots);
     if (maxima.size() < 2) throw Failure("the sunspots have no cycle");
     std::vector<double> years;
+    years.reserve(maxima.size());
     for (const double maximum : maxima) years.push_back(series.x.front() + maximum);
     std::printf("%s\n", DrawTrace(series.y, series.x.front(), 1.0, "spots", "year", years).c_str());
 
@@ -83,7 +86,13 @@ void Sunspots() {
     Beside("cycle, nonlinear fit", 1.0 / waves.frequency, counted, "years", "the same");
     Beside("amplitude of the fit", waves.amplitude, amplitude, "spots", "the tone's");
     Row("marks", static_cast<double>(maxima.size()), "");
-    std::printf("\n  One sine for three centuries: cycles are 9 to 14 years long, and the phase wanders.\n");
+    double shortest = maxima[1] - maxima[0], longest = shortest;
+    for (std::size_t i = 2; i < maxima.size(); ++i) {
+        shortest = std::min(shortest, maxima[i] - maxima[i - 1]);
+        longest = std::max(longest, maxima[i] - maxima[i - 1]);
+    }
+    std::printf("\n  One sine for three centuries, while the marks stand %.1f to %.1f years apart.\n", shortest,
+                longest);
 }
 
 }  // namespace tour

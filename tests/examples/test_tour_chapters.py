@@ -349,6 +349,8 @@ def test_cycle_of_the_marks_is_that_of_the_smoothed_maxima(sunspots):
     counted = (places[-1] - places[0]) / (len(places) - 1)
     for name in ("line of the spectrum", "tone of the record", "nonlinear fit"):
         assert rows[f"cycle, {name}"][0][1] == near(counted), name
+    apart = np.diff(places)
+    assert f"{apart.min():.1f} to {apart.max():.1f} years apart" in text("sunspots")
 
 
 # --- matrices --------------------------------------------------------------------------------------------------------
