@@ -23,9 +23,10 @@ def rounding(taps):
 @pytest.mark.parametrize("kind", KINDS)
 @pytest.mark.parametrize("taps", [3, 8, 31, 200, 201])
 def test_named_designs_are_firwin_without_scaling(qv, kind, taps):
-    if KINDS[kind] % 2 and taps % 2 == 0:
-        pytest.skip("refused")
     edges = edges_of(kind, 0.11, 0.34)
+    if KINDS[kind] % 2 and taps % 2 == 0:
+        assert getattr(qv, f"ZemFunc{NAMED[kind]}")(1.0, *edges, taps, np.zeros(taps), 1) == -20033
+        return
     for choice, code, name in WINDOWS:
         theirs = signal.firwin(taps, edges, window=name, pass_zero=kind, scale=False, fs=1.0)
         ours, general = np.zeros(taps), np.zeros(taps)
