@@ -5503,7 +5503,8 @@ QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32
  * A fundamental, its harmonics and the distortion of a time record.
  * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
  * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
- * After a failure, what has not been found is 0.
+ * After a failure, what has not been found is 0; a number of harmonics below 1 is turned into theirs once the
+ * fundamental is known, and before that both arrays stay as they are.
  * @param x read, [n]
  * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
  * @param fs sampling rate
