@@ -5464,7 +5464,9 @@ QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const d
  * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
  * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
  * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
- * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off. Less than
+ * 0.8 bins below half the rate a tone of a real record of odd length can read a bin or more off, by its phase; of an
+ * even length it reads right up to there.
  * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
  * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
  * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
