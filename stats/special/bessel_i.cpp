@@ -7,6 +7,7 @@
 #include "stats/special/bessel_i0.h"
 #include "stats/special/bessel_k.h"
 #include "stats/special/debye.h"
+#include "stats/special/modified_hankel.h"
 #include "stats/special/power_over_gamma.h"
 #include "stats/special/sin_cos_pi.h"
 #include "stats/special/times_exp.h"
@@ -19,30 +20,6 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kTwoOverPi = 0.63661977236758134308;
 constexpr double kLeastOrder = -200;
 constexpr double kDebyeOrder = 500;  // below, the recurrence is nearer, and not yet long
-
-double Series(double v, double x) noexcept {
-    const double z = 0.25 * x * x;
-    double sum = 1, term = 1;
-    for (int k = 1; k < 1000; ++k) {
-        term *= z / (k * (v + k));
-        sum += term;
-        if (term <= 0.5 * kEpsilon * sum) break;
-    }
-    return PowerOverGamma(x, v) * sum;
-}
-
-// e^-x I(v, x): 1 - (4v^2 - 1)/(8x) + ... over sqrt(2 pi x), down to the least term.
-double ScaledHankel(double v, double x) noexcept {
-    double sum = 1, term = 1;
-    for (int k = 1; k < 200; ++k) {
-        const double odd = 2 * k - 1, next = -term * ((2 * v - odd) * (2 * v + odd)) / (8 * x * k);
-        if (std::fabs(next) > std::fabs(term) && odd > 2 * v) break;
-        term = next;
-        sum += term;
-        if (std::fabs(term) <= 0.25 * kEpsilon * std::fabs(sum) && odd > 2 * v) break;
-    }
-    return sum / (std::sqrt(kTwoPi) * std::sqrt(x));
-}
 
 // From almost nothing down to the fraction of the order, where e^-x I is known.
 double Downward(double v, double x) noexcept {
@@ -65,7 +42,7 @@ double Downward(double v, double x) noexcept {
             exponent -= kStep;
         }
     }
-    const double base = mu == 0 ? ScaledBesselI0(x) : ScaledHankel(mu, x);
+    const double base = mu == 0 ? ScaledBesselI0(x) : ScaledModifiedHankel(mu, x, 1);
     return TimesExp(wanted / at * base, x, exponent);
 }
 
@@ -73,8 +50,8 @@ double Downward(double v, double x) noexcept {
 double PositiveBesselI(double v, double x) noexcept {
     const bool whole = v == std::floor(v);
     if (whole && v <= 1) return TimesExp(v == 0 ? ScaledBesselI0(x) : ScaledBesselI1(x), x);
-    if (x * x <= 4 * (v + 1) || (!whole && x < 20)) return Series(v, x);
-    if (x >= 20 && 0.5 * v * v <= x) return TimesExp(ScaledHankel(v, x), x);
+    if (x * x <= 4 * (v + 1) || (!whole && x < 20)) return PowerOverGamma(x, v) * BesselSum(v, 0.25 * x * x);
+    if (x >= 20 && 0.5 * v * v <= x) return TimesExp(ScaledModifiedHankel(v, x, 1), x);
     return v >= kDebyeOrder ? DebyeModified(v, x, 1) : Downward(v, x);
 }
 

@@ -18,18 +18,6 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kTwoOverPi = 0.63661977236758134308;
 
-// (x/2)^v / Gamma(v+1) times the sum of (-x^2/4)^k / (k! (v+1)...(v+k)).
-double Series(double v, double x) noexcept {
-    const double z = 0.25 * x * x;
-    double sum = 1, term = 1;
-    for (int k = 1; k < 100; ++k) {
-        term *= -z / (k * (v + k));
-        sum += term;
-        if (std::fabs(term) <= 0.5 * kEpsilon * sum) break;
-    }
-    return PowerOverGamma(x, v) * sum;
-}
-
 // J(v+1)/J(v) for x < v: 1/(2(v+1)/x - 1/(2(v+2)/x - ...)) from a tail that has no influence any more. The levels that
 // takes grow as v^(1/3) where x is near v, and shrink beyond.
 double RatioAbove(double v, double x) noexcept {
@@ -96,7 +84,7 @@ double AtZero(double order) noexcept {
 double PositiveBesselJ(double v, double x) noexcept {
     const bool whole = v == std::floor(v);
     if (whole && v <= 1) return v == 0 ? SpecBesselJ0(x) : SpecBesselJ1(x);
-    if (v < kLargeBesselOrder && x * x <= 2 * (v + 1)) return Series(v, x);
+    if (v < kLargeBesselOrder && x * x <= 2 * (v + 1)) return PowerOverGamma(x, v) * BesselSum(v, -0.25 * x * x);
     if (HankelHolds(v, x)) return HankelPair(v, x).j;
     if (v >= kLargeBesselOrder) return LargeOrderPair(v, x).j;
     return whole ? WholeOrder(static_cast<int>(v), x) : BrokenOrder(v, x);

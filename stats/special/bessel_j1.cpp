@@ -5,6 +5,7 @@
 
 #include "frame/targets.h"
 #include "frame/types.h"
+#include "stats/special/bessel_phase.h"
 #include "stats/special/polynomial.h"
 
 namespace quorvan {
@@ -12,7 +13,6 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kOneOverFivePi = 0.063661977236758134308;
 constexpr double kTwoOverPi = 0.63661977236758134308;
 
 // Cephes Math Library, S. L. Moshier: j1.
@@ -44,22 +44,8 @@ constexpr double kQQ[] = {7.42373277035675149943E1, 1.05644886038262816351E3, 4.
 // The sum for small |x|, short of the factor x of order 1.
 double SmallJ(double z) noexcept { return (z - kZero1) * (z - kZero2) * Polynomial(z, kRP) / MonicPolynomial(z, kRQ); }
 
-struct Large {
-    double j, y;
-};
-
-// x > 5. Cosine and sine of the phase come from those of x itself, so that a large x loses nothing by a subtraction;
-// the factor sqrt(1/2) of the eighth turn is in the constant.
-QV_INLINE Large LargeJY(double x) noexcept {
-    const double w = 5 / x, q = w * w;
-    // P = p/d and Q = r/d over their common denominator.
-    const double p_below = Polynomial(q, kPQ), r_below = MonicPolynomial(q, kQQ);
-    const double p = Polynomial(q, kPP) * r_below, r = w * Polynomial(q, kQP) * p_below;
-    const double sine = std::sin(x), cosine = std::cos(x);
-    const double c = sine - cosine, s = -(sine + cosine);
-    const double factor = std::sqrt(w * kOneOverFivePi) / (p_below * r_below);  // sqrt(1/(pi x))
-    return {(p * c - r * s) * factor, (p * s + r * c) * factor};
-}
+// x > 5.
+QV_INLINE BesselPair Large(double x) noexcept { return PhasePair<1>(x, kPP, kPQ, kQP, kQQ); }
 
 }  // namespace
 
@@ -67,14 +53,14 @@ double SpecBesselJ1(double x) noexcept {
     const double magnitude = x < 0 ? -x : x;  // not fabs, which the compiler takes from the cosine only
     if (magnitude <= 5) return x * SmallJ(x * x);
     if (magnitude == kInf) return 0;
-    return std::copysign(1, x) * LargeJY(magnitude).j;
+    return std::copysign(1, x) * Large(magnitude).j;
 }
 
 double SpecBesselY1(double x) noexcept {
     if (std::isnan(x) || x < 0) return kNaN;
     if (x == 0) return -kInf;
     if (x == kInf) return 0;
-    if (x > 5) return LargeJY(x).y;
+    if (x > 5) return Large(x).y;
     const double z = x * x;
     return x * Polynomial(z, kYP) / MonicPolynomial(z, kYQ) + kTwoOverPi * (SpecBesselJ1(x) * std::log(x) - 1 / x);
 }

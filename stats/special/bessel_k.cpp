@@ -6,6 +6,8 @@
 #include "frame/types.h"
 #include "stats/special/bessel_k0.h"
 #include "stats/special/debye.h"
+#include "stats/special/log_half.h"
+#include "stats/special/modified_hankel.h"
 #include "stats/special/temme.h"
 #include "stats/special/times_exp.h"
 
@@ -19,7 +21,7 @@ constexpr double kLargeOrder = 1000;
 // Temme (1975): K(mu) = sum c_k f_k, K(mu+1) = (2/x) sum c_k (p_k - k f_k), c_k = (x^2/4)^k / k!.
 void Series(double mu, double x, double* at, double* beyond) noexcept {
     const TemmeGamma gamma = TemmeGammaOf(mu);
-    const double logarithm = LogTwoOver(x), sigma = mu * logarithm, angle = kPi * mu;
+    const double logarithm = -LogHalf(x), sigma = mu * logarithm, angle = kPi * mu;
     const double reflect = std::fabs(angle) < 1e-8 ? 1 : angle / std::sin(angle);
     const double power = std::pow(0.5 * x, -mu);
     const Hyperbolic hyperbolic = HyperbolicOf(sigma, power);
@@ -64,18 +66,6 @@ void Fraction(double mu, double x, double* at, double* above) noexcept {
     *above = *at * (mu + x + 0.5 - a1 * h) / x;
 }
 
-double ScaledHankel(double v, double x) noexcept {
-    double sum = 1, term = 1;
-    for (int k = 1; k < 60; ++k) {
-        const double odd = 2 * k - 1, next = term * ((2 * v - odd) * (2 * v + odd)) / (8 * x * k);
-        if (std::fabs(next) > std::fabs(term) && k > 1) break;
-        term = next;
-        sum += term;
-        if (std::fabs(term) <= 0.25 * kEpsilon * sum) break;
-    }
-    return sum * std::sqrt(kPi / (2 * x));
-}
-
 // e^x K(mu, x) and e^x K(mu + 1, x) for |mu| <= 1/2.
 void ScaledLowOrderK(double mu, double x, double* at, double* above) noexcept {
     if (mu == 0) {
@@ -89,8 +79,8 @@ void ScaledLowOrderK(double mu, double x, double* at, double* above) noexcept {
     } else if (x < 20) {
         Fraction(mu, x, at, above);
     } else {
-        *at = ScaledHankel(mu, x);
-        *above = ScaledHankel(mu + 1, x);
+        *at = ScaledModifiedHankel(mu, x, -1);
+        *above = ScaledModifiedHankel(mu + 1, x, -1);
     }
 }
 

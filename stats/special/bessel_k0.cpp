@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "stats/special/bessel_i0.h"
+#include "stats/special/log_half.h"
 #include "stats/special/polynomial.h"
 
 namespace quorvan {
@@ -33,9 +34,6 @@ constexpr double kK1B[] = {
     -1.03457624656780970260E-8,  5.74108412545004946722E-8,  -3.50196060308781257119E-7,  2.40648494783721712015E-6,
     -1.93619797416608296024E-5,  1.95215518471351631108E-4,  -2.85781685962277938680E-3,  1.03923736576817238437E-1,
     2.72062619048444266945E0};
-
-// ln(x/2), also where x/2 would be 0.
-double LogHalf(double x) noexcept { return x < 1e-300 ? std::log(x) - 0.69314718055994531 : std::log(0.5 * x); }
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include "stats/special/debye.h"
 #include "stats/special/digamma.h"
 #include "stats/special/double_double.h"
+#include "stats/special/log_half.h"
 #include "stats/special/power_over_gamma.h"
 #include "stats/special/times_exp.h"
 
@@ -87,7 +88,7 @@ ComplexRecord KeFiniteSum(double x, std::uint32_t n) noexcept {
 }
 
 ComplexRecord KeSeries(double x, std::uint32_t n) noexcept {
-    const double factor = PowerOverGamma(x, n), square = 0.25 * x * x, logarithm = std::log(x) - 0.69314718055994531;
+    const double factor = PowerOverGamma(x, n), square = 0.25 * x * x, logarithm = LogHalf(x);
     ComplexRecord sum = n > 0 ? KeFiniteSum(x, n) : ComplexRecord{0, 0};
     if (factor == 0) return sum;
     const ComplexRecord be = BeSeries(x, n);

@@ -4,6 +4,8 @@
 #include "frame/complex.h"
 #include "frame/types.h"
 #include "stats/special/bessel_pair.h"
+#include "stats/special/log_half.h"
+#include "stats/special/power_over_gamma.h"
 #include "stats/special/temme.h"
 
 namespace quorvan {
@@ -11,22 +13,10 @@ namespace {
 
 constexpr double kTwoOverPi = 0.63661977236758134308;
 
-// J(mu, x) over (x/2)^mu / Gamma(1 + mu): 1 - (x^2/4)/(1 + mu) + ...
-double SmallSeries(double mu, double x) noexcept {
-    const double z = 0.25 * x * x;
-    double sum = 1, term = 1;
-    for (int k = 1; k < 60; ++k) {
-        term *= -z / (k * (k + mu));
-        sum += term;
-        if (std::fabs(term) <= kEpsilon * std::fabs(sum)) break;
-    }
-    return sum;
-}
-
 // Temme (1976): Y(mu) = -sum c_k g_k, Y(mu+1) = -(2/x) sum c_k h_k, c_k = (-x^2/4)^k / k!.
 BesselPairs Series(double mu, double x) noexcept {
     const TemmeGamma gamma = TemmeGammaOf(mu);
-    const double logarithm = LogTwoOver(x), sigma = mu * logarithm;
+    const double logarithm = -LogHalf(x), sigma = mu * logarithm;
     const double angle = kPi * mu, half_sine = std::sin(0.5 * angle);
     const double reflect = std::fabs(angle) < 1e-8 ? 1 : angle / std::sin(angle);
     const double turn = std::fabs(mu) < 1e-150 ? 0 : 2 / mu * half_sine * half_sine;
@@ -49,8 +39,8 @@ BesselPairs Series(double mu, double x) noexcept {
             std::fabs(term_above) <= 0.5 * kEpsilon * std::fabs(above))
             break;
     }
-    const double j = SmallSeries(mu, x) / (power * gamma.plus);
-    const double j_above = SmallSeries(mu + 1, x) * 0.5 * x / (power * gamma.plus * (1 + mu));
+    const double j = BesselSum(mu, z) / (power * gamma.plus);
+    const double j_above = BesselSum(mu + 1, z) * 0.5 * x / (power * gamma.plus * (1 + mu));
     return {{j, -y}, {j_above, -2 / x * above}};
 }
 

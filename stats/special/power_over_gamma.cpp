@@ -49,4 +49,14 @@ double PowerOverGammaShifted(double x, double v, double shift) noexcept {
     return value * (1 + order.low * (std::log(0.5 * x) - SpecDigamma(order.high + 1)));
 }
 
+double BesselSum(double v, double z) noexcept {
+    double sum = 1, term = 1;
+    for (int k = 1; k < 1000; ++k) {
+        term *= z / (k * (v + k));
+        sum += term;
+        if (std::fabs(term) <= 0.5 * kEpsilon * std::fabs(sum)) break;
+    }
+    return sum;
+}
+
 }  // namespace quorvan

@@ -1,4 +1,4 @@
-// The leading term of the series of Bessel's kind.
+// The ascending series of Bessel's kind: its leading term and its sum.
 #pragma once
 
 namespace quorvan {
@@ -10,5 +10,9 @@ double PowerOverGamma(double x, double v) noexcept;
 
 // The same at v + shift, what the sum rounds put back to first order.
 double PowerOverGammaShifted(double x, double v, double shift) noexcept;
+
+// 1 + z/(v+1) + z^2/(2! (v+1)(v+2)) + ...: with z = -x^2/4 and x^2/4 what J and I are over PowerOverGamma(x, v). For
+// v > -1; a negative z only as far as little cancels.
+double BesselSum(double v, double z) noexcept;
 
 }  // namespace quorvan

@@ -7,6 +7,7 @@
 #include "stats/special/bessel_j.h"
 #include "stats/special/bessel_y.h"
 #include "stats/special/double_double.h"
+#include "stats/special/estimate.h"
 #include "stats/special/power_over_gamma.h"
 
 namespace quorvan {
@@ -20,11 +21,7 @@ constexpr double kGood = 1e-15;      // an estimate below this needs no second o
 constexpr double kPoor = 1e-13;      // above this a third method is worth its time
 constexpr double kAbandoned = 1e38;  // the error of what was not computed
 
-struct Estimated {
-    double value, error;  // the error is relative
-};
-
-Estimated Power(double v, double x) noexcept {
+Estimate Power(double v, double x) noexcept {
     const DoubleDouble square = ExactProduct(0.5 * x, 0.5 * x);
     DoubleDouble sum{1, 0}, term{1, 0};
     double largest = 1;
@@ -43,7 +40,7 @@ Estimated Power(double v, double x) noexcept {
     return {sum.high * factor, 0x1p-102 * largest / std::fabs(sum.high)};
 }
 
-Estimated Asymptotic(double v, double x) noexcept {
+Estimate Asymptotic(double v, double x) noexcept {
     // Below the order the terms, after a deceptive fall, grow to the size of Y.
     if (x < v) return {0, kAbandoned};
     const double z = 4 / x / x;
@@ -115,13 +112,13 @@ double Positive(double v, double x) noexcept {
         return std::fmod(-v - 0.5, 2) != 0 ? -value : value;
     }
     const double magnitude = std::fabs(v);
-    Estimated power{0, kAbandoned}, asymptotic{0, kAbandoned};
+    Estimate power{0, kAbandoned}, asymptotic{0, kAbandoned};
     if (x <= 40 || x <= 1.5 * magnitude) {
         power = Power(v, x);
         if (power.error <= kGood) return power.value;
     }
     if (x >= 18) asymptotic = Asymptotic(v, x);
-    const Estimated& best = power.error <= asymptotic.error ? power : asymptotic;
+    const Estimate best = Better(power, asymptotic);
     if (v > 0 && x < 1.1 * v && best.error > kPoor) return BesselSeries(v, x);
     return best.value;
 }

@@ -21,8 +21,6 @@ TemmeGamma TemmeGammaOf(double mu) noexcept {
     return {gamma1, gamma2, 1 / (gamma2 - mu * gamma1), 1 / (gamma2 + mu * gamma1)};
 }
 
-double LogTwoOver(double x) noexcept { return x < 1e-300 ? 0.69314718055994531 - std::log(x) : std::log(2 / x); }
-
 Hyperbolic HyperbolicOf(double x, double power) noexcept {
     const double cosine = 0.5 * (power + 1 / power);
     if (std::fabs(x) > 1) return {cosine, 0.5 * (power - 1 / power) / x};

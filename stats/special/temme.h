@@ -13,9 +13,6 @@ struct TemmeGamma {
 // For |mu| <= 1/2, from the Taylor series of 1/Gamma(1 + mu) (A&S 6.1.34).
 TemmeGamma TemmeGammaOf(double mu) noexcept;
 
-// ln(2/x), also where 2/x would overflow.
-double LogTwoOver(double x) noexcept;
-
 struct Hyperbolic {
     double cosine, sine_ratio;  // cosh x, sinh(x)/x
 };
