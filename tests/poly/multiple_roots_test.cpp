@@ -87,6 +87,15 @@ TEST(PolyRootsMultiple, KeepRandomProductsOfRepeatedRoots) {
     }
 }
 
+// Expanded around the circle instead of across it, the product of so many factors would lose six digits.
+TEST(PolyRootsMultiple, KeepManySimpleRootsToTheirRounding) {
+    std::vector<Root> roots;
+    for (int k = 0; k < 20; ++k)
+        for (double side : {1.0, -1.0})
+            roots.push_back({std::polar(1 + k / 100.0, side * kTwoPi * (2 * k + 1) / 80), 1});
+    ExpectRoots(roots, 1e-14);
+}
+
 TEST(PolyRootsMultiple, PutTheRootZeroLast) {
     // z³(z - 1)²(z + i)²
     Records c = FromRoots({{1, 2}, {Complex(0, -1), 2}});
