@@ -83,10 +83,11 @@ TEST(PolyRootsReal, OfAQuadraticAvoidCancellation) {
     const std::vector<Complex> roots = Roots({1, -1e8, 1});
     EXPECT_NEAR(roots[0].real(), 1e8, 1e-7);
     EXPECT_NEAR(roots[1].real(), 1e-8, 1e-23);
-    // -2 x² + 2 x - 5: of the pair the root with the positive imaginary part stands first.
-    const std::vector<Complex> pair = Roots({-5, 2, -2});
-    EXPECT_EQ(pair[0], Complex(0.5, 1.5));
-    EXPECT_EQ(pair[1], Complex(0.5, -1.5));
+}
+
+TEST(PolyRootsReal, OfAPairTheRootWithTheSignOfTheLeadingCoefficientStandsFirst) {
+    EXPECT_EQ(Roots({5, -2, 2}), (std::vector<Complex>{{0.5, 1.5}, {0.5, -1.5}}));
+    EXPECT_EQ(Roots({-5, 2, -2}), (std::vector<Complex>{{0.5, -1.5}, {0.5, 1.5}}));
 }
 
 TEST(PolyRootsReal, HighZeroCoefficientsLowerTheDegree) {
