@@ -52,7 +52,6 @@ QV_TWINS(Turned, 177, 217);
 QV_TWINS(BuildSpecial, 208, 227);
 QV_TWINS(VectorNorm, 394, 395);
 QV_TWINS(LagProduct, 415, 416);
-#undef QV_TWINS
 
 // An element; reals leave the imaginary part out.
 template <class T>
