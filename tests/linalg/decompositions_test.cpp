@@ -13,49 +13,6 @@ bool Untouched(const Indices& x) {
 }
 using testing::Untouched;
 
-// The real and the complex export of one operation, under one name.
-template <class T>
-Status SingularValues(const T* a, Size m, Size n, T* s) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc195(a, m, n, s);
-    else
-        return ZemFunc216(a, m, n, s);
-}
-template <class T>
-Status Svd(const T* a, Size m, Size n, T* u, T* s, T* v) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc193(a, m, n, u, s, v);
-    else
-        return ZemFunc219(a, m, n, u, s, v);
-}
-template <class T>
-Status SvdMode(const T* a, Size m, Size n, std::int32_t mode, T* u, T* s, T* v) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc246(a, m, n, mode, u, s, v);
-    else
-        return ZemFunc247(a, m, n, mode, u, s, v);
-}
-template <class T>
-Status Lu(T* a, Size n, Size* pivots, std::uint32_t* parity) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc118(a, n, pivots, parity);
-    else
-        return ZemFunc213(a, n, pivots, parity);
-}
-template <class T>
-Status Cholesky(T* a, Size n, T* out) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc196(a, n, out);
-    else
-        return ZemFunc210(a, n, out);
-}
-template <class T>
-Status QrPivot(T* a, Size m, Size n, std::uint32_t mode, std::uint32_t economy, Size* p, T* q, T* r) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc243(a, m, n, mode, economy, p, q, r);
-    else
-        return ZemFunc245(a, m, n, mode, economy, p, q, r);
-}
 // The QR without a choice: method 0 of the real export.
 template <class T>
 Status Qr(T* a, Size m, Size n, T* q, T* r) {
@@ -63,28 +20,6 @@ Status Qr(T* a, Size m, Size n, T* q, T* r) {
         return ZemFunc192(a, m, n, 0, q, r);
     else
         return ZemFunc228(a, m, n, q, r);
-}
-template <class T>
-Status Hessenberg(T* a, Size n, T* h, T* q) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc254(a, n, h, q);
-    else
-        return ZemFunc255(a, n, h, q);
-}
-template <class T>
-Status Balance(T* a, Size n, std::uint32_t job, Size* low, Size* high, double* scale, T* out) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc248(a, n, job, low, high, scale, out);
-    else
-        return ZemFunc249(a, n, job, low, high, scale, out);
-}
-template <class T>
-Status BalanceBack(T* v, Size n, std::uint32_t job, std::uint32_t side, Size low, Size high, const double* scale,
-                   T* out) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc250(v, n, job, side, low, high, scale, out);
-    else
-        return ZemFunc251(v, n, job, side, low, high, scale, out);
 }
 
 template <class T>

@@ -7,22 +7,6 @@
 namespace quorvan::testing::dense {
 namespace {
 
-// The real and the complex export of one operation, under one name.
-template <class T>
-Status Schur(const T* a, Size n, std::uint32_t sort, T* vectors, T* t, ComplexRecord* values) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc258(a, n, sort, vectors, t, values);
-    else
-        return ZemFunc259(a, n, sort, vectors, t, values);
-}
-template <class T>
-Status Generalised(const T* a, const T* b, Size n, ComplexRecord* values, ComplexRecord* right, ComplexRecord* left) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc252(a, b, n, values, right, left);
-    else
-        return ZemFunc253(a, b, n, values, right, left);
-}
-
 // All results of MatQz.
 template <class T>
 struct Qz {
@@ -40,10 +24,7 @@ struct Qz {
           left(right) {}
 
     Status operator()(const T* a, const T* b, Size n, std::uint32_t sort) {
-        if constexpr (std::is_same_v<T, double>)
-            return ZemFunc256(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
-        else
-            return ZemFunc257(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
+        return QzForm<T>(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
     }
     bool untouched() const {
         return Untouched(s) && Untouched(t) && Untouched(q) && Untouched(z) && Untouched(beta) && Untouched(alpha) &&

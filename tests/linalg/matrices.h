@@ -52,6 +52,19 @@ QV_TWINS(Turned, 177, 217);
 QV_TWINS(BuildSpecial, 208, 227);
 QV_TWINS(VectorNorm, 394, 395);
 QV_TWINS(LagProduct, 415, 416);
+QV_TWINS(SingularValues, 195, 216);
+QV_TWINS(Svd, 193, 219);
+QV_TWINS(SvdMode, 246, 247);
+QV_TWINS(Lu, 118, 213);
+QV_TWINS(Cholesky, 196, 210);
+QV_TWINS(QrPivot, 243, 245);
+QV_TWINS(Hessenberg, 254, 255);
+QV_TWINS(Balance, 248, 249);
+QV_TWINS(BalanceBack, 250, 251);
+QV_TWINS(Schur, 258, 259);
+QV_TWINS(Generalised, 252, 253);
+QV_TWINS(QzForm, 256, 257);
+#undef QV_TWINS
 
 // An element; reals leave the imaginary part out.
 template <class T>

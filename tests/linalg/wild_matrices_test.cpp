@@ -5,18 +5,6 @@
 namespace quorvan::testing::dense {
 namespace {
 
-QV_TWINS(SingularValues, 195, 216);
-QV_TWINS(SvdMode, 246, 247);
-QV_TWINS(Lu, 118, 213);
-QV_TWINS(Cholesky, 196, 210);
-QV_TWINS(QrPivot, 243, 245);
-QV_TWINS(Hessenberg, 254, 255);
-QV_TWINS(Balance, 248, 249);
-QV_TWINS(BalanceBack, 250, 251);
-QV_TWINS(Schur, 258, 259);
-QV_TWINS(Generalised, 252, 253);
-QV_TWINS(Qz, 256, 257);
-
 template <class T>
 class Wild {
 public:
@@ -265,7 +253,7 @@ TYPED_TEST(WildMatrices, HaveEigenvaluesOrNone) {
         Records alpha = RecordOutput(order);
         q = t = s;
         right = left = RecordOutput(count);
-        const Status qz = Qz<T>(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
+        const Status qz = QzForm<T>(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
         this->expect(qz, {20005, -20061, -20003, -20068, -20062, -20999, -20073});
         if (qz < 0) {
             EXPECT_TRUE(Untouched(s) && Untouched(t) && Untouched(q) && Untouched(z) && Untouched(alpha) &&
