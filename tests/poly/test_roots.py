@@ -92,6 +92,14 @@ def expanded(roots):
         return np.array([complex(v) for v in c])
 
 
+def test_forty_simple_roots_keep_all_their_digits(qv):
+    """However the search orders them: the product around the circle loses six digits to its intermediate coefficients."""
+    upper = [(1 + k / 100) * np.exp(1j * np.pi * (2 * k + 1) / 40) for k in range(20)]
+    truth = np.array(upper + [z.conjugate() for z in upper])
+    roots = found(qv, "multiple", expanded(truth))
+    assert np.max(np.min(np.abs(roots[:, None] - truth), axis=0)) <= 1e-14
+
+
 STRUCTURES = {
     "zeng, four roots": {1: 4, 2: 3, 3: 2, 4: 1},
     "twenty": {1: 8, 2: 6, 3: 4, 4: 2},
