@@ -144,6 +144,13 @@ TEST(PolyRootsMultiple, StatusesStandInOrder) {
     EXPECT_TRUE(Untouched(roots));
 }
 
+TEST(PolyRootsMultiple, OfCoefficientsWhoseQuotientsOverflowAreRefusedByTheScreenOfTheMatrix) {
+    const Records c{{1e300, 0}, {1, 0}, {1, 0}, {1e-300, 0}};
+    Records roots = RecordOutput(3);
+    EXPECT_EQ(ZemFunc300(c, 4, roots), -20068);
+    EXPECT_TRUE(Untouched(roots));
+}
+
 TEST(PolyRootsMultiple, EndForEveryPolynomial) {
     std::mt19937_64 engine(13);
     for (int round = 0; round < 300; ++round) {

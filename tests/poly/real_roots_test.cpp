@@ -150,6 +150,13 @@ TEST(PolyRootsReal, RefuseASizeBelowOne) {
     EXPECT_EQ(ZemFunc299(nullptr, 0x80000000u, nullptr), -20003) << "beyond the counts";
 }
 
+TEST(PolyRootsReal, OfCoefficientsWhoseQuotientsOverflowAreRefusedByTheScreenOfTheMatrix) {
+    const Reals c{1e300, 1, 1, 1e-300};
+    Records roots = RecordOutput(3);
+    EXPECT_EQ(ZemFunc299(c, 4, roots), -20068);
+    EXPECT_TRUE(Untouched(roots));
+}
+
 TEST(PolyRootsReal, EndForEveryPolynomial) {
     std::mt19937_64 engine(11);
     for (int round = 0; round < 400; ++round) {
