@@ -58,7 +58,7 @@ Status QrPivot(T* a, Size m, Size n, std::uint32_t mode, std::uint32_t economy, 
 
 template <class T>
 Status Hessenberg(T* a, Size n, T* h, T* q) {
-    return narrowed(n, [&](Count n) { return MatHessenberg(a, n, 0, n - 1, h, q); });
+    return narrowed(n, [&](Count n) { return MatHessenberg(a, n, 0, n < 1 ? 0 : n - 1, h, q); });
 }
 
 template <class T>

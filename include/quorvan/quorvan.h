@@ -6239,6 +6239,7 @@ QV_API QvStatus ZemFunc287(const double* x, double* y, const double* weights, in
  * @retval -20111 all coefficients are 0
  * @retval -20021 the polynomial is a constant
  * @retval -20062 the refinement or an eigenvalue did not converge; nothing is written
+ * @retval -20068 a coefficient divided by the leading one, or the refinement, leaves the range of doubles, from degree 3 on
  * @retval -20001 memory is exhausted
  * @code
  * QvComplex c[4] = {{-1, 0}, {3, 0}, {-3, 0}, {1, 0}};
@@ -6573,6 +6574,7 @@ QV_API void ZemFunc261(QvFftPlan* plan);
  * @retval -20111 all coefficients are 0
  * @retval -20021 the polynomial is a constant
  * @retval -20062 an eigenvalue or a singular value did not converge; nothing is written
+ * @retval -20068 a coefficient divided by the leading one leaves the range of doubles, from degree 3 on
  * @retval -20001 memory is exhausted
  * @code
  * double c[4] = {-1, 3, -3, 1};

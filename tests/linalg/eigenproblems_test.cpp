@@ -4,24 +4,8 @@
 #include "linalg/schur.h"
 #include "tests/linalg/matrices.h"
 
-namespace quorvan::testing {
+namespace quorvan::testing::dense {
 namespace {
-
-// The real and the complex export of one operation, under one name.
-template <class T>
-Status Schur(const T* a, Size n, std::uint32_t sort, T* vectors, T* t, ComplexRecord* values) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc258(a, n, sort, vectors, t, values);
-    else
-        return ZemFunc259(a, n, sort, vectors, t, values);
-}
-template <class T>
-Status Generalised(const T* a, const T* b, Size n, ComplexRecord* values, ComplexRecord* right, ComplexRecord* left) {
-    if constexpr (std::is_same_v<T, double>)
-        return ZemFunc252(a, b, n, values, right, left);
-    else
-        return ZemFunc253(a, b, n, values, right, left);
-}
 
 // All results of MatQz.
 template <class T>
@@ -30,28 +14,23 @@ struct Qz {
     Records alpha, right, left;
 
     explicit Qz(int n)
-        : s(UnwrittenMatrix<T>(n * n)),
+        : s(Unwritten<T>(n * n)),
           t(s),
           q(s),
           z(s),
-          beta(UnwrittenMatrix<T>(n)),
+          beta(Unwritten<T>(n)),
           alpha(RecordOutput(n)),
           right(RecordOutput(n * n)),
           left(right) {}
 
     Status operator()(const T* a, const T* b, Size n, std::uint32_t sort) {
-        if constexpr (std::is_same_v<T, double>)
-            return ZemFunc256(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
-        else
-            return ZemFunc257(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
+        return QzForm<T>(a, b, n, sort, s, t, q, z, alpha, beta, right, left);
     }
     bool untouched() const {
         return Untouched(s) && Untouched(t) && Untouched(q) && Untouched(z) && Untouched(beta) && Untouched(alpha) &&
                Untouched(right) && Untouched(left);
     }
 };
-
-using Elements = ::testing::Types<double, ComplexRecord>;
 
 template <class T>
 Guarded<T> Diagonal(std::initializer_list<double> values) {
@@ -69,7 +48,7 @@ template <class T>
 double Residual(const Guarded<T>& a, const Records& values, const Records& vectors, int n) {
     Records scaled(n * n);
     for (int i = 0; i < n * n; ++i) {
-        const Wide w = Widen(vectors[i]) * Widen(values[i % n]);
+        const Long w = Wide(vectors[i]) * Wide(values[i % n]);
         scaled[i] = {static_cast<double>(w.real()), static_cast<double>(w.imag())};
     }
     return Misfit(a, vectors, scaled, n, n, n);
@@ -149,7 +128,7 @@ TEST(MatEigenSymmetric, ReadsTheUpperTriangleAloneAndTestsNoSymmetry) {
     Reals first = Output(2), second = Output(2), vectors = Output(4), others = Output(4);
     ASSERT_EQ(ZemFunc202(symmetric, 2, 1, first, vectors), 0);
     ASSERT_EQ(ZemFunc202(crooked, 2, 1, second, others), 0);
-    EXPECT_TRUE(Same(first, second) && Same(vectors, others));
+    EXPECT_TRUE(SameElements(first, second) && SameElements(vectors, others));
     EXPECT_NEAR(first[0], 1, Bound(2, 3));
     EXPECT_NEAR(first[1], 3, Bound(2, 3));
     EXPECT_NEAR(vectors[0], -vectors[2], Bound(2)) << "one vector a column: (1, -1) belongs to 1";
@@ -161,7 +140,7 @@ TEST(MatEigenSymmetric, TakesTheInputAsOutputAndEveryAllocationMayFail) {
     Reals values = Output(5), vectors = Output(25), again = Output(5), in = a;
     ASSERT_EQ(ZemFunc202(a, 5, 1, values, vectors), 0);
     ASSERT_EQ(ZemFunc202(in, 5, 1, again, in), 0);
-    EXPECT_TRUE(Same(in, vectors) && Same(again, values));
+    EXPECT_TRUE(SameElements(in, vectors) && SameElements(again, values));
     EXPECT_EQ(ZemFunc202(a, 5, 0, again, nullptr), 0);
     for (std::uint32_t want : {0u, 1u})
         ExpectEveryAllocationFails([&] { return ZemFunc202(a, 5, want, values, vectors); });
@@ -201,7 +180,7 @@ TEST(MatEigenComplex, TakesTheInputAsOutputAndEveryAllocationMayFail) {
         Records values = RecordOutput(5), vectors = RecordOutput(25), again = RecordOutput(5), in = a;
         ASSERT_EQ(ZemFunc211(a, 5, kind, 1, values, vectors), 0);
         ASSERT_EQ(ZemFunc211(in, 5, kind, 1, again, in), 0);
-        EXPECT_TRUE(Same(in, vectors) && Same(again, values));
+        EXPECT_TRUE(SameElements(in, vectors) && SameElements(again, values));
         for (std::uint32_t want : {0u, 1u})
             ExpectEveryAllocationFails([&] { return ZemFunc211(a, 5, kind, want, values, vectors); });
     }
@@ -211,11 +190,11 @@ TEST(MatEigenComplex, TakesTheInputAsOutputAndEveryAllocationMayFail) {
 
 template <class T>
 class SchurOf : public ::testing::Test {};
-TYPED_TEST_SUITE(SchurOf, Elements);
+TYPED_TEST_SUITE(SchurOf, ElementTypes, ElementNames);
 
 TYPED_TEST(SchurOf, ASelectorAboveFourIsRefusedBeforeAnySizeButNotBeforeNarrowing) {
     using T = TypeParam;
-    Guarded<T> a(9, Element<T>(kNaN)), q = UnwrittenMatrix<T>(9), t = UnwrittenMatrix<T>(9);
+    Guarded<T> a(9, Element<T>(kNaN)), q = Unwritten<T>(9), t = Unwritten<T>(9);
     Records values = RecordOutput(3);
     for (Size n : {Size{-1}, Size{0}, Size{3}, kTooManyElements})
         for (std::uint32_t sort : {5u, 0xFFFFFFFFu}) EXPECT_EQ(Schur<T>(a, n, sort, q, t, values), -20061);
@@ -231,7 +210,7 @@ TYPED_TEST(SchurOf, ASelectorAboveFourIsRefusedBeforeAnySizeButNotBeforeNarrowin
 }
 
 double Key(ComplexRecord value, std::uint32_t sort) {
-    return sort <= 2 ? value.re : static_cast<double>(std::abs(Widen(value)));
+    return sort <= 2 ? value.re : static_cast<double>(std::abs(Wide(value)));
 }
 
 // What a stable sort makes of the eigenvalues, pair by pair in the real form.
@@ -254,13 +233,13 @@ TYPED_TEST(SchurOf, SortsStablyAndMovesTheEigenvaluesUnchanged) {
     using T = TypeParam;
     for (int n : {1, 2, 3, 6, 11, 24})
         for (std::uint32_t sort : {1u, 2u, 3u, 4u}) {
-            const Guarded<T> a = RandomMatrix<T>(n * n, 10 + n);
+            const Guarded<T> a = Random<T>(n * n, 10 + n);
             Guarded<T> q(n * n), t(n * n);
             Records plain(n), sorted(n);
             ASSERT_EQ(Schur<T>(a, n, 0, q, t, plain), 0);
             ASSERT_EQ(Schur<T>(a, n, sort, q, t, sorted), 0);
             const auto expected = StablySorted(plain, sort, std::is_same_v<T, double>);
-            for (int i = 0; i < n; ++i) EXPECT_EQ(Widen(sorted[i]), Widen(expected[i])) << n << ' ' << sort << ' ' << i;
+            for (int i = 0; i < n; ++i) EXPECT_EQ(Wide(sorted[i]), Wide(expected[i])) << n << ' ' << sort << ' ' << i;
         }
 }
 
@@ -268,7 +247,7 @@ TYPED_TEST(SchurOf, EqualKeysKeepTheirPlaces) {
     using T = TypeParam;
     // Moduli 2 2 2 1 1: sorting by modulus must not exchange 2 and -2.
     const Guarded<T> a = Diagonal<T>({2, -2, 2, -1, 1});
-    Guarded<T> q(25), t = UnwrittenMatrix<T>(25);
+    Guarded<T> q(25), t = Unwritten<T>(25);
     Records values(5), plain(5);
     ASSERT_EQ(Schur<T>(a, 5, 0, q, t, plain), 0);
     ASSERT_EQ(Schur<T>(a, 5, 4, q, t, values), 0);
@@ -277,13 +256,13 @@ TYPED_TEST(SchurOf, EqualKeysKeepTheirPlaces) {
     const double expected[] = {-1, 1, 2, -2, 2};
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(values[i].re, expected[i]);
-        EXPECT_EQ(Widen(t[i * 6]), Wide(expected[i]));
+        EXPECT_EQ(Wide(t[i * 6]), Wide(expected[i]));
     }
 }
 
 TYPED_TEST(SchurOf, NullAndAliasedOutputsAndEveryFailingAllocation) {
     using T = TypeParam;
-    const Guarded<T> a = RandomMatrix<T>(25, 11);
+    const Guarded<T> a = Random<T>(25, 11);
     Guarded<T> q(25), t(25), t2(25);
     Records values(5), values2(5);
     for (std::uint32_t sort : {0u, 2u}) {
@@ -291,11 +270,11 @@ TYPED_TEST(SchurOf, NullAndAliasedOutputsAndEveryFailingAllocation) {
         ASSERT_EQ(Schur<T>(a, 5, sort, nullptr, t2, values2), 0) << "without vectors";
         Guarded<T> in_t = a, in_q = a, q2(25);
         ASSERT_EQ(Schur<T>(in_t, 5, sort, q2, in_t, values2), 0);
-        EXPECT_TRUE(Same(in_t, t) && Same(q2, q) && Same(values2, values));
+        EXPECT_TRUE(SameElements(in_t, t) && SameElements(q2, q) && SameElements(values2, values));
         ASSERT_EQ(Schur<T>(in_q, 5, sort, in_q, t2, values2), 0);
-        EXPECT_TRUE(Same(in_q, q) && Same(t2, t) && Same(values2, values));
+        EXPECT_TRUE(SameElements(in_q, q) && SameElements(t2, t) && SameElements(values2, values));
         ExpectEveryAllocationFails([&] {
-            Guarded<T> fresh_q = UnwrittenMatrix<T>(25), fresh_t = UnwrittenMatrix<T>(25);
+            Guarded<T> fresh_q = Unwritten<T>(25), fresh_t = Unwritten<T>(25);
             Records fresh = RecordOutput(5);
             const Status status = Schur<T>(a, 5, sort, fresh_q, fresh_t, fresh);
             EXPECT_TRUE(status == 0 || (Untouched(fresh_q) && Untouched(fresh_t) && Untouched(fresh)));
@@ -474,7 +453,7 @@ TEST(MatSchur, AlsoOrdersMatricesOfTheSmallestDoubles) {
         ASSERT_EQ(ZemFunc258(a, 4, 0, q, t, plain), 0);
         ASSERT_EQ(ZemFunc258(a, 4, sort, q, t, values), 0);
         const auto expected = StablySorted(plain, sort, true);
-        for (int i = 0; i < 4; ++i) EXPECT_EQ(Widen(values[i]), Widen(expected[i]));
+        for (int i = 0; i < 4; ++i) EXPECT_EQ(Wide(values[i]), Wide(expected[i]));
         ASSERT_LE(SchurResidual(a, q, t, 4), Bound(4, 0x1p-1000));
     }
 }
@@ -536,7 +515,7 @@ TEST(MatSchur, ASelectionThatCannotBeBroughtToTheFrontIsAnError) {
 
 template <class T>
 class QzOf : public ::testing::Test {};
-TYPED_TEST_SUITE(QzOf, Elements);
+TYPED_TEST_SUITE(QzOf, ElementTypes, ElementNames);
 
 TYPED_TEST(QzOf, ASelectorOfFiveIsRefusedBeforeAnySizeButNotBeforeNarrowing) {
     using T = TypeParam;
@@ -574,7 +553,7 @@ TYPED_TEST(QzOf, ABetaOfZeroIsAnInfiniteEigenvalueLastAscendingAndFirstDescendin
             sort <= 2 ? std::vector<double>{-3, 2, 2, kInf} : std::vector<double>{2, 2, -3, kInf};
         if (sort % 2 == 0) std::reverse(expected.begin(), expected.end());
         for (int i = 0; i < 4; ++i) {
-            const double beta = static_cast<double>(Widen(qz.beta[i]).real());
+            const double beta = static_cast<double>(Wide(qz.beta[i]).real());
             if (std::isinf(expected[i])) {
                 EXPECT_EQ(beta, 0) << sort;
                 EXPECT_NE(qz.alpha[i].re, 0);
@@ -590,7 +569,7 @@ TYPED_TEST(QzOf, SortsStablyAndMovesAlphaAndBetaUnchanged) {
     const bool pairs = std::is_same_v<T, double>;
     for (int n : {1, 2, 3, 6, 11, 24})
         for (std::uint32_t sort : {1u, 2u, 3u, 4u}) {
-            const Guarded<T> a = RandomMatrix<T>(n * n, 20 + n), b = Sound<T>(n, 30 + n);
+            const Guarded<T> a = Random<T>(n * n, 20 + n), b = Sound<T>(n, 30 + n);
             Qz<T> plain(n), sorted(n);
             ASSERT_EQ(plain(a, b, n, 0), 0);
             ASSERT_EQ(sorted(a, b, n, sort), 0);
@@ -601,19 +580,19 @@ TYPED_TEST(QzOf, SortsStablyAndMovesAlphaAndBetaUnchanged) {
             }
             std::stable_sort(order.begin(), order.end(), [&](int i, int j) {
                 if (sort % 2 == 0) std::swap(i, j);
-                return Key(plain.alpha[i], sort) * Widen(plain.beta[j]).real() <
-                       Key(plain.alpha[j], sort) * Widen(plain.beta[i]).real();
+                return Key(plain.alpha[i], sort) * Wide(plain.beta[j]).real() <
+                       Key(plain.alpha[j], sort) * Wide(plain.beta[i]).real();
             });
             int place = 0;
             for (int start : order)
                 for (int i = start; i <= start + (pairs && plain.alpha[start].im != 0); ++i, ++place) {
-                    EXPECT_EQ(Widen(sorted.alpha[place]), Widen(plain.alpha[i])) << n << ' ' << sort;
-                    EXPECT_EQ(Widen(sorted.beta[place]), Widen(plain.beta[i])) << n << ' ' << sort;
+                    EXPECT_EQ(Wide(sorted.alpha[place]), Wide(plain.alpha[i])) << n << ' ' << sort;
+                    EXPECT_EQ(Wide(sorted.beta[place]), Wide(plain.beta[i])) << n << ' ' << sort;
                 }
             for (int i = 0; i < n; ++i) {
-                EXPECT_GE(Widen(sorted.t[i * n + i]).real(), 0);
-                EXPECT_EQ(Widen(sorted.t[i * n + i]).imag(), 0);
-                EXPECT_EQ(Widen(sorted.beta[i]).imag(), 0);
+                EXPECT_GE(Wide(sorted.t[i * n + i]).real(), 0);
+                EXPECT_EQ(Wide(sorted.t[i * n + i]).imag(), 0);
+                EXPECT_EQ(Wide(sorted.beta[i]).imag(), 0);
             }
         }
 }
@@ -621,7 +600,7 @@ TYPED_TEST(QzOf, SortsStablyAndMovesAlphaAndBetaUnchanged) {
 TYPED_TEST(QzOf, NullOutputsAndAliasedOnes) {
     using T = TypeParam;
     const int n = 5;
-    const Guarded<T> a = RandomMatrix<T>(n * n, 21), b = Sound<T>(n, 22);
+    const Guarded<T> a = Random<T>(n * n, 21), b = Sound<T>(n, 22);
     for (std::uint32_t sort : {0u, 1u}) {
         Qz<T> qz(n);
         ASSERT_EQ(qz(a, b, n, sort), 0);
@@ -629,7 +608,8 @@ TYPED_TEST(QzOf, NullOutputsAndAliasedOnes) {
         in.s = a;
         in.t = b;
         ASSERT_EQ(in(in.s, in.t, n, sort), 0) << "S over A, T over B";
-        EXPECT_TRUE(Same(in.s, qz.s) && Same(in.t, qz.t) && Same(in.q, qz.q) && Same(in.right, qz.right));
+        EXPECT_TRUE(SameElements(in.s, qz.s) && SameElements(in.t, qz.t) && SameElements(in.q, qz.q) &&
+                    SameElements(in.right, qz.right));
         Guarded<T> s(n * n), t(n * n), beta(n);
         Records alpha(n);
         if constexpr (std::is_same_v<T, double>)
@@ -638,13 +618,13 @@ TYPED_TEST(QzOf, NullOutputsAndAliasedOnes) {
             ASSERT_EQ(ZemFunc257(a, b, n, sort, s, t, nullptr, nullptr, alpha, beta, nullptr, nullptr), 0);
         // The provider forms Q and Z or not; what is left differs by rounding alone.
         for (int i = 0; i < n; ++i)
-            EXPECT_NEAR(std::abs(std::complex<double>(Widen(alpha[i]) - Widen(qz.alpha[i]))), 0, 1e-10);
+            EXPECT_NEAR(std::abs(std::complex<double>(Wide(alpha[i]) - Wide(qz.alpha[i]))), 0, 1e-10);
     }
 }
 
 TYPED_TEST(QzOf, EveryAllocationMayFailAndWritesNothing) {
     using T = TypeParam;
-    const Guarded<T> a = RandomMatrix<T>(16, 23), b = Sound<T>(4, 24);
+    const Guarded<T> a = Random<T>(16, 23), b = Sound<T>(4, 24);
     for (std::uint32_t sort : {0u, 1u})
         ExpectEveryAllocationFails([&] {
             Qz<T> qz(4);
@@ -778,7 +758,7 @@ TEST(MatQz, PairsThatAreTooCloseAreTriedOnASecondFormAndOnlyThenRefused) {
         }
         // Vectors change nothing but where a pair is so nearly real that it has none.
         const Status complete = vectors(a, b, 4, 1);
-        ASSERT_TRUE(complete == 0 ? Same(vectors.s, sorted.s) && Same(vectors.alpha, sorted.alpha)
+        ASSERT_TRUE(complete == 0 ? SameElements(vectors.s, sorted.s) && SameElements(vectors.alpha, sorted.alpha)
                                   : complete == -20062 && vectors.untouched())
             << complete;
         // One form takes 7 blocks; the second takes as many of its own.
@@ -801,4 +781,4 @@ TEST(MatQz, PairsThatAreTooCloseAreTriedOnASecondFormAndOnlyThenRefused) {
 }
 
 }  // namespace
-}  // namespace quorvan::testing
+}  // namespace quorvan::testing::dense

@@ -161,7 +161,7 @@ void QV_LAPACK(ztgexc)(const Int* wantq, const Int* wantz, const Int* n, Complex
 
 }  // namespace quorvan::provider
 
-namespace quorvan::testing {
+namespace quorvan::testing::dense {
 namespace {
 
 // Fails nothing before a test and after it.
@@ -259,7 +259,7 @@ TEST_F(ProviderFailure, OfASchurExchangeIsAWarningWithAValidFormThatIsPartlyOrde
     failures.trexc = 1;
     failures.refused_exchanges = 1;
     ASSERT_EQ(ZemFunc258(descending_, 3, 1, first_, second_, cvalues_), 20005);
-    EXPECT_TRUE(Same(second_, descending_)) << "the first exchange was refused";
+    EXPECT_TRUE(SameElements(second_, descending_)) << "the first exchange was refused";
     for (int i = 0; i < 3; ++i) EXPECT_EQ(cvalues_[i].re, 3 - i);
 }
 
@@ -312,4 +312,4 @@ TEST_F(ProviderFailure, OfTheSecondFormByItsArgumentsIsASeriousFailure) {
 }
 
 }  // namespace
-}  // namespace quorvan::testing
+}  // namespace quorvan::testing::dense
