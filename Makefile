@@ -4,12 +4,13 @@ PREFIX ?= /usr/local
 # Debian's own, which the packages of tools/packages.sh belong to.
 PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 
-.PHONY: help demo check check-sanitizers check-all bench picture format tidy install clean
+.PHONY: help demo check check-sanitizers check-all docs bench picture format tidy install clean
 
 help:
 	@echo 'make demo       the tour: a heart rate from a real recording'
 	@echo 'make check      build and run all tests'
 	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
+	@echo 'make docs       the reference pages, with search, in build/reference/html'
 	@echo 'make bench      speed beside FFTW, NumPy and SciPy, as ratios'
 	@echo 'make picture    draw docs/ecg_spectrum.png again'
 	@echo 'make format     bring all C and C++ files into the house format'
@@ -42,6 +43,10 @@ check-sanitizers:
 # The full suite comes last: its summary is the last word.
 check-all: check-sanitizers
 	@$(MAKE) --no-print-directory check
+
+docs:
+	@tools/packages.sh docs
+	$(PYTHON) tools/reference.py
 
 bench:
 	@tools/packages.sh build bench

@@ -33,7 +33,9 @@ std::size_t Bytes(Count count, std::size_t size) noexcept { return static_cast<s
 template <class T>
 void CopyUpper(const T* from, Count n, T* to) noexcept {
     const std::size_t step = static_cast<std::size_t>(n) + 1;
-    for (Count i = 0; i < n; ++i, from += step, to += step) std::memcpy(to, from, Bytes(n - i, sizeof(T)));
+    for (Count i = 0; i < n; ++i)
+        std::memcpy(to + static_cast<std::size_t>(i) * step, from + static_cast<std::size_t>(i) * step,
+                    Bytes(n - i, sizeof(T)));
 }
 
 template <class T>

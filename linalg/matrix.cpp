@@ -11,10 +11,11 @@ namespace {
 
 using Rows = std::ptrdiff_t;
 
-// A tile is a cache line wide both ways, so that each line is read and written whole while it is near. Tiles go down a
-// strip whose columns become few enough rows for the first level of the address cache.
-constexpr Rows kTile = 8;
-constexpr Rows kStrip = 32;
+// A square tile is turned in a place of its own and then leaves row by row, so that every line of the output is written
+// whole at once: rows a power of two apart would throw each other's half-written lines out of the cache.
+constexpr Rows kSide = 32;
+template <class T>
+using Tile = T[kSide][kSide];
 
 typedef double Pair __attribute__((vector_size(2 * sizeof(double))));
 
@@ -25,52 +26,72 @@ Pair Load(const double* from) noexcept {
 }
 void Store(double* to, Pair v) noexcept { std::memcpy(to, &v, sizeof v); }
 
-// A whole tile of reals goes through registers, two by two.
+// How two adjacent rows enter a tile as two adjacent columns. Reals go through registers, two by two.
 struct PlainReal {
-    void tile(const double* a, Rows lda, double* out, Rows ldo) const noexcept {
-        for (Rows j = 0; j < kTile; j += 2)
-            for (Rows i = 0; i < kTile; i += 2) {
-                const Pair upper = Load(a + i * lda + j), lower = Load(a + (i + 1) * lda + j);
-                Store(out + j * ldo + i, Pair{upper[0], lower[0]});
-                Store(out + (j + 1) * ldo + i, Pair{upper[1], lower[1]});
-            }
+    void turnTwo(const double* upper, const double* lower, Rows columns, Tile<double>& tile, Rows at) const noexcept {
+        Rows j = 0;
+        for (; j + 2 <= columns; j += 2) {
+            const Pair a = Load(upper + j), b = Load(lower + j);
+            Store(&tile[j][at], Pair{a[0], b[0]});
+            Store(&tile[j + 1][at], Pair{a[1], b[1]});
+        }
+        if (j < columns) tile[j][at] = upper[j], tile[j][at + 1] = lower[j];
     }
     double operator()(double v) const noexcept { return v; }
 };
 
 // A record fills a register by itself.
-template <class Element>
-struct RecordTile {
-    void tile(const ComplexRecord* a, Rows lda, ComplexRecord* out, Rows ldo) const noexcept {
-        for (Rows j = 0; j < kTile; ++j)
-            for (Rows i = 0; i < kTile; ++i) out[j * ldo + i] = Element::Of(a[i * lda + j]);
+template <ComplexRecord (*kElement)(ComplexRecord) noexcept>
+struct Records {
+    void turnTwo(const ComplexRecord* upper, const ComplexRecord* lower, Rows columns, Tile<ComplexRecord>& tile,
+                 Rows at) const noexcept {
+        for (Rows j = 0; j < columns; ++j) {
+            tile[j][at] = kElement(upper[j]);
+            tile[j][at + 1] = kElement(lower[j]);
+        }
     }
-    ComplexRecord operator()(ComplexRecord v) const noexcept { return Element::Of(v); }
+    ComplexRecord operator()(ComplexRecord v) const noexcept { return kElement(v); }
 };
-struct Itself {
-    static ComplexRecord Of(ComplexRecord v) noexcept { return v; }
-};
-struct Conjugate {
-    static ComplexRecord Of(ComplexRecord v) noexcept { return CxConj(v); }
-};
-using PlainComplex = RecordTile<Itself>;
-using Conjugated = RecordTile<Conjugate>;
+ComplexRecord Itself(ComplexRecord v) noexcept { return v; }
+ComplexRecord Conjugate(ComplexRecord v) noexcept { return CxConj(v); }
+using PlainComplex = Records<Itself>;
+using Conjugated = Records<Conjugate>;
 
 Rows Least(Rows a, Rows b) noexcept { return a < b ? a : b; }
 
+// `rows` by `columns` of `a` into the tile.
+template <class T, class Element>
+void Turn(const T* a, Rows rows, Rows columns, Rows lda, Tile<T>& tile, Element element) noexcept {
+    Rows i = 0;
+    for (; i + 2 <= rows; i += 2, a += 2 * lda) element.turnTwo(a, a + lda, columns, tile, i);
+    if (i == rows) return;
+    for (Rows j = 0; j < columns; ++j) tile[j][i] = element(a[j]);
+}
+
+// Asks for the lines that a whole tile will be written to: they stand in as many pages, which no processor foresees.
+template <class T>
+void Foresee(T* out, Rows ldo) noexcept {
+    constexpr Rows kLine = 64 / sizeof(T);
+    for (Rows k = 0; k < kSide; ++k)
+        for (Rows i = 0; i < kSide; i += kLine) __builtin_prefetch(out + k * ldo + i, 1);
+}
+
+// Along the rows, which are read in order.
 template <class T, class Element>
 void Transpose(const T* a, Rows m, Rows n, Rows lda, T* out, Rows ldo, Element element) noexcept {
-    for (Rows strip = 0; strip < n; strip += kStrip) {
-        const Rows end = Least(n, strip + kStrip);
-        for (Rows i = 0; i < m; i += kTile) {
-            for (Rows j = strip; j < end; j += kTile) {
-                if (i + kTile <= m && j + kTile <= n) {
-                    element.tile(a + i * lda + j, lda, out + j * ldo + i, ldo);
-                    continue;
-                }
-                for (Rows column = j; column < Least(n, j + kTile); ++column)
-                    for (Rows row = i; row < Least(m, i + kTile); ++row)
-                        out[column * ldo + row] = element(a[row * lda + column]);
+    Tile<T> tile;
+    for (Rows i = 0; i < m; i += kSide) {
+        const Rows rows = Least(m - i, kSide);
+        for (Rows j = 0; j < n; j += kSide) {
+            const Rows columns = Least(n - j, kSide);
+            if (rows == kSide && j + 2 * kSide <= n) Foresee(out + (j + kSide) * ldo + i, ldo);
+            Turn(a + i * lda + j, rows, columns, lda, tile, element);
+            for (Rows k = 0; k < columns; ++k) {
+                T* to = out + (j + k) * ldo + i;
+                if (rows == kSide)
+                    std::memcpy(to, tile[k], kSide * sizeof(T));
+                else
+                    std::memcpy(to, tile[k], static_cast<std::size_t>(rows) * sizeof(T));
             }
         }
     }

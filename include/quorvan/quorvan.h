@@ -502,6 +502,120 @@ QV_API QvStatus ZemFunc30(double* x, int64_t n, double upper, double lower, doub
 
 /** @} */
 
+/** @defgroup bessel Bessel, Airy, Struve and Kelvin functions
+ * Functions of a real argument, returned as the value itself or written to the caller's doubles: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN in every result.
+ * The accuracy, region by region, stands in docs/accuracy.md.
+ * @{
+ */
+
+/**
+ * SpecBesselJ.
+ * The Bessel function of the first kind J of real order. Series, recurrences and expansions for large argument or order.
+ * Whole orders take negative orders and arguments by parity; other orders give NaN for x < 0.
+ * At 0: 1 for order 0, 0 for higher and for whole orders, an infinity for others below 0. At infinity 0.
+ * @param order any real number
+ * @param x any for a whole order, at least 0 for others
+ * @code
+ * double j = QvSpecBesselJ(0.5, 2.0), y = QvSpecBesselY(1.0, 2.0);
+ * @endcode
+ */
+QV_API double ZemFunc302(double order, double x);
+#define QvSpecBesselJ ZemFunc302
+
+/**
+ * SpecBesselY.
+ * The Bessel function of the second kind Y of real order, (cos(pi v) J(v) - J(-v)) / sin(pi v), in its limit for whole v.
+ * NaN for orders below -200 and for x < 0; -Inf at 0, 0 at infinity.
+ * @param order at least -200; taken as whole within 1e-8 of a whole number
+ * @param x at least 0
+ */
+QV_API double ZemFunc301(double order, double x);
+#define QvSpecBesselY ZemFunc301
+
+/**
+ * SpecSphericalJ.
+ * The spherical Bessel function j, sqrt(pi / (2 x)) J(n + 1/2, x); order 0 is sin(x) / x. Negative x by parity.
+ * At 0: 1 for order 0, else 0. At infinity 0.
+ * @param n the order
+ * @param x any
+ */
+QV_API double ZemFunc303(uint32_t n, double x);
+#define QvSpecSphericalJ ZemFunc303
+
+/**
+ * SpecSphericalY.
+ * The spherical Bessel function y, sqrt(pi / (2 x)) Y(n + 1/2, x). NaN for x < 0, -Inf at 0, 0 at infinity.
+ * @param n the order
+ * @param x at least 0
+ */
+QV_API double ZemFunc304(uint32_t n, double x);
+#define QvSpecSphericalY ZemFunc304
+
+/**
+ * SpecBesselI.
+ * The modified Bessel function of the first kind I of real order; I(-n) = I(n) for whole orders.
+ * NaN for orders below -200, and for x < 0 unless the order is whole. At 0: 1 for order 0, else 0, also for orders below 0.
+ * @param order at least -200
+ * @param x any for a whole order, at least 0 for others
+ */
+QV_API double ZemFunc305(double order, double x);
+#define QvSpecBesselI ZemFunc305
+
+/**
+ * SpecBesselK.
+ * The modified Bessel function of the second kind K of whole order, by recurrence from orders 0 and 1.
+ * NaN for x < 0, +Inf at 0, 0 at infinity.
+ * @param n the order
+ * @param x at least 0
+ */
+QV_API double ZemFunc306(uint32_t n, double x);
+#define QvSpecBesselK ZemFunc306
+
+/**
+ * SpecStruve.
+ * The Struve function H, by its power series, its expansion for large x, or the one with the smaller estimate of its error.
+ * Whole orders take negative x by parity; other orders give NaN for x < 0. At 0 and at infinity the limit.
+ * @param order any real number
+ * @param x any for a whole order, at least 0 for others
+ */
+QV_API double ZemFunc328(double order, double x);
+#define QvSpecStruve ZemFunc328
+
+/**
+ * SpecAiry.
+ * The two Airy functions. Above 103.892 Ai is 0 and Bi +Inf; at -Inf both are 0.
+ * @param x any
+ * @param ai written: the Airy function Ai(x)
+ * @param bi written: the Airy function Bi(x)
+ */
+QV_API void ZemFunc330(double x, double* ai, double* bi);
+#define QvSpecAiry ZemFunc330
+
+/**
+ * SpecKelvinBe.
+ * The Kelvin functions ber and bei of order n: ber + i bei = J(n, x e^(3 pi i / 4)).
+ * At 0: ber is 1 for n = 0, else 0, and bei 0. NaN at infinity, where they oscillate and grow.
+ * @param x any; negative by parity
+ * @param n the order
+ * @param out written: real part ber, imaginary part bei
+ */
+QV_API void ZemFunc333(double x, uint32_t n, QvComplex* out);
+#define QvSpecKelvinBe ZemFunc333
+
+/**
+ * SpecKelvinKe.
+ * The Kelvin functions ker and kei of order n: ker + i kei = e^(-n pi i / 2) K(n, x e^(pi i / 4)).
+ * At 0: ker is +Inf, and kei has its limit, -pi/4 for n = 0. NaN for x < 0; both are 0 at infinity.
+ * @param x at least 0
+ * @param n the order
+ * @param out written: real part ker, imaginary part kei
+ */
+QV_API void ZemFunc334(double x, uint32_t n, QvComplex* out);
+#define QvSpecKelvinKe ZemFunc334
+
+/** @} */
+
 /** @defgroup complex Complex arithmetic
  * Complex numbers as pairs of doubles, real part first: arguments by value, results by address. Complex arrays are
  * split: one array of real parts, one of imaginary parts.
@@ -1088,6 +1202,394 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup decompositions Matrix decompositions
+ * Singular values, LU, Cholesky, QR in several methods, Hessenberg form and balancing, for real and complex matrices.
+ * A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied before they are worked on: an output
+ * may be the input itself. On an error the outputs stay as they are.
+ * @{
+ */
+
+/**
+ * MatSingularValues.
+ * The singular values of a matrix.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc195(const double* a, int64_t m, int64_t n, double* s);
+#define QvMatSingularValues ZemFunc195
+
+/**
+ * MatSingularValuesComplex (MatSingularValues).
+ * The singular values of a matrix.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc216(const QvComplex* a, int64_t m, int64_t n, QvComplex* s);
+#define QvMatSingularValuesComplex ZemFunc216
+
+/**
+ * MatSvd.
+ * The singular value decomposition A = U diag(s) V^T in economy form.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param u written, [m * min(m, n)]: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @code
+ * double a[6] = {1, 2, 3, 4, 5, 6}, u[6], s[2], v[4];
+ * QvMatSvd(a, 3, 2, u, s, v);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc193(const double* a, int64_t m, int64_t n, double* u, double* s, double* v);
+#define QvMatSvd ZemFunc193
+
+/**
+ * MatSvdComplex (MatSvd).
+ * The singular value decomposition A = U diag(s) V^H in economy form.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param u written, [m * min(m, n)]: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc219(const QvComplex* a, int64_t m, int64_t n, QvComplex* u, QvComplex* s, QvComplex* v);
+#define QvMatSvdComplex ZemFunc219
+
+/**
+ * MatSvdMode.
+ * The singular value decomposition A = U diag(s) V^T.
+ * With U or V null only the singular values are computed, whatever the mode.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param mode 0: full, U m by m and V n by n; 1: economy
+ * @param u written, [m * (m if mode == 0 else min(m, n))], may be null: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc246(const double* a, int64_t m, int64_t n, int32_t mode, double* u, double* s, double* v);
+#define QvMatSvdMode ZemFunc246
+
+/**
+ * MatSvdModeComplex (MatSvdMode).
+ * The singular value decomposition A = U diag(s) V^H.
+ * With U or V null only the singular values are computed, whatever the mode.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param mode 0: full, U m by m and V n by n; 1: economy
+ * @param u written, [m * (m if mode == 0 else min(m, n))], may be null: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc247(const QvComplex* a, int64_t m, int64_t n, int32_t mode, QvComplex* u, QvComplex* s, QvComplex* v);
+#define QvMatSvdModeComplex ZemFunc247
+
+/**
+ * MatLu.
+ * The factors P A = L U with partial pivoting.
+ * @param a read and written, [n * n]: the matrix, row-major; becomes its factors: U on and above the diagonal, below it L without its unit diagonal
+ * @param n its rows and columns
+ * @param pivots written, [n], may be null: row i was interchanged with row pivots[i], for i = 0, 1, ...; from 0
+ * @param parity written: 1 where the number of interchanges is odd, otherwise 0
+ * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
+ * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
+ * @retval -20001 memory is exhausted; a stays as it is
+ */
+QV_API QvStatus ZemFunc118(double* a, int64_t n, int64_t* pivots, uint32_t* parity);
+#define QvMatLu ZemFunc118
+
+/**
+ * MatLuComplex (MatLu).
+ * The factors P A = L U with partial pivoting.
+ * @param a read and written, [n * n]: the matrix, row-major; becomes its factors: U on and above the diagonal, below it L without its unit diagonal
+ * @param n its rows and columns
+ * @param pivots written, [n], may be null: row i was interchanged with row pivots[i], for i = 0, 1, ...; from 0
+ * @param parity written: 1 where the number of interchanges is odd, otherwise 0
+ * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
+ * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
+ * @retval -20001 memory is exhausted; a stays as it is
+ */
+QV_API QvStatus ZemFunc213(QvComplex* a, int64_t n, int64_t* pivots, uint32_t* parity);
+#define QvMatLuComplex ZemFunc213
+
+/**
+ * MatCholesky.
+ * The Cholesky factor, A = R^T R with R upper triangular and a positive diagonal.
+ * @param a read and written, [n * n]: the matrix, row-major; only its upper triangle is factored, but all of it must be finite
+ * @param n its rows and columns
+ * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20071 the matrix is not positive definite; nothing is written
+ */
+QV_API QvStatus ZemFunc196(double* a, int64_t n, double* out);
+#define QvMatCholesky ZemFunc196
+
+/**
+ * MatCholeskyComplex (MatCholesky).
+ * The Cholesky factor, A = R^H R with R upper triangular and a positive diagonal.
+ * @param a read and written, [n * n]: the matrix, row-major; only its upper triangle is factored, but all of it must be finite
+ * @param n its rows and columns
+ * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20071 the matrix is not positive definite; nothing is written
+ */
+QV_API QvStatus ZemFunc210(QvComplex* a, int64_t n, QvComplex* out);
+#define QvMatCholeskyComplex ZemFunc210
+
+/**
+ * MatQrMethod.
+ * The full decomposition A = Q R with an orthogonal Q.
+ * Method 0 clears R below its diagonal; methods 1 and 2 leave what rounding leaves there, of the order of the double epsilon.
+ * The methods may differ in the signs of rows of R and columns of Q; method 1 and 2 pass over a column of zeros and are then in echelon form.
+ * Fast Givens rotations after Gentleman (1973); Golub and Van Loan, Matrix Computations.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param method 0: Householder reflections; 1: Givens rotations; 2: fast Givens rotations
+ * @param q written, [m * m], may be null: Q, row-major; null: not formed
+ * @param r written, [m * n], may be null: R, row-major; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the method is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc192(double* a, int64_t m, int64_t n, uint32_t method, double* q, double* r);
+#define QvMatQrMethod ZemFunc192
+
+/**
+ * MatQrPivot.
+ * The decomposition A P = Q R with column pivoting (Businger and Golub, 1965): the diagonal of R falls in magnitude.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param pivotMode 0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
+ * @param economy 0: Q is m by m; otherwise Q has min(m, n) columns
+ * @param p written, [n * n if pivotMode == 2 else n], may be null: the index, from 0, of the column of A that comes j-th; in mode 2 the matrix with p(index, j) = 1
+ * @param q written, [m * (min(m, n) if economy else m)], may be null: Q, row-major; null: not formed
+ * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc243(double* a, int64_t m, int64_t n, uint32_t pivotMode, uint32_t economy, int64_t* p, double* q, double* r);
+#define QvMatQrPivot ZemFunc243
+
+/**
+ * MatQrPivotComplex (MatQrPivot).
+ * The decomposition A P = Q R with column pivoting (Businger and Golub, 1965): the diagonal of R falls in magnitude.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param pivotMode 0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
+ * @param economy 0: Q is m by m; otherwise Q has min(m, n) columns
+ * @param p written, [n * n if pivotMode == 2 else n], may be null: the index, from 0, of the column of A that comes j-th; in mode 2 the matrix with p(index, j) = 1
+ * @param q written, [m * (min(m, n) if economy else m)], may be null: Q, row-major; null: not formed
+ * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc245(QvComplex* a, int64_t m, int64_t n, uint32_t pivotMode, uint32_t economy, int64_t* p, QvComplex* q, QvComplex* r);
+#define QvMatQrPivotComplex ZemFunc245
+
+/**
+ * MatQrComplex.
+ * The full decomposition A = Q R with a unitary Q.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param q written, [m * m], may be null: Q, row-major; null: not formed
+ * @param r written, [m * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc228(QvComplex* a, int64_t m, int64_t n, QvComplex* q, QvComplex* r);
+#define QvMatQrComplex ZemFunc228
+
+/**
+ * MatHessenberg.
+ * The Hessenberg form, A = Q H Q^T, by Householder reflections.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
+ * @param q written, [n * n]: Q, row-major
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc254(double* a, int64_t n, double* h, double* q);
+#define QvMatHessenberg ZemFunc254
+
+/**
+ * MatHessenbergComplex (MatHessenberg).
+ * The Hessenberg form, A = Q H Q^H, by Householder reflections.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
+ * @param q written, [n * n]: Q, row-major
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc255(QvComplex* a, int64_t n, QvComplex* h, QvComplex* q);
+#define QvMatHessenbergComplex ZemFunc255
+
+/**
+ * MatBalance.
+ * Permutes and scales a matrix by a similarity that brings rows and columns to like norms (Parlett and Reinsch, 1969).
+ * The factors are powers of two, so that scaling rounds nothing.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param job 0: none; 1: permutation; 2: scaling; 3: both
+ * @param low written: the first row, from 0, of the part that is not triangular
+ * @param high written: its last row
+ * @param scale written, [n]: from low to high the factors of rows and columns; elsewhere the number, from 1, of the row that was interchanged
+ * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc248(double* a, int64_t n, uint32_t job, int64_t* low, int64_t* high, double* scale, double* balanced);
+#define QvMatBalance ZemFunc248
+
+/**
+ * MatBalanceComplex (MatBalance).
+ * Permutes and scales a matrix by a similarity that brings rows and columns to like norms (Parlett and Reinsch, 1969).
+ * The factors are powers of two, so that scaling rounds nothing.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param job 0: none; 1: permutation; 2: scaling; 3: both
+ * @param low written: the first row, from 0, of the part that is not triangular
+ * @param high written: its last row
+ * @param scale written, [n]: from low to high the factors of rows and columns; elsewhere the number, from 1, of the row that was interchanged
+ * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc249(QvComplex* a, int64_t n, uint32_t job, int64_t* low, int64_t* high, double* scale, QvComplex* balanced);
+#define QvMatBalanceComplex ZemFunc249
+
+/**
+ * MatBalanceBack.
+ * Transforms the eigenvectors of a balanced matrix to those of the matrix that was balanced.
+ * @param v read and written, [n * n]: the eigenvectors of the balanced matrix, row-major, one a column
+ * @param n rows and columns
+ * @param job as it was balanced
+ * @param side 0: right eigenvectors; 1: left ones
+ * @param low as balancing gave it
+ * @param high as balancing gave it
+ * @param scale read, [n]: as balancing gave it
+ * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
+ * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc250(double* v, int64_t n, uint32_t job, uint32_t side, int64_t low, int64_t high, const double* scale, double* out);
+#define QvMatBalanceBack ZemFunc250
+
+/**
+ * MatBalanceBackComplex (MatBalanceBack).
+ * Transforms the eigenvectors of a balanced matrix to those of the matrix that was balanced.
+ * @param v read and written, [n * n]: the eigenvectors of the balanced matrix, row-major, one a column
+ * @param n rows and columns
+ * @param job as it was balanced
+ * @param side 0: right eigenvectors; 1: left ones
+ * @param low as balancing gave it
+ * @param high as balancing gave it
+ * @param scale read, [n]: as balancing gave it
+ * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
+ * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc251(QvComplex* v, int64_t n, uint32_t job, uint32_t side, int64_t low, int64_t high, const double* scale, QvComplex* out);
+#define QvMatBalanceBackComplex ZemFunc251
+
+/** @} */
+
 /** @defgroup direct_filters Direct-form and smoothing filters
  * Filters that take plain coefficient arrays. The transfer function of the direct form is
  * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
@@ -1391,6 +1893,482 @@ QV_API QvStatus ZemFunc83(double x, int32_t dof1, int32_t dof2, double* out);
  */
 QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
 #define QvDistFInverse ZemFunc104
+
+/** @} */
+
+/** @defgroup eigenproblems Eigenproblems
+ * Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
+ * eigenvalues in a chosen order along the diagonal.
+ * Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it. Inputs are
+ * copied before they are worked on. On an error the outputs stay as they are.
+ * Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal ones keep
+ * their places.
+ * @{
+ */
+
+/**
+ * MatEigenGeneral.
+ * The eigenvalues of a real matrix, A x = lambda x, by the QR algorithm.
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues; pairs stand together, the one with the positive imaginary part first
+ * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ * @code
+ * double a[4] = {0, 1, -1, 0};
+ * QvComplex values[2], vectors[4];
+ * QvMatEigenGeneral(a, 2, 1, values, vectors);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc201(const double* a, int64_t n, uint32_t wantVectors, QvComplex* values, QvComplex* vectors);
+#define QvMatEigenGeneral ZemFunc201
+
+/**
+ * MatEigenSymmetric.
+ * The eigenvalues of a symmetric matrix, by divide and conquer (Cuppen, 1981).
+ * Symmetry is not tested: the lower triangle is not used.
+ * @param a read, [n * n]: the matrix, row-major; its upper triangle counts, but all of it must be finite
+ * @param n its rows and columns
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues, ascending
+ * @param vectors written, [n * n], may be null: the eigenvectors, orthonormal; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc202(const double* a, int64_t n, uint32_t wantVectors, double* values, double* vectors);
+#define QvMatEigenSymmetric ZemFunc202
+
+/**
+ * MatEigenComplex.
+ * The eigenvalues of a complex matrix, A x = lambda x.
+ * @param a read, [n * n]: the matrix, row-major; of a Hermitian one the upper triangle counts
+ * @param n its rows and columns
+ * @param kind 0: general; 1: Hermitian
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues; of a Hermitian matrix ascending, with zero imaginary parts
+ * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 the kind is neither 0 nor 1, or wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc211(const QvComplex* a, int64_t n, int32_t kind, uint32_t wantVectors, QvComplex* values, QvComplex* vectors);
+#define QvMatEigenComplex ZemFunc211
+
+/**
+ * MatSchur.
+ * The Schur form, A = Q T Q^T, ordered by exchanges of neighbours (Bai and Demmel, 1993).
+ * With an order, a pair whose imaginary part is rounding alone (at most n epsilon beside its real part, and epsilon beside the sum of all eigenvalues) becomes two real eigenvalues: its block is cleared beside the diagonal.
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param vectors written, [n * n], may be null: Q, row-major; null: not formed
+ * @param t written, [n * n]: T, row-major, triangular but for a block of two rows for each pair
+ * @param values written, [n]: the eigenvalues in the order of the diagonal of T
+ * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc258(const double* a, int64_t n, uint32_t sort, double* vectors, double* t, QvComplex* values);
+#define QvMatSchur ZemFunc258
+
+/**
+ * MatSchurComplex (MatSchur).
+ * The Schur form, A = Q T Q^H, ordered by exchanges of neighbours (Bai and Demmel, 1993).
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param vectors written, [n * n], may be null: Q, row-major; null: not formed
+ * @param t written, [n * n]: T, row-major, triangular
+ * @param values written, [n]: the eigenvalues in the order of the diagonal of T
+ * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc259(const QvComplex* a, int64_t n, uint32_t sort, QvComplex* vectors, QvComplex* t, QvComplex* values);
+#define QvMatSchurComplex ZemFunc259
+
+/**
+ * MatEigenGeneralised.
+ * The generalised eigenvalues, A x = lambda B x, by the QZ method (Moler and Stewart, 1973).
+ * Where beta is 0 the quotient is what the division gives: an infinite real part, and NaN for 0 / 0.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param values written, [n]: the eigenvalues alpha / beta
+ * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc252(const double* a, const double* b, int64_t n, QvComplex* values, QvComplex* right, QvComplex* left);
+#define QvMatEigenGeneralised ZemFunc252
+
+/**
+ * MatEigenGeneralisedComplex (MatEigenGeneralised).
+ * The generalised eigenvalues, A x = lambda B x, by the QZ method (Moler and Stewart, 1973).
+ * Where beta is 0 the quotient is what the division gives: both parts NaN.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param values written, [n]: the eigenvalues alpha / beta
+ * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc253(const QvComplex* a, const QvComplex* b, int64_t n, QvComplex* values, QvComplex* right, QvComplex* left);
+#define QvMatEigenGeneralisedComplex ZemFunc253
+
+/**
+ * MatQz.
+ * The generalised Schur form A = Q S Z^T, B = Q T Z^T by the QZ method (Moler and Stewart, 1973), ordered by exchanges of neighbours (Kagstrom, 1993).
+ * Infinite eigenvalues come last in ascending and first in descending order.
+ * Exchanges keep the quotients; alpha and beta are those that were found before the exchanges.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param s written, [n * n]: S, row-major, upper triangular, but for a block of two rows for each pair
+ * @param t written, [n * n]: T, row-major, upper triangular
+ * @param q written, [n * n], may be null: Q, row-major; null: not formed
+ * @param z written, [n * n], may be null: Z, row-major; null: not formed
+ * @param alpha written, [n]: the numerators of the eigenvalues, in the order of the diagonal
+ * @param beta written, [n]: their denominators; 0 for an infinite eigenvalue
+ * @param right written, [n * n], may be null: the right eigenvectors, beta A x = alpha B x; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
+ * @retval 20005 a first form cannot be ordered and a second does not converge; the first is given, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge, or with vectors a pair is so nearly real that it has none; nothing is written
+ * @retval -20999 the provider fails
+ * @retval -20073 eigenvalues are too close to be exchanged, in a second form that is tried as well; nothing is written
+ */
+QV_API QvStatus ZemFunc256(const double* a, const double* b, int64_t n, uint32_t sort, double* s, double* t, double* q, double* z, QvComplex* alpha, double* beta, QvComplex* right, QvComplex* left);
+#define QvMatQz ZemFunc256
+
+/**
+ * MatQzComplex (MatQz).
+ * The generalised Schur form A = Q S Z^H, B = Q T Z^H by the QZ method (Moler and Stewart, 1973), ordered by exchanges of neighbours (Kagstrom, 1993).
+ * Infinite eigenvalues come last in ascending and first in descending order.
+ * Exchanges keep the quotients; alpha and beta are those that were found before the exchanges.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param s written, [n * n]: S, row-major, upper triangular
+ * @param t written, [n * n]: T, row-major, upper triangular
+ * @param q written, [n * n], may be null: Q, row-major; null: not formed
+ * @param z written, [n * n], may be null: Z, row-major; null: not formed
+ * @param alpha written, [n]: the numerators of the eigenvalues, in the order of the diagonal
+ * @param beta written, [n]: their denominators, with zero imaginary parts; 0 for an infinite eigenvalue
+ * @param right written, [n * n], may be null: the right eigenvectors, beta A x = alpha B x; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ * @retval -20073 eigenvalues are too close to be exchanged; nothing is written
+ */
+QV_API QvStatus ZemFunc257(const QvComplex* a, const QvComplex* b, int64_t n, uint32_t sort, QvComplex* s, QvComplex* t, QvComplex* q, QvComplex* z, QvComplex* alpha, QvComplex* beta, QvComplex* right, QvComplex* left);
+#define QvMatQzComplex ZemFunc257
+
+/** @} */
+
+/** @defgroup elliptic Elliptic, hypergeometric and integral functions
+ * Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN, in every output.
+ * The elliptic functions take the parameter m = k^2, not the modulus k. The hypergeometric functions take x before the
+ * parameters. Where an argument goes by address, a null pointer selects the complete integral; the address of 0.0 does not.
+ * @{
+ */
+
+/**
+ * SpecEllipticK.
+ * Null phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
+ * Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1 infinite from |phi| = pi/2 on.
+ * NaN for m outside [0, 1].
+ * Rational forms in 1 - m with its logarithm; the descending Landen transformation (Moshier 1989, ellpk and ellik).
+ * @param m the parameter, 0 to 1
+ * @param phi read, may be null: the amplitude in radians; null selects the complete integral
+ * @code
+ * double phi = 0.5, k = QvSpecEllipticK(0.25, NULL), f = QvSpecEllipticK(0.25, &phi);
+ * @endcode
+ */
+QV_API double ZemFunc318(double m, const double* phi);
+#define QvSpecEllipticK ZemFunc318
+
+/**
+ * SpecEllipticE.
+ * Null phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
+ * Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E.
+ * NaN for m outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
+ * @param m the parameter, 0 to 1
+ * @param phi read, may be null: the amplitude in radians; null selects the complete integral
+ */
+QV_API double ZemFunc319(double m, const double* phi);
+#define QvSpecEllipticE ZemFunc319
+
+/**
+ * SpecJacobiElliptic.
+ * The Jacobian elliptic functions. All outputs are NaN for m outside [0, 1] and for infinite u (but for m = 1).
+ * Arithmetic-geometric mean with at most nine steps; expansions in m below 1e-9 and in 1 - m from 0.999999999 on (Moshier 1989, ellpj).
+ * @param u the argument
+ * @param m the parameter, 0 to 1
+ * @param sn written: sn(u|m) = sin phi
+ * @param cn written: cn(u|m) = cos phi
+ * @param dn written: dn(u|m) = sqrt(1 - m sin^2 phi)
+ * @param phi written, may be null: the amplitude, F(phi, m) = u, in radians
+ */
+QV_API void ZemFunc332(double u, double m, double* sn, double* cn, double* dn, double* phi);
+#define QvSpecJacobiElliptic ZemFunc332
+
+/**
+ * SpecDawson.
+ * Dawson's integral, e^(-x^2) times the integral of e^(t^2) from 0 to x. Odd; 0.5413 at most, near 1/(2x) for large x.
+ * Rational forms with cuts at 3.25 and 6.25, 1/(2x) above 1e9 (Moshier 1989, dawsn).
+ * @param x any
+ */
+QV_API double ZemFunc320(double x);
+#define QvSpecDawson ZemFunc320
+
+/**
+ * SpecFresnel.
+ * The Fresnel integrals, both odd. Above |x| = 36974 both are 0.5 with the sign of x.
+ * Rational forms, by auxiliary functions from x^2 = 2.5625 on (Moshier 1989, fresnl).
+ * @param x any
+ * @param s written: S(x), the integral of sin(pi t^2/2) from 0 to x
+ * @param c written: C(x), the integral of cos(pi t^2/2) from 0 to x
+ */
+QV_API void ZemFunc331(double x, double* s, double* c);
+#define QvSpecFresnel ZemFunc331
+
+/**
+ * SpecExpIntegralN.
+ * E_n(x), the integral of e^(-x t) / t^n from 1 to infinity. NaN for x < 0 or n < 0.
+ * 0 above x = 709.7827128933; at x = 0 1/(n - 1), +Inf for n < 2.
+ * Power series up to x = 1, continued fraction above, an asymptotic form for n above 5000 (Moshier 1989, expn).
+ * @param x at least 0
+ * @param n the order, at least 0
+ */
+QV_API double ZemFunc321(double x, int32_t n);
+#define QvSpecExpIntegralN ZemFunc321
+
+/**
+ * SpecSineIntegral.
+ * Si(x), the integral of sin(t)/t from 0 to x. Odd; pi/2 at +Inf.
+ * Rational forms with cuts at 4 and 8, pi/2 - cos(x)/x above 1e9 (Moshier 1989, sici).
+ * @param x any
+ */
+QV_API double ZemFunc322(double x);
+#define QvSpecSineIntegral ZemFunc322
+
+/**
+ * SpecCosineIntegral.
+ * Ci(x) = gamma + ln|x| + the integral of (cos(t) - 1)/t from 0 to x. -Inf at 0; at negative x the real part, the value at |x|.
+ * Rational forms with cuts at 4 and 8, sin(x)/x above 1e9 (Moshier 1989, sici).
+ * @param x any
+ */
+QV_API double ZemFunc323(double x);
+#define QvSpecCosineIntegral ZemFunc323
+
+/**
+ * SpecHyperbolicSineIntegral.
+ * Shi(x), the integral of sinh(t)/t from 0 to x. Odd; infinite above |x| = 88, well before a double would overflow.
+ * Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+ * @param x any
+ */
+QV_API double ZemFunc325(double x);
+#define QvSpecHyperbolicSineIntegral ZemFunc325
+
+/**
+ * SpecHyperbolicCosineIntegral.
+ * Chi(x) = gamma + ln|x| + the integral of (cosh(t) - 1)/t from 0 to x. -Inf at 0, +Inf above |x| = 88; at negative x the value at |x|.
+ * Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+ * @param x any
+ */
+QV_API double ZemFunc324(double x);
+#define QvSpecHyperbolicCosineIntegral ZemFunc324
+
+/**
+ * SpecHyperg1F1.
+ * Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ...
+ * +Inf for b = 0, -1, -2, ... unless a ends the series before. NaN for infinite parameters, and where no digit would be right.
+ * Power series, Kummer's transformation or asymptotic form, the best by its estimated error (Moshier 1989, hyperg).
+ * @param x any
+ * @param a upper parameter
+ * @param b lower parameter
+ */
+QV_API double ZemFunc316(double x, double a, double b);
+#define QvSpecHyperg1F1 ZemFunc316
+
+/**
+ * SpecHypergU.
+ * Tricomi's confluent hypergeometric function U(a, b, x), which falls like x^-a.
+ * Complex at x < 0, and NaN there unless it is a polynomial (times a whole power of x); at x = 0 infinite for b >= 1.
+ * Two 1F1 or their limit for whole b (Abramowitz and Stegun 13.1.3, 13.1.6), the asymptotic series, or the integral 13.2.5.
+ * @param x at least 0
+ * @param a first parameter
+ * @param b second parameter
+ */
+QV_API double ZemFunc317(double x, double a, double b);
+#define QvSpecHypergU ZemFunc317
+
+/**
+ * SpecHyperg2F1.
+ * Gauss's hypergeometric function 2F1(a, b; c; x) = 1 + a b/c x + a(a+1) b(b+1)/(c(c+1)) x^2/2! + ..., continued to x <= 1.
+ * +Inf for c = 0, -1, -2, ... unless a or b ends the series before. NaN for x > 1 unless it is a polynomial (times a whole
+ * power of 1 - x), and where no digit would be right. At x = 1 infinite for c - a - b <= 0.
+ * Power series up to 0.9, in powers of 1 - x above, by x/(x - 1) below -0.2 (Moshier 1989, hyp2f1).
+ * @param x at most 1; any where the function is a polynomial
+ * @param a first upper parameter
+ * @param b second upper parameter
+ * @param c lower parameter
+ * @code
+ * double log2 = QvSpecHyperg2F1(-1.0, 1.0, 1.0, 2.0); // ln(1 - x)/-x at x = -1
+ * @endcode
+ */
+QV_API double ZemFunc386(double x, double a, double b, double c);
+#define QvSpecHyperg2F1 ZemFunc386
+
+/**
+ * SpecHyperg2F1Transformed.
+ * The same function 2F1(a, b; c; x) with the transformation to x/(x - 1) below -0.5.
+ * @param x at most 1; any where the function is a polynomial
+ * @param a first upper parameter
+ * @param b second upper parameter
+ * @param c lower parameter
+ */
+QV_API double ZemFunc315(double x, double a, double b, double c);
+#define QvSpecHyperg2F1Transformed ZemFunc315
+
+/**
+ * SpecParabolicCylinder.
+ * The parabolic cylinder function D_v(x), from two reciprocal Gammas and Kummer's series, to some 2e-9 for small arguments.
+ * x = +Inf gives 0. x = -Inf gives 0 for whole v >= 0, +Inf for v < 0, and else +Inf or -Inf as the whole part of v is odd or even.
+ * NaN for v = +Inf at finite x, and wherever a sum leaves the range of a double.
+ * @param x the argument
+ * @param v the order
+ */
+QV_API double ZemFunc327(double x, double v);
+#define QvSpecParabolicCylinder ZemFunc327
+
+/** @} */
+
+/** @defgroup filter_objects Filter objects and the cascade engine
+ * A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay lines of
+ * its stages behind it in the same block of memory. It is created, designed (see the designs of the family below), and
+ * then applied to any number of blocks: the delay lines carry over, and a signal that is cut into blocks comes out as
+ * it would in one piece, to the last bit. MemoryRelease gives the object back.
+ * A stage with the coefficients a and b and the delay line d turns the sample v into
+ * v' = t b[0] + b[1] d[0] + b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line
+ * (direct form II; sums from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude
+ * is 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals.
+ * An object belongs to one thread at a time.
+ * @{
+ */
+
+/**
+ * IirFilterCreate.
+ * Creates a filter with its delay lines at 0. Its coefficients are not set before it is designed.
+ * Null for another kind, for an order below 1, and when memory runs out.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype, at least 1; band kinds have twice this order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(0, 4);
+ * double x[5] = {1}, y[5];
+ * QvIirDesignButterworth(1000, 100, 0, filter);
+ * QvIirCascadeApply(x, 5, filter, y);
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvIirFilter* ZemFunc233(uint32_t kind, int32_t order);
+#define QvIirFilterCreate ZemFunc233
+
+/**
+ * IirStateComplexCreate.
+ * Creates the delay lines with which a filter is applied to complex data, all 0.
+ * Null for a kind above 3, for an order below 1, and when memory runs out.
+ * @param kind of the filter that it will be used with
+ * @param order of the filter that it will be used with
+ */
+QV_API QvIirStateComplex* ZemFunc469(uint32_t kind, int32_t order);
+#define QvIirStateComplexCreate ZemFunc469
+
+/**
+ * IirFilterReset.
+ * Makes the next application, and only that one, start from delay lines of 0.
+ * The delay lines cleared are those of that application: the filter's own, or the ones for complex data.
+ * @param filter handle, may be null: the filter
+ */
+QV_API void ZemFunc235(QvIirFilter* filter);
+#define QvIirFilterReset ZemFunc235
+
+/**
+ * IirCascadeApply.
+ * Filters the next block of a signal. y may be x.
+ * A pending reset is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the record do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc91(const double* x, int64_t n, QvIirFilter* filter, double* y);
+#define QvIirCascadeApply ZemFunc91
+
+/**
+ * IirCascadeApplyComplex.
+ * Filters the next block of a complex signal: its real and its imaginary part, each by itself. y may be x.
+ * A pending reset of the filter is done first, also when n is then refused. After an error no sample is written.
+ * @param x read, [n]: the signal
+ * @param n its length
+ * @param filter handle: the filter, designed
+ * @param state handle: the delay lines, of the same kind and order
+ * @param y written, [n]: the filtered signal
+ * @retval -20066 the counts of the two records do not fit together; a pending reset stays pending
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, QvIirStateComplex* state, QvComplex* y);
+#define QvIirCascadeApplyComplex ZemFunc466
 
 /** @} */
 
@@ -1751,6 +2729,1106 @@ QV_API QvStatus ZemFunc347(int64_t n, double amp, double delay, double dt, doubl
  */
 QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, double width, double skew, double* out);
 #define QvGenSkewedTrianglePulse ZemFunc350
+
+/** @} */
+
+/** @defgroup iir_design IIR design and one-shot IIR filters
+ * Recursive filters of six families and four kinds. An analog lowpass prototype with its cutoff at 1 rad/s goes, pole
+ * pair by pole pair, through the bilinear transform with prewarped edges, w = tan(pi f / fs), into stages of second
+ * order (lowpass, highpass) or of fourth order (bandpass, bandstop, which have twice the order of the prototype). No
+ * polynomial of high degree is formed, so that high orders stay accurate.
+ * Frequencies are in the unit of fs, the sampling rate. Kinds: 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop; the first
+ * two have their cutoff in fl (or fc) and ignore fh. Ripple and attenuation are in dB, above 0.
+ * The edges mean: Butterworth and Bessel 3 dB down; Chebyshev and elliptic the end of the passband, where the ripple is
+ * reached for the last time; inverse Chebyshev the begin of the stopband, where the attenuation is first reached. The
+ * even-pole family has poles on the unit circle with equally spaced imaginary parts.
+ * Designs check in the order of their statuses. The one-shot filters of real arrays check their sizes and levels
+ * elsewhere, and accept a cutoff of fs/2, which the designs refuse with -20023.
+ * @{
+ */
+
+/**
+ * IirDesignEvenPole.
+ * Designs an even-pole filter: poles on the unit circle with equally spaced imaginary parts.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc12(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignEvenPole ZemFunc12
+
+/**
+ * IirDesignButterworth.
+ * Designs a Butterworth filter, maximally flat in the passband and 3 dB down at the edges.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ * @code
+ * QvIirFilter* filter = QvIirFilterCreate(2, 3);
+ * QvIirDesignButterworth(1000, 8, 13, filter);  // the alpha band of an EEG
+ * QvIirFilterRelease(filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc18(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignButterworth ZemFunc18
+
+/**
+ * IirDesignBessel.
+ * Designs a Bessel filter, of maximally flat delay before the transform to digital form, and 3 dB down at the edges.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ */
+QV_API QvStatus ZemFunc471(double fs, double fl, double fh, QvIirFilter* filter);
+#define QvIirDesignBessel ZemFunc471
+
+/**
+ * IirDesignChebyshev.
+ * Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc24(double fs, double fl, double fh, double ripple, QvIirFilter* filter);
+#define QvIirDesignChebyshev ZemFunc24
+
+/**
+ * IirDesignInverseChebyshev.
+ * Designs an inverse Chebyshev filter, of equal ripple in the stopband.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param attenuation attenuation of the stopband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc98(double fs, double fl, double fh, double attenuation, QvIirFilter* filter);
+#define QvIirDesignInverseChebyshev ZemFunc98
+
+/**
+ * IirDesignElliptic.
+ * Designs an elliptic filter, of equal ripple in passband and stopband.
+ * Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error they are unchanged.
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param filter handle: the filter; its kind and order are those wanted
+ * @retval -20021 the order of the record is below 1
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20061 the kind of the record is above 3
+ * @retval -20066 the record has too few coefficients for its order
+ */
+QV_API QvStatus ZemFunc61(double fs, double fl, double fh, double ripple, double attenuation, QvIirFilter* filter);
+#define QvIirDesignElliptic ZemFunc61
+
+/**
+ * IirCoefficientsEvenPole.
+ * Designs an even-pole filter: poles on the unit circle with equally spaced imaginary parts, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc13(int32_t kind, int32_t order, double fs, double fl, double fh, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsEvenPole ZemFunc13
+
+/**
+ * IirCoefficientsButterworth.
+ * Designs a Butterworth filter, maximally flat in the passband and 3 dB down at the edges, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ * @code
+ * double a[3], b[3];
+ * QvIirCoefficientsButterworth(0, 2, 4, 1, 0, a, 3, b, 3);  // b = 0.2929, 0.5858, 0.2929; a = 1, 0, 0.1716
+ * @endcode
+ */
+QV_API QvStatus ZemFunc19(int32_t kind, int32_t order, double fs, double fl, double fh, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsButterworth ZemFunc19
+
+/**
+ * IirCoefficientsChebyshev.
+ * Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc25(int32_t kind, int32_t order, double fs, double fl, double fh, double ripple, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsChebyshev ZemFunc25
+
+/**
+ * IirCoefficientsInverseChebyshev.
+ * Designs an inverse Chebyshev filter, of equal ripple in the stopband, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param attenuation attenuation of the stopband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc99(int32_t kind, int32_t order, double fs, double fl, double fh, double attenuation, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsInverseChebyshev ZemFunc99
+
+/**
+ * IirCoefficientsElliptic.
+ * Designs an elliptic filter, of equal ripple in passband and stopband, as one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param order order of the analog prototype
+ * @param fs sampling rate
+ * @param fl lower edge, or the cutoff
+ * @param fh upper edge of a band; ignored for kinds 0 and 1
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20001 memory is exhausted, or there is no such kind or order
+ * @retval -20023 fs or a frequency is 0 or below, fl is not below fh, or a cutoff is not below fs/2
+ * @retval -20020 a frequency is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20066 an array is too short
+ */
+QV_API QvStatus ZemFunc62(int32_t kind, int32_t order, double fs, double fl, double fh, double ripple, double attenuation, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirCoefficientsElliptic ZemFunc62
+
+/**
+ * IirToDirectForm.
+ * Multiplies the stages of a filter up to one transfer function.
+ * Writes order + 1 coefficients to each array, 2 order + 1 for a band; what lies behind them is unchanged.
+ * @param filter handle, may be null: the filter, designed
+ * @param a written, [aSize]: denominator, a[0] = 1, in ascending powers of z^-1
+ * @param aSize room in a
+ * @param b written, [bSize]: numerator
+ * @param bSize room in b
+ * @retval -20066 the filter is null
+ * @retval -20021 the order of the record is below 1
+ * @retval -20061 the kind of the record is none of the four
+ * @retval -20066 the counts of the record do not fit together, or an array is too short
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc236(QvIirFilter* filter, double* a, int32_t aSize, double* b, int32_t bSize);
+#define QvIirToDirectForm ZemFunc236
+
+/**
+ * IirFilterButterworthLowpass.
+ * Filters a signal from rest with a Butterworth lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20020 fc is above fs/2
+ * @code
+ * QvIirFilterButterworthLowpass(x, 1000, 360, 40, 4, 0);  // in place
+ * @endcode
+ */
+QV_API QvStatus ZemFunc21(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterButterworthLowpass ZemFunc21
+
+/**
+ * IirFilterButterworthHighpass.
+ * Filters a signal from rest with a Butterworth highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc20(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterButterworthHighpass ZemFunc20
+
+/**
+ * IirFilterButterworthBandpass.
+ * Filters a signal from rest with a Butterworth bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc16(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterButterworthBandpass ZemFunc16
+
+/**
+ * IirFilterButterworthBandstop.
+ * Filters a signal from rest with a Butterworth bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc17(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterButterworthBandstop ZemFunc17
+
+/**
+ * IirFilterChebyshevLowpass.
+ * Filters a signal from rest with a Chebyshev lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc27(double* x, int64_t n, double fs, double fc, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevLowpass ZemFunc27
+
+/**
+ * IirFilterChebyshevHighpass.
+ * Filters a signal from rest with a Chebyshev highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc26(double* x, int64_t n, double fs, double fc, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevHighpass ZemFunc26
+
+/**
+ * IirFilterChebyshevBandpass.
+ * Filters a signal from rest with a Chebyshev bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc22(double* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevBandpass ZemFunc22
+
+/**
+ * IirFilterChebyshevBandstop.
+ * Filters a signal from rest with a Chebyshev bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc23(double* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, double* y);
+#define QvIirFilterChebyshevBandstop ZemFunc23
+
+/**
+ * IirFilterInverseChebyshevLowpass.
+ * Filters a signal from rest with an inverse Chebyshev lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc101(double* x, int64_t n, double fs, double fc, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevLowpass ZemFunc101
+
+/**
+ * IirFilterInverseChebyshevHighpass.
+ * Filters a signal from rest with an inverse Chebyshev highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc100(double* x, int64_t n, double fs, double fc, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevHighpass ZemFunc100
+
+/**
+ * IirFilterInverseChebyshevBandpass.
+ * Filters a signal from rest with an inverse Chebyshev bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc96(double* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevBandpass ZemFunc96
+
+/**
+ * IirFilterInverseChebyshevBandstop.
+ * Filters a signal from rest with an inverse Chebyshev bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc97(double* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, double* y);
+#define QvIirFilterInverseChebyshevBandstop ZemFunc97
+
+/**
+ * IirFilterEllipticLowpass.
+ * Filters a signal from rest with an elliptic lowpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc64(double* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticLowpass ZemFunc64
+
+/**
+ * IirFilterEllipticHighpass.
+ * Filters a signal from rest with an elliptic highpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or fc is 0 or below
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fc is above fs/2
+ */
+QV_API QvStatus ZemFunc63(double* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticHighpass ZemFunc63
+
+/**
+ * IirFilterEllipticBandpass.
+ * Filters a signal from rest with an elliptic bandpass, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc59(double* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticBandpass ZemFunc59
+
+/**
+ * IirFilterEllipticBandstop.
+ * Filters a signal from rest with an elliptic bandstop, section by section in direct form I.
+ * Takes no memory. Denormals are not flushed. Otherwise like a filter object, to within rounding.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20003 n is below 1
+ * @retval -20021 the order is below 1
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20020 fh is above fs/2
+ */
+QV_API QvStatus ZemFunc60(double* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, double* y);
+#define QvIirFilterEllipticBandstop ZemFunc60
+
+/**
+ * IirFilterBesselLowpass.
+ * Designs a Bessel lowpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc399(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterBesselLowpass ZemFunc399
+
+/**
+ * IirFilterBesselHighpass.
+ * Designs a Bessel highpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc400(double* x, int64_t n, double fs, double fc, int32_t order, double* y);
+#define QvIirFilterBesselHighpass ZemFunc400
+
+/**
+ * IirFilterBesselBandpass.
+ * Designs a Bessel bandpass and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc401(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterBesselBandpass ZemFunc401
+
+/**
+ * IirFilterBesselBandstop.
+ * Designs a Bessel bandstop and applies it, from rest, to a signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc402(double* x, int64_t n, double fs, double fl, double fh, int32_t order, double* y);
+#define QvIirFilterBesselBandstop ZemFunc402
+
+/**
+ * IirFilterComplexButterworthLowpass.
+ * Designs a Butterworth lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc450(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthLowpass ZemFunc450
+
+/**
+ * IirFilterComplexButterworthHighpass.
+ * Designs a Butterworth highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc451(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthHighpass ZemFunc451
+
+/**
+ * IirFilterComplexButterworthBandpass.
+ * Designs a Butterworth bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc452(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthBandpass ZemFunc452
+
+/**
+ * IirFilterComplexButterworthBandstop.
+ * Designs a Butterworth bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc453(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexButterworthBandstop ZemFunc453
+
+/**
+ * IirFilterComplexChebyshevLowpass.
+ * Designs a Chebyshev lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc454(QvComplex* x, int64_t n, double fs, double fc, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevLowpass ZemFunc454
+
+/**
+ * IirFilterComplexChebyshevHighpass.
+ * Designs a Chebyshev highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc455(QvComplex* x, int64_t n, double fs, double fc, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevHighpass ZemFunc455
+
+/**
+ * IirFilterComplexChebyshevBandpass.
+ * Designs a Chebyshev bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc456(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevBandpass ZemFunc456
+
+/**
+ * IirFilterComplexChebyshevBandstop.
+ * Designs a Chebyshev bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc457(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, int32_t order, QvComplex* y);
+#define QvIirFilterComplexChebyshevBandstop ZemFunc457
+
+/**
+ * IirFilterComplexInverseChebyshevLowpass.
+ * Designs an inverse Chebyshev lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc458(QvComplex* x, int64_t n, double fs, double fc, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevLowpass ZemFunc458
+
+/**
+ * IirFilterComplexInverseChebyshevHighpass.
+ * Designs an inverse Chebyshev highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the stopband
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc459(QvComplex* x, int64_t n, double fs, double fc, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevHighpass ZemFunc459
+
+/**
+ * IirFilterComplexInverseChebyshevBandpass.
+ * Designs an inverse Chebyshev bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc460(QvComplex* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevBandpass ZemFunc460
+
+/**
+ * IirFilterComplexInverseChebyshevBandstop.
+ * Designs an inverse Chebyshev bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20020 fh is above fs/2
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc461(QvComplex* x, int64_t n, double fs, double fl, double fh, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexInverseChebyshevBandstop ZemFunc461
+
+/**
+ * IirFilterComplexEllipticLowpass.
+ * Designs an elliptic lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc462(QvComplex* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticLowpass ZemFunc462
+
+/**
+ * IirFilterComplexEllipticHighpass.
+ * Designs an elliptic highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc edge of the passband
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc463(QvComplex* x, int64_t n, double fs, double fc, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticHighpass ZemFunc463
+
+/**
+ * IirFilterComplexEllipticBandpass.
+ * Designs an elliptic bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc464(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticBandpass ZemFunc464
+
+/**
+ * IirFilterComplexEllipticBandstop.
+ * Designs an elliptic bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param ripple ripple of the passband in dB
+ * @param attenuation attenuation of the stopband in dB
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20024 the ripple is 0 or below
+ * @retval -20025 the attenuation is 0 or below
+ * @retval -20028 the ripple is not below the attenuation
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc465(QvComplex* x, int64_t n, double fs, double fl, double fh, double ripple, double attenuation, int32_t order, QvComplex* y);
+#define QvIirFilterComplexEllipticBandstop ZemFunc465
+
+/**
+ * IirFilterComplexBesselLowpass.
+ * Designs a Bessel lowpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc403(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselLowpass ZemFunc403
+
+/**
+ * IirFilterComplexBesselHighpass.
+ * Designs a Bessel highpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fc cutoff
+ * @param order order of the analog prototype
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or fc is 0 or below, or fc is fs/2 or above
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc404(QvComplex* x, int64_t n, double fs, double fc, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselHighpass ZemFunc404
+
+/**
+ * IirFilterComplexBesselBandpass.
+ * Designs a Bessel bandpass and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc405(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselBandpass ZemFunc405
+
+/**
+ * IirFilterComplexBesselBandstop.
+ * Designs a Bessel bandstop and applies it, from rest, to both parts of a complex signal, as a filter object would be.
+ * @param x read and written, [n]: the signal, replaced by the result when y is null
+ * @param n its length
+ * @param fs sampling rate
+ * @param fl lower edge
+ * @param fh upper edge
+ * @param order order of the analog prototype, half that of the filter
+ * @param y written, [n], may be null: the filtered signal
+ * @retval -20021 the order is below 1
+ * @retval -20001 memory is exhausted
+ * @retval -20023 fs or a frequency is 0 or below, or fl is not below fh
+ * @retval -20020 fh is above fs/2
+ * @retval -20062 the poles or the cutoff were not found: the order is too high
+ * @retval -20063 the order is so high (beyond 150 or so) that its polynomial leaves the range of doubles
+ * @retval -20116 the cutoff was not found
+ * @retval -20003 n is below 1
+ */
+QV_API QvStatus ZemFunc406(QvComplex* x, int64_t n, double fs, double fl, double fh, int32_t order, QvComplex* y);
+#define QvIirFilterComplexBesselBandstop ZemFunc406
 
 /** @} */
 

@@ -14,9 +14,10 @@ double ReciprocalGamma(double x) noexcept { return IsPole(x) ? 0 : 1 / GammaValu
 double GammaWeight(double exponent, double base, double power, double above0, double above1, double below0,
                    double below1) noexcept {
     if (IsPole(below0) || IsPole(below1)) return 0;
-    const double direct = std::exp(exponent) * std::pow(base, power) * (GammaValue(above0) / GammaValue(below0)) *
-                          (GammaValue(above1) / GammaValue(below1));
-    if (std::isfinite(direct) && std::fabs(direct) > 1e-290) return direct;
+    const double e = std::exp(exponent), p = std::pow(base, power);
+    const double direct = e * p * (GammaValue(above0) / GammaValue(below0)) * (GammaValue(above1) / GammaValue(below1));
+    constexpr double kLeast = 1e-305;  // short of the subnormal numbers, where digits are lost
+    if (std::isfinite(direct) && e > kLeast && p > kLeast && std::fabs(direct) > kLeast) return direct;
     int signs[4];
     const double over = SpecLnGamma(above0, &signs[0]) + SpecLnGamma(above1, &signs[1]);
     const double under = SpecLnGamma(below0, &signs[2]) + SpecLnGamma(below1, &signs[3]);

@@ -4,35 +4,20 @@
 #include <limits>
 
 #include "frame/types.h"
+#include "stats/special/divergent_series.h"
+#include "stats/special/double_double.h"
+#include "stats/special/estimate.h"
 #include "stats/special/gamma_ratio.h"
-#include "stats/special/two_double.h"
 
 namespace quorvan {
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kGood = 8.881784197001252e-16;  // 4 epsilon
-constexpr double kAsymptoticFactor = 30;         // on the error estimate of the asymptotic form
-constexpr double kLargestExponent = 700;         // of the exponential in Kummer's transformation
-constexpr double kLongest = 20000;               // terms of a series
-// An estimate beyond says that no digit need hold: rubbish looks as if it had one or two.
-constexpr double kUseless = 1e-3;
-
-struct Estimate {
-    double value, error;  // the error relative
-
-    bool Good() const noexcept { return error <= kGood; }
-};
-
-Estimate Better(Estimate a, Estimate b) noexcept { return b.error < a.error ? b : a; }
-
-// Any estimate of the form of a sum: what rounding in the largest term, and the neglected rest, leave of it.
-Estimate Judged(double sum, double largest, double rest) noexcept {
-    if (!std::isfinite(sum) || !std::isfinite(largest)) return {sum, kInf};
-    if (sum == 0) return {0, largest == 0 && rest < kEpsilon ? 0 : kInf};
-    return {sum, kEpsilon + (kEpsilon * largest + rest) / std::fabs(sum)};
-}
+constexpr double kAsymptoticFactor = 30;  // on the error estimate of the asymptotic form
+constexpr double kAsymptoticGood = kAsymptoticFactor * 8.881784197001252e-16;
+constexpr double kLargestExponent = 700;  // of the exponential in Kummer's transformation
+constexpr double kLongest = 20000;        // terms of a series
 
 double TermLimit(double a, double b, double x) noexcept {
     const double wanted = 200 + 2 * (std::fabs(a) + std::fabs(b) + std::fabs(x));
@@ -64,61 +49,36 @@ Estimate PowerSeries(double a, double b, double x) noexcept {
 }
 
 // The power series of 1F1(a_hi + a_lo; b; x) in pairs of doubles.
-Estimate LongSeries(TwoDouble a, double b, double x) noexcept {
-    const double limit = TermLimit(a.hi, b, x);
-    TwoDouble sum{1, 0}, term{1, 0};
+Estimate LongSeries(DoubleDouble a, double b, double x) noexcept {
+    const double limit = TermLimit(a.high, b, x);
+    DoubleDouble sum{1, 0}, term{1, 0};
     double largest = 1;
     for (double n = 0; n < limit; n += 1) {
-        const TwoDouble an = a + n, bn = TwoSum(b, n);
-        if (an.hi == 0) break;
-        term = term * ((an * x) / (bn * (n + 1)));
+        const DoubleDouble an = a + DoubleDouble{n, 0}, bn = ExactSum(b, n), xn{x, 0}, factorial{n + 1, 0};
+        if (an.high == 0) break;
+        term = term * ((an * xn) / (bn * factorial));
         sum = sum + term;
-        const double size = std::fabs(term.hi);
+        const double size = std::fabs(term.high);
         if (size > largest) largest = size;
-        if (!(largest < 1e300)) return {sum.hi, kInf};
-        const bool settled = Settled(an.hi, bn.hi, x * an.hi / (bn.hi * (n + 1)));
-        if (size <= 0x1p-60 * std::fabs(sum.hi) && settled) break;
-        if (n + 1 >= limit) return {sum.hi, kInf};
+        if (!(largest < 1e300)) return {sum.high, kInf};
+        const bool settled = Settled(an.high, bn.high, x * an.high / (bn.high * (n + 1)));
+        if (size <= 0x1p-60 * std::fabs(sum.high) && settled) break;
+        if (n + 1 >= limit) return {sum.high, kInf};
     }
-    // Some 2^-100 of the largest term for each of the many roundings.
-    return Judged(sum.hi, 0, 0x1p-98 * largest);
+    return JudgedPair(sum.high, largest);
 }
 
 // e^x 1F1(b - a; b; -x). `long_sum` in pairs of doubles, b - a without loss.
 Estimate Transformed(double a, double b, double x, bool long_sum) noexcept {
     if (std::fabs(x) > kLargestExponent) return {kNaN, kInf};
-    const TwoDouble difference = TwoSum(b, -a);
-    Estimate sum = long_sum ? LongSeries(difference, b, -x) : PowerSeries(difference.hi, b, -x);
+    const DoubleDouble difference = ExactSum(b, -a);
+    Estimate sum = long_sum ? LongSeries(difference, b, -x) : PowerSeries(difference.high, b, -x);
     sum.value *= std::exp(x);
-    if (!long_sum && difference.lo != 0) {
+    if (!long_sum && difference.low != 0) {
         // d ln 1F1 / d ln(b - a) is at most about |x|.
-        sum.error += std::fabs(difference.lo / difference.hi) * (std::fabs(x) < 1 ? std::fabs(x) : 1);
+        sum.error += std::fabs(difference.low / difference.high) * (std::fabs(x) < 1 ? std::fabs(x) : 1);
     }
     return sum;
-}
-
-// 2F0(p, q; ; z), down to its smallest term; the error is relative to 1.
-Estimate Divergent(double p, double q, double z) noexcept {
-    double sum = 1, term = 1, largest = 1, last = 1;
-    for (double n = 0; n < 500; n += 1) {
-        const double quotient = (p + n) * (q + n) / (n + 1) * z;
-        if (quotient == 0) {
-            last = 0;
-            break;
-        }
-        const double next = term * quotient, size = std::fabs(next);
-        if (p + n > 0 && q + n > 0 && size >= std::fabs(term)) {
-            last = std::fabs(term);
-            break;
-        }
-        if (size > 1e300) return {sum, kInf};
-        term = next;
-        sum += term;
-        last = size;
-        if (size > largest) largest = size;
-        if (size <= 0.25 * kEpsilon * std::fabs(sum) && p + n > 0 && q + n > 0) break;
-    }
-    return {sum, kEpsilon * largest + last};
 }
 
 // Abramowitz and Stegun 13.5.1: of
@@ -128,13 +88,13 @@ Estimate Divergent(double p, double q, double z) noexcept {
 Estimate Asymptotic(double a, double b, double x) noexcept {
     const double size = std::fabs(x);
     if (IsPole(a)) {
-        const Estimate sum = Divergent(a, a - b + 1, -1 / x);
+        const Estimate sum = DivergentSeries(a, a - b + 1, -1 / x);
         const double weight = GammaWeight(0, size, -a, b, 1, b - a, 1) * (x > 0 && std::fmod(a, 2) != 0 ? -1 : 1);
         return Judged(weight * sum.value, 0, kAsymptoticFactor * std::fabs(weight) * sum.error);
     }
     const double growing = GammaWeight(x, size, a - b, b, 1, a, 1);
     const double algebraic = GammaWeight(0, size, -a, b, 1, b - a, 1);
-    const Estimate sum = x > 0 ? Divergent(b - a, 1 - a, 1 / x) : Divergent(a, a - b + 1, -1 / x);
+    const Estimate sum = x > 0 ? DivergentSeries(b - a, 1 - a, 1 / x) : DivergentSeries(a, a - b + 1, -1 / x);
     const double weight = x > 0 ? growing : algebraic, other = x > 0 ? algebraic : growing;
     if (std::isinf(weight) && x > 0 && std::isfinite(other) && sum.error < 0.1) return {weight * sum.value, 0};
     return Judged(weight * sum.value, 0, kAsymptoticFactor * (std::fabs(weight) * sum.error + std::fabs(other)));
@@ -157,7 +117,7 @@ double AtInfinity(double x, double a, double b) noexcept {
 Estimate BestForm(double x, double a, double b) noexcept {
     const bool pole = IsPole(b);
     Estimate best{kNaN, kInf};
-    const bool transform_first = !pole && std::fabs(b - a) < 0.001 * std::fabs(a);
+    const bool transform_first = !pole && (std::fabs(b - a) < 0.001 * std::fabs(a) || IsPole(b - a));
     if (transform_first) {
         best = Transformed(a, b, x, false);
         if (best.Good()) return best;
@@ -165,7 +125,7 @@ Estimate BestForm(double x, double a, double b) noexcept {
     const bool asymptotic_first = !pole && std::fabs(x) >= 40;
     if (asymptotic_first) {
         best = Better(best, Asymptotic(a, b, x));
-        if (best.error <= kAsymptoticFactor * kGood) return best;
+        if (best.error <= kAsymptoticGood) return best;
     }
     best = Better(best, PowerSeries(a, b, x));
     if (best.Good()) return best;
@@ -173,10 +133,10 @@ Estimate BestForm(double x, double a, double b) noexcept {
     if (!transform_first) best = Better(best, Transformed(a, b, x, false));
     if (best.Good()) return best;
     if (!asymptotic_first) best = Better(best, Asymptotic(a, b, x));
-    if (best.error <= kAsymptoticFactor * kGood) return best;
+    if (best.error <= kAsymptoticGood) return best;
     best =
         Better(best, x > 0 || std::fabs(x) > kLargestExponent ? LongSeries({a, 0}, b, x) : Transformed(a, b, x, true));
-    if (best.error <= kAsymptoticFactor * kGood) return best;
+    if (best.error <= kAsymptoticGood) return best;
     return Better(best, x > 0 ? Transformed(a, b, x, true) : LongSeries({a, 0}, b, x));
 }
 
@@ -190,7 +150,7 @@ double SpecHyperg1F1(double x, double a, double b) noexcept {
     if (a == b) return std::exp(x);
     if (std::isinf(x)) return AtInfinity(x, a, b);
     const Estimate best = BestForm(x, a, b);
-    return best.error < kUseless ? best.value : kNaN;
+    return best.Usable();
 }
 
 }  // namespace quorvan

@@ -284,9 +284,14 @@ TEST(PeakDetect, FindsNothingInConstantsAndPassesByNan) {
     EXPECT_EQ(Found({0, 1, 0, kNaN, 0, 2, 0}, {3}), (Peaks{{1, 1, -2}, {5, 2, -4}}));
 }
 
-TEST(PeakDetect, KeepsNothingBehindTheLastBlock) {
+// The blocks that live when this thread has its state and no stream.
+long BlocksWithoutAStream() {
     Refused({0, 1, 0}, Stream(3, true, true));
-    const long live = LiveBlocks();
+    return LiveBlocks();
+}
+
+TEST(PeakDetect, KeepsNothingBehindTheLastBlock) {
+    const long live = BlocksWithoutAStream();
     Found({0, 1, 0}, Stream(3, true, false));
     EXPECT_EQ(LiveBlocks(), live + 2) << "a stream holds its state and its buffer";
     Found({0, 1, 0}, Stream(3, true, false));
@@ -296,7 +301,7 @@ TEST(PeakDetect, KeepsNothingBehindTheLastBlock) {
 }
 
 TEST(PeakDetect, RefusesAWidthAndReleasesTheStream) {
-    const long live = LiveBlocks();
+    const long live = BlocksWithoutAStream();
     for (Size width : {Size{2}, Size{0}, Size{-1}, kWidest + 1}) {
         Found({0, 1, 0}, Stream(3, true, false));
         EXPECT_EQ(Refused({0, 1, 0}, Stream(width, false, false)), -20061) << width;
@@ -307,7 +312,7 @@ TEST(PeakDetect, RefusesAWidthAndReleasesTheStream) {
 }
 
 TEST(PeakDetect, RefusesABlockShorterThanTheWidthAndReleasesTheStream) {
-    const long live = LiveBlocks();
+    const long live = BlocksWithoutAStream();
     EXPECT_EQ(Refused({0, 1}, Stream(3, true, false)), -20013);
     EXPECT_EQ(Refused({}, Stream(3, true, false)), -20013);
     EXPECT_EQ(LiveBlocks(), live);
@@ -320,7 +325,7 @@ TEST(PeakDetect, RefusesABlockShorterThanTheWidthAndReleasesTheStream) {
 }
 
 TEST(PeakDetect, RefusesALaterBlockWithoutAStreamOrWithAnotherWidth) {
-    const long live = LiveBlocks();
+    const long live = BlocksWithoutAStream();
     EXPECT_EQ(Refused({0, 1, 0}, Stream(3, false, false)), -20064);
     EXPECT_EQ(Refused({0, 1, 0}, Stream(3, false, true)), -20064);
     Found({0, 1, 0}, Stream(3, true, false));

@@ -2,48 +2,19 @@
 
     test_gamma.py LIBRARY    prints the measured errors, region by region, as the table of docs/accuracy.md
 
-Each region is a grid of points with the exact value beside each. The error is relative, or, where the function has zeros
-inside the region, relative to max(1, |value|) ("mixed"). Bounds come from counting roundings, in units of u = 2^-53; the
-comment beside a bound says which.
+Bounds come from counting roundings, in units of u = 2^-53; the comment beside a bound says which.
 """
 
 import math
-import pathlib
 import sys
-from dataclasses import dataclass
-from typing import Callable
 
 import mpmath
 import numpy as np
 import pytest
 import scipy.special
 
-U = 2.0**-53
-mpmath.mp.dps = 50
-
-
-def rng(seed):
-    return np.random.default_rng(seed)
-
-
-def grid(low, high, count=1500, seed=1):
-    """Even and random points of an interval, its ends and their neighbours."""
-    even = np.linspace(low, high, count // 2)
-    random = rng(seed).uniform(low, high, count // 2)
-    ends = [low, np.nextafter(low, high), high, np.nextafter(high, low)]
-    return np.unique(np.concatenate([even, random, ends]))
-
-
-def beside(points, reach=1e-1, least=1e-15):
-    """Points on both sides of each of the given ones, at distances from `least` to `reach`; not the points."""
-    offsets = np.geomspace(least, reach, 25)
-    all_points = np.concatenate([[p - offsets, p + offsets] for p in points]).ravel()
-    return np.setdiff1d(all_points, points)
-
-
-def logarithmic(low, high, count=800, seed=2):
-    return np.exp(rng(seed).uniform(math.log(low), math.log(high), count))
-
+import accuracy
+from accuracy import U, Region, address, beside, grid, logarithmic, pairs, rng
 
 # --- exact values ------------------------------------------------------------------------------------------------------
 
@@ -130,10 +101,6 @@ def exact_dilogarithm(x):
 # --- the functions through their numbers -------------------------------------------------------------------------------
 
 
-def address(x):
-    return np.array([x], dtype=np.float64)
-
-
 FUNCTIONS = {
     "SpecGamma": (lambda qv, x: qv.ZemFunc309(x, None), mpmath.gamma, scipy.special.gamma),
     "SpecGammaStirling": (lambda qv, x: qv.ZemFunc314(x), exact_stirling, None),
@@ -150,20 +117,6 @@ FUNCTIONS = {
     "SpecZeta": (lambda qv, x: qv.ZemFunc329(x), exact_zeta, scipy.special.zetac),
     "SpecDilogarithm": (lambda qv, x: qv.ZemFunc326(x), exact_dilogarithm, scipy.special.spence),
 }
-
-
-@dataclass
-class Region:
-    function: str
-    label: str
-    points: Callable          # an array of arguments, or of tuples of them
-    bound: float              # peak error, in units of u
-    mixed: bool = False
-    scipy: float = 0.0        # peak difference from SciPy in the same measure; 0: SciPy is no witness here
-
-
-def pairs(a, x):
-    return list(zip(a, x))
 
 
 def near_mean(low, high, spread, seed, count=150):
@@ -313,42 +266,9 @@ def skewed(exchanged):
     return [(a, b, t) for a, b, t in zip(small, large, x) if t < 1]
 
 
-@dataclass
-class Measured:
-    points: int
-    peak: float
-    rms: float
-    worst: tuple
-    scipy: float
-
-
-def measure(qv, which):
-    """Errors against mpmath, and the peak difference from SciPy. Values below 1e-290 count for nothing."""
-    call, exact, witness = FUNCTIONS[which.function]
-    errors, worst, apart = [], None, 0.0
-    for point in which.points():
-        args = tuple(float(v) for v in (point if isinstance(point, tuple) else (point,)))
-        truth = exact(*args)
-        if truth != 0 and abs(truth) < 1e-290:
-            continue
-        scale = max(1, abs(truth)) if which.mixed else abs(truth)
-        value = call(qv, *args)
-        assert math.isfinite(value), (which.label, args, value)
-        error = float(abs(mpmath.mpf(value) - truth) / (scale or 1))
-        if not errors or error > max(errors):
-            worst = args
-        errors.append(error)
-        if which.scipy:
-            apart = max(apart, float(abs(mpmath.mpf(value) - mpmath.mpf(float(witness(*args)))) / (scale or 1)))
-    assert len(errors) >= 5, which.label
-    return Measured(len(errors), max(errors), math.sqrt(np.mean(np.square(errors))), worst, apart)
-
-
 @pytest.mark.parametrize("which", REGIONS, ids=lambda r: f"{r.function} {r.label}")
 def test_peak_error_stays_within_its_bound(qv, which):
-    found = measure(qv, which)
-    assert found.peak <= which.bound * U, f"{found.peak:.3g} at {found.worst}"
-    assert found.scipy <= which.scipy, f"{found.scipy:.3g} from SciPy"
+    accuracy.check(qv, FUNCTIONS, which)
 
 
 def test_the_sums_of_positive_terms_are_the_functions_of_mpmath():
@@ -382,18 +302,5 @@ def test_uniform_expansions_meet_the_normal_limit_of_huge_parameters(qv):
             assert abs(qv.ZemFunc307(a, b, address(x)) - edgeworth) < 5 / min(a, b) + 16 * U
 
 
-def print_table(library):
-    sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2]))
-    import conftest
-
-    qv = conftest.load(library)
-    print("| function | region | points | peak | rms |")
-    print("|---|---|---|---|---|")
-    for which in REGIONS:
-        found = measure(qv, which)
-        label = which.label + (" *" if which.mixed else "")
-        print(f"| `{which.function}` | {label} | {found.points} | {found.peak:.1e} | {found.rms:.1e} |", flush=True)
-
-
 if __name__ == "__main__":
-    print_table(sys.argv[1])
+    accuracy.print_table(sys.argv[1], FUNCTIONS, REGIONS)
