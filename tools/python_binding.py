@@ -283,7 +283,7 @@ class Function:
                 self.results.append(Result("out", "NDArray[np.complex128]", f"complex128 array of shape {shape_tuple(a.shape)}",
                                            "the spectrum", f"rt.joined({spectrum[0]}_re, im_, {{out}})", True))
             elif a.direction == "handle":
-                optional = a.nullable and not export.name.endswith("Release")
+                optional = a.nullable and a.type == "FftPlan" and not export.name.endswith("Release")
                 kind = "Handle" if a.type == "block" else a.type
                 self.add(a, name, f"{kind} | None" if optional else kind, kind, "None" if optional else None)
                 self.call[a.name] = f'rt.handle({name}, "{a.type}")'

@@ -197,6 +197,22 @@ SELECTIONS = {
         "The algorithm of a general linear fit.",
         dict(SINGULAR_VALUES=0, QR=1, QR_GIVENS=2, QR_FAST_GIVENS=3, LU=4, CHOLESKY=5, TRUNCATED_SINGULAR_VALUES=6),
         [("FitGeneralLinear.*", "selector")], "SINGULAR_VALUES"),
+    "RemezKind": (
+        "What an equiripple design makes.",
+        dict(MULTIBAND=1, DIFFERENTIATOR=2, HILBERT=3),
+        [("FirRemezDesign", "kind")], "MULTIBAND"),
+    "RemezBandsKind": (
+        "What an equiripple design makes, where bands are records.",
+        dict(MULTIBAND=0, DIFFERENTIATOR=1, HILBERT=2),
+        [("FirRemezBands", "kind")], "MULTIBAND"),
+    "BoundsType": (
+        "The bounds of a fit: of the curve, or of the next observations.",
+        dict(CONFIDENCE=0, PREDICTION=1),
+        [("FitBounds.*", "type")], "CONFIDENCE"),
+    "RangeOf": (
+        "The coordinates whose range decides which samples stay.",
+        dict(Y=0, X=1, XY=2),
+        [("FitRemoveOutOfRange", "mode")], "Y"),
 }
 # Integers that are 0 or not: bool in Python.
 FLAGS = {"unwrap", "shift", "average", "wantVectors", "wantDerivatives", "economy", "reset", "first", "last", "percent",
@@ -240,6 +256,7 @@ DEFAULTS = {
     ("FitNonlinear.*", "limit"): "-1",
     ("FitLogarithm|FitBoundsLogarithm", "base"): "0.0",
     ("FitBounds.*", "level"): "0.95",
+    ("FirNarrowbandDesign", "center"): "0.0",
     ("Iir(Design|Coefficients).*|Fir(IdealResponse|DesignWindow|FilterWindow|FilterWindowComplex)", "fh"): "0.0",
 }
 
@@ -253,6 +270,7 @@ SHAPES = {
     ("Transform(Real|Complex)Fft2D", "out"): "(fftRows if fftRows > 0 else rows, fftCols if fftCols > 0 else cols)",
     ("Transform(ChirpZReal|ChirpZComplex|InverseChirpZ)", "out"): "(m if m > 0 else n,)",
     ("MatKronecker.*", "out"): "(rowsA * rowsB, colsA * colsB)",
+    ("FirNarrowbandFilter.*", "y"): "(filter.output_count(n),)",
 }
 # Integers that the caller need not tell: (export pattern, argument): Python text over the table's names.
 _COEFFICIENTS = "max(order, 0) * (2 if kind > 1 else 1) + 1"

@@ -68,6 +68,7 @@ def _copied(values, count):
     return np.ctypeslib.as_array(values, (count,)).copy() if count > 0 and values else np.empty(0)
 
 
+@offered("iir_state_complex_create")
 class IirStateComplex(Handle):
     """The delay lines that complex data needs beside a recursive filter."""
 
@@ -214,8 +215,18 @@ class FirNarrowband(Handle):
 
     def design(self, *arguments, **named):
         """Designs the filter by the arguments of `fir_narrowband_design`, and returns it."""
-        functions.fir_narrowband_design(*arguments, filter=self, **named)
+        fresh = functions.fir_narrowband_create()  # a design does not free the taps of one before
+        functions.fir_narrowband_design(*arguments, filter=fresh, **named)
+        self._pointer, fresh._pointer = fresh._pointer, self._pointer
+        fresh.close()
         return self
+
+    def output_count(self, n):
+        """How many samples come out for n samples."""
+        record = self._record
+        if record.factor <= 1:
+            return n + record.model_count - 1
+        return (record.model_count - 1) * record.factor + n + record.suppressor_count - 1
 
     def apply(self, x, *, out=None):
         """Filters a real or complex signal."""

@@ -6,7 +6,8 @@ __all__ = ["Window", "FirWindow", "FilterKind", "Method", "Normalisation", "Shap
            "SpectrumKind", "Display", "UnitFlags", "PhaseMode", "PeakPolarity", "LevelMethod", "EdgePolarity",
            "ToneOrder", "ToneSignal", "Difference", "QuadratureRule", "MatrixKind", "EigenKind", "MatrixNorm",
            "VectorNorm", "SpecialMatrix", "LagMethod", "SvdMode", "QrMethod", "PivotMode", "BalanceJob",
-           "Side", "EigenOrder", "RobustMethod", "PolynomialAlgorithm", "LinearAlgorithm"]
+           "Side", "EigenOrder", "RobustMethod", "PolynomialAlgorithm", "LinearAlgorithm", "RemezKind",
+           "RemezBandsKind", "BoundsType", "RangeOf"]
 
 
 class Window(enum.IntEnum):
@@ -304,3 +305,34 @@ class LinearAlgorithm(enum.IntEnum):
     LU = 4
     CHOLESKY = 5
     TRUNCATED_SINGULAR_VALUES = 6
+
+
+class RemezKind(enum.IntEnum):
+    """What an equiripple design makes."""
+
+    MULTIBAND = 1
+    DIFFERENTIATOR = 2
+    HILBERT = 3
+
+
+class RemezBandsKind(enum.IntEnum):
+    """What an equiripple design makes, where bands are records."""
+
+    MULTIBAND = 0
+    DIFFERENTIATOR = 1
+    HILBERT = 2
+
+
+class BoundsType(enum.IntEnum):
+    """The bounds of a fit: of the curve, or of the next observations."""
+
+    CONFIDENCE = 0
+    PREDICTION = 1
+
+
+class RangeOf(enum.IntEnum):
+    """The coordinates whose range decides which samples stay."""
+
+    Y = 0
+    X = 1
+    XY = 2
