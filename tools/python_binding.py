@@ -646,6 +646,7 @@ class Function:
         words = "\n".join(re.sub(r"[;,] null(:| writes| ).*", "", line) if line.startswith("    ") else line
                           for line in text)
         words = re.sub(r"\bQv([A-Z]\w+)", r"\1", words)
+        words = words.replace("a QV_WINDOW_ code", "a `Window`").replace("QV_WINDOW_...", "a `Window`")
         for a in export.arguments:
             if a.name != parameter_name(a.name):
                 words = re.sub(rf"\b{a.name}\b", parameter_name(a.name), words)
@@ -656,6 +657,8 @@ class Function:
     @staticmethod
     def wrapped(line):
         indent = " " * (len(line) - len(line.lstrip()))
+        if line.startswith(">>>"):
+            return [line]
         return textwrap.wrap(line.strip(), WIDTH, initial_indent=indent, subsequent_indent=indent,
                              break_long_words=False, break_on_hyphens=False) or [""]
 
@@ -676,6 +679,7 @@ class Function:
             names = ["value"]
         elif self.export.result.startswith("handle"):
             names = [re.sub(r"(?<!^)([A-Z])", r"_\1", self.returns).lower()]
+        names = names if len(names) < 4 else ["result"]
         return f"{', '.join(names)} = {call}" if names else call
 
     def text(self, names):

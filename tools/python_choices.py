@@ -234,6 +234,7 @@ DEFAULTS = {
     ("Peak.*", "last"): "True",
     ("DecimateContinuous.*", "offset"): "0",
     ("IntegrateSimpson|Differentiate", "initial|final"): "0.0",
+    ("InterpSplineSecondDerivatives", "first|last"): "1e30",
     ("DetectLevelCrossing", "hysteresis"): "0.0",
     ("Pulse.*", "bins"): "256",
     ("Pulse.*", "high"): "90.0",

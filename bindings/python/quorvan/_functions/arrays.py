@@ -962,7 +962,7 @@ def array_max_min(x):
 
     Example
     -------
-    >>> max, max_index, min, min_index = qv.array_max_min(x)
+    >>> result = qv.array_max_min(x)
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
@@ -1027,7 +1027,7 @@ def array_max_min_2d(x):
 
     Example
     -------
-    >>> max, max_row, max_col, min, min_row, min_col = qv.array_max_min_2d(x)
+    >>> result = qv.array_max_min_2d(x)
     """
     x = rt.array(x, rt.F8, 2, "x")
     rows = x.shape[0]

@@ -1047,7 +1047,7 @@ def balance(a, job=BalanceJob.BOTH, *, out=None):
 
     Example
     -------
-    >>> low, high, scale, balanced = qv.balance(a)
+    >>> result = qv.balance(a)
     """
     if rt.is_complex(a):
         return balance_complex(a=a, job=job, out=out)
@@ -1121,7 +1121,7 @@ def balance_complex(a, job=BalanceJob.BOTH, *, out=None):
 
     Example
     -------
-    >>> low, high, scale, balanced = qv.balance_complex(a)
+    >>> result = qv.balance_complex(a)
     """
     _out = rt.outs(out, 2, "balance_complex")
     a = rt.array(a, rt.C16, 2, "a")

@@ -583,7 +583,7 @@ def qz(a, b, sort=EigenOrder.AS_PRODUCED, *, out=None):
 
     Example
     -------
-    >>> s, t, q, z, alpha, beta, right, left = qv.qz(a, b)
+    >>> result = qv.qz(a, b)
     """
     if rt.is_complex(a, b):
         return qz_complex(a=a, b=b, sort=sort, out=out)
@@ -682,7 +682,7 @@ def qz_complex(a, b, sort=EigenOrder.AS_PRODUCED, *, out=None):
 
     Example
     -------
-    >>> s, t, q, z, alpha, beta, right, left = qv.qz_complex(a, b)
+    >>> result = qv.qz_complex(a, b)
     """
     _out = rt.outs(out, 8, "qz_complex")
     a = rt.array(a, rt.C16, 2, "a")

@@ -146,7 +146,7 @@ def jacobi_elliptic(u, m):
 
     Example
     -------
-    >>> sn, cn, dn, phi = qv.jacobi_elliptic(u, m)
+    >>> result = qv.jacobi_elliptic(u, m)
     """
     if rt.many(u, m):
         return rt.each(jacobi_elliptic, u, m)

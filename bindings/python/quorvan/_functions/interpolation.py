@@ -144,7 +144,7 @@ def interp_rational(x, y, point):
 _ZemFunc164 = rt.bind("ZemFunc164", "status", "pplddp")
 
 
-def interp_spline_second_derivatives(x, y, first, last, *, out=None):
+def interp_spline_second_derivatives(x, y, first=1e30, last=1e30, *, out=None):
     r"""The second derivatives of the interpolating cubic spline, for `interp_spline_evaluate`.
 
     At a natural end the second derivative is 0. One sample gives 0. On -20049 the array holds partial values.
@@ -155,9 +155,9 @@ def interp_spline_second_derivatives(x, y, first, last, *, out=None):
         the abscissas, ascending or descending
     y : array_like of float64, shape (n,)
         the ordinates
-    first : float
+    first : float, default 1e30
         the first derivative at the first sample; above 9.9e29: a natural end
-    last : float
+    last : float, default 1e30
         the first derivative at the last sample; above 9.9e29: a natural end
     out : array or None
         the array for `second`; an input, to work in place
@@ -180,7 +180,7 @@ def interp_spline_second_derivatives(x, y, first, last, *, out=None):
 
     Example
     -------
-    >>> second = qv.interp_spline_second_derivatives(x, y, first, last)
+    >>> second = qv.interp_spline_second_derivatives(x, y)
     """
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")

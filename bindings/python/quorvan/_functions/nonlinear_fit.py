@@ -375,8 +375,7 @@ def fit_nonlinear_weighted(x, y, model, coefficients, weights=None, limit=-1, *,
 
     Example
     -------
-    >>> fitted, coefficients, mean_squared_error, iterations = qv.fit_nonlinear_weighted(x, y, model,
-    coefficients)
+    >>> result = qv.fit_nonlinear_weighted(x, y, model, coefficients)
     """
     _out = rt.outs(out, 2, "fit_nonlinear_weighted")
     x = rt.array(x, rt.F8, 1, "x")
@@ -451,8 +450,7 @@ def fit_nonlinear_weighted_alias(x, y, model, coefficients, weights=None, limit=
 
     Example
     -------
-    >>> fitted, coefficients, mean_squared_error, iterations = qv.fit_nonlinear_weighted_alias(x, y, model,
-    coefficients)
+    >>> result = qv.fit_nonlinear_weighted_alias(x, y, model, coefficients)
     """
     _out = rt.outs(out, 2, "fit_nonlinear_weighted_alias")
     x = rt.array(x, rt.F8, 1, "x")

@@ -94,8 +94,7 @@ def pulse_parameters(x):
 
     Example
     -------
-    >>> amplitude, level90, level50, level10, top, base, overshoot, undershoot, delay, width, rise, fall, slew =
-    qv.pulse_parameters(x)
+    >>> result = qv.pulse_parameters(x)
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]

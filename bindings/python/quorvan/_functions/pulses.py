@@ -190,7 +190,7 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
 
     Example
     -------
-    >>> period, duration, duty, centre, low_out, mid_out, high_out = qv.pulse_cycle_timing(x)
+    >>> result = qv.pulse_cycle_timing(x)
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
@@ -301,7 +301,7 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
 
     Example
     -------
-    >>> mean, rms, start, end, low_out, mid_out, high_out = qv.pulse_cycle_average(x)
+    >>> result = qv.pulse_cycle_average(x)
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
@@ -426,8 +426,7 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
 
     Example
     -------
-    >>> slew, duration, first_time, second_time, low_out, mid_out, high_out, pre_undershoot, pre_overshoot,
-    post_undershoot, post_overshoot = qv.pulse_transition(x)
+    >>> result = qv.pulse_transition(x)
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]

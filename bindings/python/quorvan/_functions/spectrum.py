@@ -602,8 +602,7 @@ def network_analysis(stimulus, response, dt=1.0, *, out=None):
 
     Example
     -------
-    >>> cross_mag, cross_phase, transfer_mag, transfer_phase, coherence, impulse, df =
-    qv.network_analysis(stimulus, response)
+    >>> result = qv.network_analysis(stimulus, response)
     """
     _out = rt.outs(out, 6, "network_analysis")
     stimulus = rt.array(stimulus, rt.F8, 2, "stimulus")

@@ -111,7 +111,7 @@ def harmonic_analyzer(power, harmonics, window, fs, fundamental, fft_size=0, *, 
 
     Example
     -------
-    >>> amp, freq, thd, thd_plus_noise = qv.harmonic_analyzer(power, harmonics, window, fs, fundamental)
+    >>> result = qv.harmonic_analyzer(power, harmonics, window, fs, fundamental)
     """
     _out = rt.outs(out, 2, "harmonic_analyzer")
     power = rt.array(power, rt.F8, 1, "power")
@@ -188,7 +188,7 @@ def tone_harmonics(x, harmonics, fs, fundamental, *, out=None):
 
     Example
     -------
-    >>> amp, freq, thd, thd_plus_noise = qv.tone_harmonics(x, harmonics, fs, fundamental)
+    >>> result = qv.tone_harmonics(x, harmonics, fs, fundamental)
     """
     _out = rt.outs(out, 2, "tone_harmonics")
     x = rt.array(x, rt.F8, 1, "x")
@@ -325,7 +325,7 @@ def tone_single_real_ex(x, dt=1.0, search=None, mode=ToneSignal.RESIDUAL, *, out
 
     Example
     -------
-    >>> freq, amp, phase, out, out_dt, spectrum, f0, df = qv.tone_single_real_ex(x)
+    >>> result = qv.tone_single_real_ex(x)
     """
     if rt.is_complex(x, search):
         return tone_single_complex_ex(x=x, dt=dt, search=search, mode=mode, out=out)
@@ -484,7 +484,7 @@ def tone_multi_real_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=Tone
 
     Example
     -------
-    >>> freq, amp, phase, out, out_dt, spectrum, f0, df = qv.tone_multi_real_ex(x, max_tones)
+    >>> result = qv.tone_multi_real_ex(x, max_tones)
     """
     if rt.is_complex(x):
         return tone_multi_complex_ex(x=x, max_tones=max_tones, dt=dt, sort=sort, mode=mode, threshold=threshold,
@@ -630,7 +630,7 @@ def tone_single_complex_ex(x, dt=1.0, search=None, mode=ToneSignal.RESIDUAL, *, 
 
     Example
     -------
-    >>> freq, amp, phase, out, out_dt, spectrum, f0, df = qv.tone_single_complex_ex(x)
+    >>> result = qv.tone_single_complex_ex(x)
     """
     _out = rt.outs(out, 2, "tone_single_complex_ex")
     x = rt.array(x, rt.C16, 1, "x")
@@ -784,7 +784,7 @@ def tone_multi_complex_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=T
 
     Example
     -------
-    >>> freq, amp, phase, out, out_dt, spectrum, f0, df = qv.tone_multi_complex_ex(x, max_tones)
+    >>> result = qv.tone_multi_complex_ex(x, max_tones)
     """
     _out = rt.outs(out, 5, "tone_multi_complex_ex")
     x = rt.array(x, rt.C16, 1, "x")

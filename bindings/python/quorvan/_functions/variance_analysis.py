@@ -95,7 +95,7 @@ def anova_one_way(y, level, levels):
 
     Example
     -------
-    >>> ss_a, ms_a, f, significance, ss_error, ms_error, ss_total = qv.anova_one_way(y, level, levels)
+    >>> result = qv.anova_one_way(y, level, levels)
     """
     y = rt.array(y, rt.F8, 1, "y")
     level = rt.array(level, rt.I8, 1, "level")
@@ -182,7 +182,7 @@ def anova_two_way(y, level_a, level_b, per_cell, levels_a, levels_b, *, out=None
 
     Example
     -------
-    >>> table, sig_a, sig_b, sig_ab = qv.anova_two_way(y, level_a, level_b, per_cell, levels_a, levels_b)
+    >>> result = qv.anova_two_way(y, level_a, level_b, per_cell, levels_a, levels_b)
     """
     y = rt.array(y, rt.F8, 1, "y")
     level_a = rt.array(level_a, rt.I8, 1, "level_a")
@@ -283,8 +283,7 @@ def anova_three_way(y, level_a, level_b, level_c, per_cell, levels_a, levels_b, 
 
     Example
     -------
-    >>> table, sig_a, sig_b, sig_c, sig_ab, sig_ac, sig_bc, sig_abc = qv.anova_three_way(y, level_a, level_b,
-    level_c, per_cell, levels_a, levels_b, levels_c)
+    >>> result = qv.anova_three_way(y, level_a, level_b, level_c, per_cell, levels_a, levels_b, levels_c)
     """
     y = rt.array(y, rt.F8, 1, "y")
     level_a = rt.array(level_a, rt.I8, 1, "level_a")

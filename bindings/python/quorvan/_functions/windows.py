@@ -1730,7 +1730,7 @@ def window_apply_symmetric(x, window, parameter=0.0, *, out=None):
     x : array_like of float64, shape (n,)
         data
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
@@ -1779,7 +1779,7 @@ def window_apply_symmetric_complex(x, window, parameter=0.0, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
@@ -1837,7 +1837,7 @@ def window_apply_scaled(x, window, parameter=0.0, *, out=None):
     x : array_like of float64, shape (n,)
         data
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
@@ -1897,7 +1897,7 @@ def window_apply_scaled_complex(x, window, parameter=0.0, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
@@ -1955,7 +1955,7 @@ def window_apply_scaled_plain(x, window, *, out=None):
     x : array_like of float64, shape (n,)
         data
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
     out : array or None
         the array for `x`; an input, to work in place
 
@@ -2007,7 +2007,7 @@ def window_properties(n, window, parameter=0.0):
     n : int
         samples
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
 
@@ -2048,7 +2048,7 @@ def window_properties_fixed(window):
     Parameters
     ----------
     window : Window, its name, or int
-        QV_WINDOW_...
+        a `Window`
 
     Returns
     -------
