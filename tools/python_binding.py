@@ -143,6 +143,14 @@ def shown(shape):
     return re.sub(r"rt\.remainder\(([^,()]+), ([^,()]+)\)", r"\1 % \2", text)
 
 
+def translated(words, names, own=None):
+    """A text of the table in Python's names; an export's own name stays."""
+    words = re.sub(r"\bQv([A-Z]\w+)", r"\1", words)
+    words = words.replace("the QV_WINDOW_... constants of quorvan/types.h", "those of `Window`")
+    words = words.replace("a QV_WINDOW_ code", "a `Window`").replace("QV_WINDOW_...", "a `Window`")
+    return re.sub(r"\b[A-Z][A-Za-z0-9]+\b", lambda m: f"`{names[m[0]]}`" if m[0] in names and m[0] != own else m[0], words)
+
+
 # --- The model of a function -----------------------------------------------------------------------------------------
 
 
@@ -245,7 +253,8 @@ class Function:
 
     def add(self, a, name, type, words, default=None, meaning=None):
         told = chosen(choices.DEFAULTS, self.export, a)
-        self.parameters.append(Parameter(name, type, words, a.meaning if meaning is None else meaning,
+        meaning = (a.meaning if meaning is None else meaning) or choices.MEANINGS.get(a.name, "")
+        self.parameters.append(Parameter(name, type, words, meaning,
                                          default if told is None else told, a))
 
     def take_array(self, a, name):
@@ -427,7 +436,7 @@ class Function:
         self.call[a.name] = f"rt.pointer({name}_)"
         kind = f"NDArray[{NUMPY[dtype]}]" + (" | None" if optional else "")
         said = re.split(r", then |; becomes |in: .*; out: ", a.meaning)
-        self.results.append(Result(name, kind, f"{WORDS[dtype]} array of shape {shown(shape)}",
+        self.results.append(Result(name, kind, f"{WORDS[dtype]} array of {'at most ' if first else ''}shape {shown(shape)}",
                                    said[1] if len(said) > 1 else "the result", value, True))
 
     def array_out(self, a, late):
@@ -444,6 +453,7 @@ class Function:
         first = chosen(choices.FIRST, export, a)
         if first:
             value = f"rt.first({value}, {parameter_name(first)}_.value)"
+        words = f"{WORDS[dtype]} array of {'at most ' if first else ''}shape {shown(shape)}"
         kind, flag = f"NDArray[{NUMPY[dtype]}]", choices.WITH.get(a.name)
         flag = flag if a.nullable and flag in {b.name for b in export.arguments} else None
         if flag:
@@ -452,7 +462,7 @@ class Function:
             kind += " | None"
         late.append(f"{name}_ = {line}#{name}")
         self.call[a.name] = f"rt.pointer({name}_)"
-        self.results.append(Result(name, kind, f"{WORDS[dtype]} array of shape {shown(shape)}", a.meaning, value, True))
+        self.results.append(Result(name, kind, words, a.meaning, value, True))
 
     def scalar_out(self, a, name, late):
         late.append(f"{name}_ = {CTYPES[a.type]}()")
@@ -608,7 +618,7 @@ class Function:
     def documentation(self, names):
         export = self.export
         sentences = re.sub(r"A null [^.]*\. ?", "", " ".join(export.sentences)).strip()
-        head, _, rest = (re.split(r"(?<=[a-z0-9)\]])\.( )(?=[A-Z])", sentences, 1) + ["", ""])[:3]
+        head, _, rest = (re.split(r"(?<![. ])(?<![ (][A-Z])\.( )(?=[A-Z])", sentences, 1) + ["", ""])[:3]
         text = [head.rstrip(".") + ".", ""]
         if rest:
             text += [rest, ""]
@@ -645,13 +655,10 @@ class Function:
         text += ["Example", "-------", f">>> {self.example()}"]
         words = "\n".join(re.sub(r"[;,] null(:| writes| ).*", "", line) if line.startswith("    ") else line
                           for line in text)
-        words = re.sub(r"\bQv([A-Z]\w+)", r"\1", words)
-        words = words.replace("a QV_WINDOW_ code", "a `Window`").replace("QV_WINDOW_...", "a `Window`")
+        words = translated(words, names, export.name)
         for a in export.arguments:
             if a.name != parameter_name(a.name):
                 words = re.sub(rf"\b{a.name}\b", parameter_name(a.name), words)
-        words = re.sub(r"\b[A-Z][A-Za-z0-9]+\b", lambda m: f"`{names[m[0]]}`" if m[0] in names and
-                       m[0] != export.name else m[0], words)
         return [piece for line in words.split("\n") for piece in self.wrapped(line)]
 
     @staticmethod
@@ -758,7 +765,7 @@ def aliases(made):
 
 def family_module(family, own, names, made):
     text = [f'"""{family.title}.', ""]
-    text += textwrap.wrap(" ".join(family.intro), WIDTH)
+    text += textwrap.wrap(translated(" ".join(family.intro), names), WIDTH)
     text += ["", GENERATED, '"""', "", "import ctypes", "from typing import NamedTuple", "", "import numpy as np", "",
              "from .. import _runtime as rt", "from .._selections import *", ""]
     text += ["_max, _min = max, min", "", ""]

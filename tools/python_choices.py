@@ -261,6 +261,10 @@ DEFAULTS = {
     ("Iir(Design|Coefficients).*|Fir(IdealResponse|DesignWindow|FilterWindow|FilterWindowComplex)", "fh"): "0.0",
 }
 
+# What an argument means where the table thinks it too plain to say.
+MEANINGS = {"x": "the samples", "dt": "time between samples",
+            "n": "the number of elements", "maxTones": "the number of tones at most", "weights": "weights of the samples"}
+
 # --- Shapes --------------------------------------------------------------------------------------------------------
 # Outputs whose shape the table tells in words, as Python tuples over the table's names.
 _CONVOLUTION_2D = ("(rows1, cols1) if shape == 1 else (rows1 - rows2 + 1, cols1 - cols2 + 1) if shape == 2 "

@@ -66,6 +66,7 @@ def test_warnings_can_be_made_errors():
     (lambda: qv.array_add(X, X, out=np.empty(1000, np.float32)), TypeError),
     (lambda: qv.array_add(X, X, out=[0.0] * 1000), TypeError),
     (lambda: qv.histogram(X, -1, 1, 10, out=np.empty(10)), TypeError),
+    (lambda: qv.amplitude_phase(X, out=(np.empty(1000)[:500],) * 2), ValueError),
     (lambda: qv.peak_threshold_runs(X, 0.5, 0), ZeroDivisionError),
     (lambda: qv.matrix_multiply(np.ones((2, 3)), np.ones((2, 3))), ValueError),
     (lambda: qv.solve(np.ones((2, 3)), [1.0, 2.0]), ValueError),

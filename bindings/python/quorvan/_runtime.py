@@ -214,6 +214,9 @@ def outs(out, count, function):
         return (None,) * count
     if not isinstance(out, (tuple, list)) or len(out) != count:
         raise TypeError(f"{function}: out is a tuple of {count}, with None for an array to be made")
+    given = [o for o in out if isinstance(o, np.ndarray)]
+    if any(np.may_share_memory(a, b) for i, a in enumerate(given) for b in given[:i]):
+        raise ValueError(f"{function}: two arrays of out share their memory")
     return out
 
 

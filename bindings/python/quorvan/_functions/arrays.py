@@ -3,9 +3,9 @@
 Operations on arrays of doubles: filling, moving, arithmetic, sums, extremes, scaling and sorting. A 2-D array
 is row-major without gaps; its functions run over rows * cols elements, a count that is formed in 32 bits and
 wraps: 65536 rows of 65537 columns are 65536 elements, and a count that wraps below 1 is refused. An output
-may be the same array as an input. Other overlaps work only where elements are just moved: in ArrCopy,
-ArrSubset and ArrShift. NaN and infinity pass through arithmetic; searches ignore NaN. On an error nothing is
-written, except in ArrDivide.
+may be the same array as an input. Other overlaps work only where elements are just moved: in `array_copy`,
+`array_subset` and `array_shift`. NaN and infinity pass through arithmetic; searches ignore NaN. On an error
+nothing is written, except in `array_divide`.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -768,7 +768,9 @@ _ZemFunc1 = rt.bind("ZemFunc1", "status", "plp")
 
 
 def array_abs(x, *, out=None):
-    r"""Clears the sign of every element, out[i] = |x[i]|. That of NaN too.
+    r"""Clears the sign of every element, out[i] = |x[i]|.
+
+    That of NaN too.
 
     Parameters
     ----------

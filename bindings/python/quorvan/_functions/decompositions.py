@@ -287,10 +287,10 @@ class SvdModeResult(NamedTuple):
 
 
 def svd_mode(a, mode=SvdMode.FULL, *, out=None):
-    r"""The singular value decomposition A = U diag(s) V^T. With U or V null only the singular values are computed,
-    whatever the mode.
+    r"""The singular value decomposition A = U diag(s) V^T.
 
-    By divide and conquer (Gu and Eisenstat, 1995). An output may be the input itself.
+    With U or V null only the singular values are computed, whatever the mode. By divide and conquer (Gu and
+    Eisenstat, 1995). An output may be the input itself.
 
     Parameters
     ----------
@@ -356,10 +356,10 @@ class SvdModeComplexResult(NamedTuple):
 
 
 def svd_mode_complex(a, mode=SvdMode.FULL, *, out=None):
-    r"""The singular value decomposition A = U diag(s) V^H. With U or V null only the singular values are computed,
-    whatever the mode.
+    r"""The singular value decomposition A = U diag(s) V^H.
 
-    By divide and conquer (Gu and Eisenstat, 1995). An output may be the input itself.
+    With U or V null only the singular values are computed, whatever the mode. By divide and conquer (Gu and
+    Eisenstat, 1995). An output may be the input itself.
 
     Parameters
     ----------

@@ -42,6 +42,7 @@ def erf(x):
     Parameters
     ----------
     x : float
+        the samples
 
     Returns
     -------
@@ -76,6 +77,7 @@ def erfc(x):
     Parameters
     ----------
     x : float
+        the samples
 
     Returns
     -------
@@ -267,6 +269,7 @@ def chi_square_cdf(x, dof):
     Parameters
     ----------
     x : float
+        the samples
     dof : int
         degrees of freedom; 0 is allowed and gives NaN above 0
 
@@ -353,6 +356,7 @@ def f_cdf(x, dof1, dof2):
     Parameters
     ----------
     x : float
+        the samples
     dof1 : int
         degrees of freedom of the numerator
     dof2 : int

@@ -303,7 +303,9 @@ _ZemFunc323 = rt.bind("ZemFunc323", "double", "d")
 
 def cosine_integral(x):
     r"""Ci(x) = gamma + ln|x| + the integral of (cos(t) - 1)/t from 0 to x. -Inf at 0; at negative x the real part,
-    the value at |x|. Rational forms with cuts at 4 and 8, sin(x)/x above 1e9 (Moshier 1989, sici).
+    the value at |x|.
+
+    Rational forms with cuts at 4 and 8, sin(x)/x above 1e9 (Moshier 1989, sici).
 
     Parameters
     ----------
@@ -365,7 +367,9 @@ _ZemFunc324 = rt.bind("ZemFunc324", "double", "d")
 
 def hyperbolic_cosine_integral(x):
     r"""Chi(x) = gamma + ln|x| + the integral of (cosh(t) - 1)/t from 0 to x. -Inf at 0, +Inf above |x| = 88; at
-    negative x the value at |x|. Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
+    negative x the value at |x|.
+
+    Power series up to 8, Chebyshev sums above (Moshier 1989, shichi).
 
     Parameters
     ----------

@@ -3,10 +3,10 @@
 A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay
 lines of its stages behind it in the same block of memory. It is created, designed (see the designs of the
 family below), and then applied to any number of blocks: the delay lines carry over, and a signal that is cut
-into blocks comes out as it would in one piece, to the last bit. MemoryRelease gives the object back. A stage
-with the coefficients a and b and the delay line d turns the sample v into v' = t b[0] + b[1] d[0] + b[2] d[1]
-+ ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line (direct form II; sums from the
-left). What enters a delay line or leaves the last stage becomes 0 where its magnitude is
+into blocks comes out as it would in one piece, to the last bit. `memory_release` gives the object back. A
+stage with the coefficients a and b and the delay line d turns the sample v into v' = t b[0] + b[1] d[0] +
+b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line (direct form II; sums
+from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude is
 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals. An
 object belongs to one thread at a time.
 

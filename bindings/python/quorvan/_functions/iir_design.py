@@ -229,10 +229,10 @@ _ZemFunc24 = rt.bind("ZemFunc24", "status", "ddddp")
 
 
 def iir_design_chebyshev(fs, fl, ripple, filter, fh=0.0):
-    r"""Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB. Writes the coefficients
-    and nothing else: the delay lines go on, unless the filter is reset.
+    r"""Designs a Chebyshev filter, of equal ripple in the passband, whose peaks are at 0 dB.
 
-    After an error they are unchanged.
+    Writes the coefficients and nothing else: the delay lines go on, unless the filter is reset. After an error
+    they are unchanged.
 
     Parameters
     ----------

@@ -45,7 +45,7 @@ def peak_threshold_runs(x, threshold, width, *, out=None):
 
     Returns
     -------
-    indices : int64 array of shape (n // width + 1,)
+    indices : int64 array of at most shape (n // width + 1,)
         the first samples of the runs, as many as count tells
 
     Raises
@@ -101,7 +101,7 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
 
     Returns
     -------
-    indices : int64 array of shape (n // width + 1,)
+    indices : int64 array of at most shape (n // width + 1,)
         the first samples of the runs, as many as count tells
 
     Raises

@@ -9,7 +9,7 @@ otherwise. A mode is given as the centre of its bin. References go in as high, m
 percent of the amplitude above the low level. Percent are converted in place, and the absolute levels come out
 once more as low, mid, high, after every error but -20046, -20317 and -20001. The method is looked at only
 where levels are measured. Polarity: 0 falling, 1 rising. The warning 20021 tells of a mode with less than 5
-percent of the samples; it has no text in StatusMessage. Statuses are tested in the order in which they are
+percent of the samples; it has no text in `status_message`. Statuses are tested in the order in which they are
 listed. Behind -20001, outputs that an error leaves without a value are 0; before it nothing is written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.

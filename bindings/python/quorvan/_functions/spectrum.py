@@ -225,6 +225,7 @@ def cross_power(x, y, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     y : array_like of float64, shape (n,)
     out : array or None
         the array for `out`; an input, to work in place
@@ -281,6 +282,7 @@ def amplitude_phase(x, unwrap=False, dt=1.0, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     unwrap : bool, default False
         other than 0: the phases are unwrapped as by `unwrap_radians`
     dt : float, default 1.0
@@ -339,6 +341,7 @@ def power_spectrum(x, dt=1.0, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     dt : float, default 1.0
         time between samples
     out : array or None
@@ -391,6 +394,7 @@ def cross_power_polar(x, y, dt=1.0, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     y : array_like of float64, shape (n,)
     dt : float, default 1.0
         time between samples
@@ -862,6 +866,7 @@ def ac_dc_estimate(x):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
 
     Returns
     -------

@@ -40,6 +40,7 @@ def mean(x):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
 
     Returns
     -------
@@ -76,6 +77,7 @@ def rms(x):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
 
     Returns
     -------
@@ -114,6 +116,7 @@ def rms_complex(x):
     Parameters
     ----------
     x : array_like of complex128, shape (n,)
+        the samples
 
     Returns
     -------
@@ -160,6 +163,7 @@ def mean_variance(x):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
 
     Returns
     -------
@@ -206,6 +210,7 @@ def mean_std_dev(x):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
 
     Returns
     -------
@@ -245,6 +250,7 @@ def moment(x, order):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     order : int
         taken as a signed number
 
@@ -287,6 +293,7 @@ def median(x):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
 
     Returns
     -------
@@ -337,6 +344,7 @@ def histogram(x, base, top, intervals, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     base : float
         lower end of the first bin, in the unit of x
     top : float
@@ -389,6 +397,7 @@ def mode_of_histogram(x, base, top, intervals):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     base : float
         lower end of the first bin, in the unit of x
     top : float
@@ -438,13 +447,14 @@ def modes(x, intervals=0, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     intervals : int, default 0
     out : array or None
         the array for `modes`; an input, to work in place
 
     Returns
     -------
-    modes : float64 array of shape (count,)
+    modes : float64 array of at most shape (count,)
         in the unit of x
 
     Raises

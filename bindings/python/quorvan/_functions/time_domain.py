@@ -301,7 +301,7 @@ def decimate_continuous(x, factor, average=False, offset=0, reset=True, *, out=N
 
     Returns
     -------
-    x : float64 array of shape (n,)
+    x : float64 array of at most shape (n,)
         the result
 
     Raises
@@ -359,7 +359,7 @@ def decimate_continuous_complex(x, factor, average=False, offset=0, reset=True, 
 
     Returns
     -------
-    x : complex128 array of shape (n,)
+    x : complex128 array of at most shape (n,)
         the result
 
     Raises

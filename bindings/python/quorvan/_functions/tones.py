@@ -152,6 +152,7 @@ def tone_harmonics(x, harmonics, fs, fundamental, *, out=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     harmonics : int
         how many, the fundamental included; below 1: all up to fs/2, n at most
     fs : float
@@ -225,7 +226,9 @@ def tone_single_real(x, dt=1.0, search=None):
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     dt : float, default 1.0
+        time between samples
     search : array_like of float64, shape (2,), default None
         a centre in the unit of 1/dt and a half-width in percent of the sampling rate
 
@@ -287,7 +290,9 @@ def tone_single_real_ex(x, dt=1.0, search=None, mode=ToneSignal.RESIDUAL, *, out
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     dt : float, default 1.0
+        time between samples
     search : array_like of float64, shape (2,), default None
         as for `tone_single_real`
     mode : ToneSignal, its name, or int, default ToneSignal.RESIDUAL
@@ -371,8 +376,11 @@ def tone_multi_real(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, threshold=0.
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     max_tones : int
+        the number of tones at most
     dt : float, default 1.0
+        time between samples
     sort : ToneOrder, its name, or int, default ToneOrder.FREQUENCY
         1: by falling amplitude; any other: by rising frequency
     threshold : float, default 0.0
@@ -382,9 +390,9 @@ def tone_multi_real(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, threshold=0.
 
     Returns
     -------
-    freq : float64 array of shape (max_tones,)
-    amp : float64 array of shape (max_tones,)
-    phase : float64 array of shape (max_tones,)
+    freq : float64 array of at most shape (max_tones,)
+    amp : float64 array of at most shape (max_tones,)
+    phase : float64 array of at most shape (max_tones,)
 
     Raises
     ------
@@ -442,8 +450,11 @@ def tone_multi_real_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=Tone
     Parameters
     ----------
     x : array_like of float64, shape (n,)
+        the samples
     max_tones : int
+        the number of tones at most
     dt : float, default 1.0
+        time between samples
     sort : ToneOrder, its name, or int, default ToneOrder.FREQUENCY
         1: by falling amplitude; any other: by rising frequency
     mode : ToneSignal, its name, or int, default ToneSignal.RESIDUAL
@@ -455,9 +466,9 @@ def tone_multi_real_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=Tone
 
     Returns
     -------
-    freq : float64 array of shape (max_tones,)
-    amp : float64 array of shape (max_tones,)
-    phase : float64 array of shape (max_tones,)
+    freq : float64 array of at most shape (max_tones,)
+    amp : float64 array of at most shape (max_tones,)
+    phase : float64 array of at most shape (max_tones,)
     out : float64 array of shape (n,)
         the signal that the mode tells
     out_dt : float
@@ -530,7 +541,9 @@ def tone_single_complex(x, dt=1.0, search=None):
     Parameters
     ----------
     x : array_like of complex128, shape (n,)
+        the samples
     dt : float, default 1.0
+        time between samples
     search : array_like of float64, shape (2,), default None
         a centre in the unit of 1/dt and a half-width in percent of the sampling rate
 
@@ -591,7 +604,9 @@ def tone_single_complex_ex(x, dt=1.0, search=None, mode=ToneSignal.RESIDUAL, *, 
     Parameters
     ----------
     x : array_like of complex128, shape (n,)
+        the samples
     dt : float, default 1.0
+        time between samples
     search : array_like of float64, shape (2,), default None
         as for `tone_single_complex`
     mode : ToneSignal, its name, or int, default ToneSignal.RESIDUAL
@@ -671,8 +686,11 @@ def tone_multi_complex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, threshold
     Parameters
     ----------
     x : array_like of complex128, shape (n,)
+        the samples
     max_tones : int
+        the number of tones at most
     dt : float, default 1.0
+        time between samples
     sort : ToneOrder, its name, or int, default ToneOrder.FREQUENCY
         1: by falling amplitude; any other: by rising frequency
     threshold : float, default 0.0
@@ -682,10 +700,10 @@ def tone_multi_complex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, threshold
 
     Returns
     -------
-    freq : float64 array of shape (max_tones,)
-    amp : float64 array of shape (max_tones,)
+    freq : float64 array of at most shape (max_tones,)
+    amp : float64 array of at most shape (max_tones,)
         twice the moduli of the exponentials
-    phase : float64 array of shape (max_tones,)
+    phase : float64 array of at most shape (max_tones,)
 
     Raises
     ------
@@ -741,8 +759,11 @@ def tone_multi_complex_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=T
     Parameters
     ----------
     x : array_like of complex128, shape (n,)
+        the samples
     max_tones : int
+        the number of tones at most
     dt : float, default 1.0
+        time between samples
     sort : ToneOrder, its name, or int, default ToneOrder.FREQUENCY
         1: by falling amplitude; any other: by rising frequency
     mode : ToneSignal, its name, or int, default ToneSignal.RESIDUAL
@@ -754,10 +775,10 @@ def tone_multi_complex_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=T
 
     Returns
     -------
-    freq : float64 array of shape (max_tones,)
-    amp : float64 array of shape (max_tones,)
+    freq : float64 array of at most shape (max_tones,)
+    amp : float64 array of at most shape (max_tones,)
         twice the moduli of the exponentials
-    phase : float64 array of shape (max_tones,)
+    phase : float64 array of at most shape (max_tones,)
     out : complex128 array of shape (n,)
         the signal that the mode tells
     out_dt : float

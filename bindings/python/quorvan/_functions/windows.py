@@ -2,9 +2,8 @@
 
 Windows multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
 Most are periodic: w[k] = w[n - k], and w[0] would be the first sample of the next period. The symmetric form,
-for filter design, is WinApplySymmetric. Codes are the QV_WINDOW_... constants of quorvan/types.h. The cosine
-sums take one sine for each coefficient and a rotation for each pair of samples. After an error the data are
-unchanged.
+for filter design, is `window_apply_symmetric`. Codes are those of `Window`. The cosine sums take one sine for
+each coefficient and a rotation for each pair of samples. After an error the data are unchanged.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
