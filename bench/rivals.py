@@ -29,6 +29,9 @@ WINDOW_SIZES = (256, 4096, 65536)
 FILTER_ORDERS = (2, 4, 8, 12, 16, 20)
 FILTER_BLOCKS = (64, 1024, 16384, 1048576)
 PEAK_SIZES = (1000, 100000, 1000000)
+FIR_SIZES = ((1000, 31), (10000, 101), (100000, 31), (100000, 301), (1000000, 101))
+MEDIAN_SIZES = ((1000, 2), (100000, 2), (100000, 10), (100000, 50))
+EXCHANGE_TAPS = (31, 101, 201, 401)
 
 
 @dataclass
@@ -289,6 +292,39 @@ def random_cases(library, generator):
             same = ("sorted(kept) == sorted(out)" if mean is None else
                     f"abs(kept.mean() - {mean}) < 5 * {deviation} / n**0.5 > abs(out.mean() - {mean})")
             yield Case(f"random_{name}", str(n), call, legacy if generator == "legacy" else new, names, same)
+
+
+def fir_cases(library):
+    """Filtering with given taps beside lfilter; design and filtering in one call beside fftconvolve, whose taps are made
+    beforehand; medians; the exchange. Names are those of bench/fir_bench.cpp."""
+    direct, window = library.call(352, "pippcp"), library.call(481, "picddcdp")
+    for n, taps in FIR_SIZES:
+        x, h, out = noise(n, 1), scipy.signal.firwin(taps, 0.1, window="hamming", scale=False, fs=1.0), aligned(n)
+        state, longer = np.zeros(taps - 1), aligned(n + taps - 1)
+        names = dict(f=direct, x=x, h=h, out=out, n=n, taps=taps, px=address(x), ph=address(h), pout=address(out),
+                     ps=address(state), state=state, lfilter=scipy.signal.lfilter)
+        yield Case("fir_direct", f"{n}x{taps}", "state.fill(0); f(px, n, ph, ps, taps, pout)", "lfilter(h, 1.0, x)", names,
+                   "numpy.allclose(kept, lfilter(h, 1.0, x), rtol=0, atol=1e-12)")
+        names = dict(f=window, x=x, h=h, out=longer, n=n, taps=taps, px=address(x), pout=address(longer),
+                     fftconvolve=scipy.signal.fftconvolve)
+        yield Case("fir_window", f"{n}x{taps}", "f(px, n, taps, 1.0, 0.1, 2, 0.0, pout)", "fftconvolve(x, h)", names,
+                   "numpy.allclose(kept, fftconvolve(x, h), rtol=0, atol=1e-12)")
+    median = library.call(407, "piccp")
+    for n, rank in MEDIAN_SIZES:
+        x, out = noise(n, 1), aligned(n)
+        names = dict(f=median, x=x, out=out, n=n, rank=rank, px=address(x), pout=address(out),
+                     medfilt=scipy.signal.medfilt)
+        yield Case("median", f"{n}x{2 * rank + 1}", "f(px, n, rank, -1, pout)", "medfilt(x, 2 * rank + 1)", names,
+                   "numpy.array_equal(kept, medfilt(x, 2 * rank + 1))")
+    exchange = library.call(69, "dddcpp")
+    for taps in EXCHANGE_TAPS:
+        out, delta = aligned(taps), np.zeros(1)
+        names = dict(f=exchange, out=out, taps=taps, width=4.0 / taps, pout=address(out), pdelta=address(delta),
+                     remez=scipy.signal.remez)
+        yield Case("exchange", str(taps), "f(1.0, 0.2, 0.2 + width, taps, pout, pdelta)",
+                   "remez(taps, [0, 0.2, 0.2 + width, 0.5], [1, 0], fs=1.0, maxiter=99)", names,
+                   "numpy.allclose(kept, remez(taps, [0, 0.2, 0.2 + width, 0.5], [1, 0], fs=1.0, maxiter=99), rtol=0, "
+                   "atol=1e-12)")
 
 
 # Name, interval, Quorvan's value at x, SciPy's statement.

@@ -2372,6 +2372,1099 @@ QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, Q
 
 /** @} */
 
+/** @defgroup fir_equiripple Equiripple FIR design
+ * Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the Remez
+ * exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner, IEEE Trans.
+ * Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs.
+ * Multiband filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error
+ * reaches plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written.
+ * A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirRemezDesign.
+ * Designs a filter for any number of bands.
+ * Multiband filters and differentiators begin at 0; filters end at fs/2, Hilbert transformers leave out 0. Antisymmetric
+ * filters of odd length are zero at fs/2 and must end before: by 0.01 or 0.001 in the unit of fs. A slope below 0.0001
+ * has its absolute error weighted.
+ * @param bands the number of bands
+ * @param desired read, [bands]: the gain of each band; for a differentiator the slope over f/fs
+ * @param weights read, [bands]: the weight of each band's error; for a differentiator of the relative error
+ * @param fs the sampling rate
+ * @param edges read, [2 * bands]: lower and upper edge of each band, ascending
+ * @param kind 1 multiband filter, 2 differentiator, 3 Hilbert transformer; others antisymmetric, without checks
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20003 bands is below 1
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative
+ * @retval -20031 a weight or gain is not finite
+ * @retval -20023 a weight is not above 0 or a gain is negative
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20023 the edges do not ascend
+ * @retval -20031 the first or last edge is not what the kind wants
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 an antisymmetric filter has 3 taps, or a Hilbert transformer less than 6
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * double gain[2] = {1, 0}, weight[2] = {1, 10}, edges[4] = {0, 100, 150, 500}, h[41], delta;
+ * QvFirRemezDesign(2, gain, weight, 1000.0, edges, 1, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc65(int32_t bands, const double* desired, const double* weights, double fs, const double* edges, int32_t kind, int32_t taps, double* h, double* delta);
+#define QvFirRemezDesign ZemFunc65
+
+/**
+ * FirRemezBands.
+ * FirRemezDesign with a record for each band, and kinds that count from 0.
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param bands read, [count]: gain, lower edge, upper edge and weight of each band
+ * @param count the number of bands
+ * @param kind 0 multiband filter, 1 differentiator, 2 Hilbert transformer
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3, count is below 1, or a value of a record is infinite
+ * @retval -20001 memory is exhausted
+ * @retval -20023 as FirRemezDesign, which also refuses NaN (-20031)
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 the design is refused or fails, as in FirRemezDesign
+ */
+QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t count, int32_t kind, double* h, double* delta);
+#define QvFirRemezBands ZemFunc408
+
+/**
+ * FirRemezLowpass.
+ * A lowpass with equal weights.
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * QvFirRemezLowpass(1000.0, 100.0, 150.0, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, double* h, double* delta);
+#define QvFirRemezLowpass ZemFunc69
+
+/**
+ * FirRemezHighpass.
+ * A highpass with equal weights.
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, double* h, double* delta);
+#define QvFirRemezHighpass ZemFunc68
+
+/**
+ * FirRemezBandpass.
+ * A bandpass with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandpass ZemFunc66
+
+/**
+ * FirRemezBandstop.
+ * A bandstop with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandstop ZemFunc67
+
+/**
+ * FirRemezFilterLowpass.
+ * Designs a lowpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, double* y);
+#define QvFirRemezFilterLowpass ZemFunc472
+
+/**
+ * FirRemezFilterHighpass.
+ * Designs a highpass with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, double* y);
+#define QvFirRemezFilterHighpass ZemFunc473
+
+/**
+ * FirRemezFilterBandpass.
+ * Designs a bandpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandpass ZemFunc474
+
+/**
+ * FirRemezFilterBandstop.
+ * Designs a bandstop with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandstop ZemFunc475
+
+/**
+ * FirRemezFilterComplexLowpass.
+ * Designs a lowpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, QvComplex* y);
+#define QvFirRemezFilterComplexLowpass ZemFunc476
+
+/**
+ * FirRemezFilterComplexHighpass.
+ * Designs a highpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, QvComplex* y);
+#define QvFirRemezFilterComplexHighpass ZemFunc477
+
+/**
+ * FirRemezFilterComplexBandpass.
+ * Designs a bandpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandpass ZemFunc478
+
+/**
+ * FirRemezFilterComplexBandstop.
+ * Designs a bandstop with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc479(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandstop ZemFunc479
+
+/** @} */
+
+/** @defgroup fir_narrowband Narrowband FIR design
+ * Filters with a very narrow transition, as two stages with few multiplications: a model filter whose taps stand
+ * `factor` samples apart, and an image suppressor that removes the copies of its response (Y. Neuvo, Dong C.-Y. and
+ * S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984). The factor with the least sum of Kaiser's order
+ * estimates is taken; where none gains, a single filter is designed. Both stages are equiripple and each spends at most
+ * half of the deviation, so that the cascade stays within it. Bands beyond fs/4 are mirrored, or designed as the
+ * complement, whose output is added to the delayed input.
+ * The record belongs to the caller, between FirNarrowbandCreate and FirNarrowbandRelease, and takes one design.
+ * @{
+ */
+
+/**
+ * FirNarrowbandCreate.
+ * A record with all fields zero; null when memory is exhausted.
+ */
+QV_API QvFirNarrowband* ZemFunc491(void);
+#define QvFirNarrowbandCreate ZemFunc491
+
+/**
+ * FirNarrowbandRelease.
+ * Frees both arrays of taps and the record.
+ * @param filter handle, may be null: the record; null does nothing
+ */
+QV_API void ZemFunc492(QvFirNarrowband* filter);
+#define QvFirNarrowbandRelease ZemFunc492
+
+/**
+ * FirNarrowbandDesign.
+ * Designs a filter into the record; arrays that it held are not freed.
+ * Lowpass and bandpass want f1 < f2, highpass and bandstop f1 > f2. Each stage begins with the estimated order and
+ * grows by a twentieth until its error is small enough.
+ * @param fs the sampling rate
+ * @param f1 edge of the passband of a lowpass or highpass; full width of the passband about the centre
+ * @param f2 edge of the stopband of a lowpass or highpass; full width of the stopband about the centre
+ * @param center centre of a bandpass or bandstop, inside 0 to fs/2; else ignored
+ * @param ripple linear deviation of the passband
+ * @param attenuation of the stopband, in dB
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param filter handle: a fresh record; changed on success alone
+ * @retval -20031 a width, an edge, the centre or a deviation is out of its range, the kind is above 3, or an order is negative
+ * @retval -20001 memory is exhausted, or a stage needs more than 2045 cosine functions
+ * @retval -20023 a band reaches beyond 0 or fs/2
+ * @retval -20031 the exchange fails
+ * @code
+ * QvFirNarrowband* filter = QvFirNarrowbandCreate();
+ * QvFirNarrowbandDesign(1000.0, 10.0, 12.0, 0.0, 0.01, 60.0, 0, filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc409(double fs, double f1, double f2, double center, double ripple, double attenuation, uint32_t kind, QvFirNarrowband* filter);
+#define QvFirNarrowbandDesign ZemFunc409
+
+/**
+ * FirNarrowbandFilter.
+ * Filters samples: the whole convolution with both stages, in modes 3 to 5 added to the delayed input.
+ * The products are added themselves, without transforms. Modes outside 0 to 5 add no input.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output: n + model_count - 1 samples for a factor of 1, otherwise (model_count - 1) factor + n + suppressor_count - 1; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc410(const double* x, int64_t n, QvFirNarrowband* filter, double* y);
+#define QvFirNarrowbandFilter ZemFunc410
+
+/**
+ * FirNarrowbandFilterComplex.
+ * Filters the two parts of complex samples as two real signals.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output, as long as that of FirNarrowbandFilter; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc411(const QvComplex* x, int64_t n, QvFirNarrowband* filter, QvComplex* y);
+#define QvFirNarrowbandFilterComplex ZemFunc411
+
+/** @} */
+
+/** @defgroup fir_windows FIR design by window
+ * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
+ * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
+ * Signal Processing, chapter 7). With t = i - (taps - 1)/2 and w = 2 pi f/fs the lowpass is sin(w t)/(pi t), the
+ * bandpass the difference of two lowpasses; highpass and bandstop are a unit pulse less these. The passband is not
+ * scaled to a gain of exactly 1.
+ * Frequencies are in the unit of the sampling rate fs. Taps are symmetric about the middle; the delay is (taps - 1)/2.
+ * After an error h is undefined. The filters write the whole convolution, with both transients, and y must not overlap
+ * x. Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirIdealResponse.
+ * The ideal response, without a window.
+ * The angles of the sines are accumulated from tap to tap.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ */
+QV_API QvStatus ZemFunc79(uint32_t kind, double fs, double fl, double fh, int32_t taps, double* h);
+#define QvFirIdealResponse ZemFunc79
+
+/**
+ * FirDesignWindow.
+ * The ideal response under a window of any code. One tap is left as it is, whatever the window.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double h[63];
+ * QvFirDesignWindow(0, 1000.0, 40.0, 0.0, 63, QV_WINDOW_BLACKMAN, 0.0, h);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc335(uint32_t kind, double fs, double fl, double fh, int32_t taps, int32_t window, double parameter, double* h);
+#define QvFirDesignWindow ZemFunc335
+
+/**
+ * FirDesignLowpass.
+ * A lowpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirDesignLowpass(1000.0, 40.0, 63, h, 4);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc189(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignLowpass ZemFunc189
+
+/**
+ * FirDesignHighpass.
+ * A highpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc188(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignHighpass ZemFunc188
+
+/**
+ * FirDesignBandpass.
+ * A bandpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc186(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandpass ZemFunc186
+
+/**
+ * FirDesignBandstop.
+ * A bandstop under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc187(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandstop ZemFunc187
+
+/**
+ * FirDesignKaiserLowpass.
+ * A lowpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc112(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserLowpass ZemFunc112
+
+/**
+ * FirDesignKaiserHighpass.
+ * A highpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc111(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserHighpass ZemFunc111
+
+/**
+ * FirDesignKaiserBandpass.
+ * A bandpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc109(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandpass ZemFunc109
+
+/**
+ * FirDesignKaiserBandstop.
+ * A bandstop under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc110(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandstop ZemFunc110
+
+/**
+ * FirFilterWindow.
+ * Designs any kind as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirFilterWindow(x, 1000, 63, 2, 1000.0, 40.0, 60.0, QV_WINDOW_KAISER, 6.0, y);  // 1062 samples
+ * @endcode
+ */
+QV_API QvStatus ZemFunc480(const double* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindow ZemFunc480
+
+/**
+ * FirFilterWindowLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc481(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowLowpass ZemFunc481
+
+/**
+ * FirFilterWindowHighpass.
+ * Designs a highpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc482(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowHighpass ZemFunc482
+
+/**
+ * FirFilterWindowBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc483(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandpass ZemFunc483
+
+/**
+ * FirFilterWindowBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc484(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandstop ZemFunc484
+
+/**
+ * FirFilterWindowComplex.
+ * Designs any kind as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc485(const QvComplex* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplex ZemFunc485
+
+/**
+ * FirFilterWindowComplexLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc486(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexLowpass ZemFunc486
+
+/**
+ * FirFilterWindowComplexHighpass.
+ * Designs a highpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc487(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexHighpass ZemFunc487
+
+/**
+ * FirFilterWindowComplexBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc488(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandpass ZemFunc488
+
+/**
+ * FirFilterWindowComplexBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc489(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandstop ZemFunc489
+
+/** @} */
+
+/** @defgroup fit_bounds Fit bounds, goodness of fit and sample removal
+ * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients come
+ * in as arguments; three numbers for its goodness; and the removal of samples before it.
+ * A confidence band (type 0) is where the mean response lies with the given probability, a prediction band (type 1)
+ * where a new observation does. Both come from the linearised model: with J the derivatives, G = (sum of |w| J' J)^+,
+ * s^2 = sum of |w| (f - y)^2 / (n - p) and t the quantile of Student's distribution with n - p degrees of freedom, the
+ * half-width is t s sqrt(J G J'), for a new observation t s sqrt(J G J' + 1/|w|).
+ * @{
+ */
+
+/**
+ * FitBoundsLine.
+ * The band of a fitted line, y = slope x + intercept. The method is exact for normal errors.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; their sign counts in the information matrix of a confidence band; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param slope the slope
+ * @param intercept the intercept
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param slopeHalfWidth written: of the confidence interval of slope; type 0 only
+ * @param interceptHalfWidth written: of the confidence interval of intercept; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFitLine(x, y, n, curve, &slope, &intercept, &error);
+ * QvFitBoundsLine(x, y, NULL, n, 0, 0.95, slope, intercept, upper, lower, &ds, &di);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc293(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double slope, double intercept, double* upper, double* lower, double* slopeHalfWidth, double* interceptHalfWidth);
+#define QvFitBoundsLine ZemFunc293
+
+/**
+ * FitBoundsExponential.
+ * The band of a fitted exponential, y = a exp(b x). The derivatives are exp(b x) and a x exp(b x).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the rate
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc291(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsExponential ZemFunc291
+
+/**
+ * FitBoundsPower.
+ * The band of a fitted power, y = a x^b. The derivatives are x^b and a x^b ln x.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the exponent
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc295(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsPower ZemFunc295
+
+/**
+ * FitBoundsLogarithm.
+ * The band of a fitted logarithm, y = a log(b x). The derivatives are log(b x) and a / (b ln base).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, of the sign of b
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the scale of x
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc294(const double* x, const double* y, const double* weights, int64_t n, double base, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsLogarithm ZemFunc294
+
+/**
+ * FitBoundsGaussian.
+ * The band of a fitted Gaussian, y = a exp(-((x - m) / s)^2 / 2). The derivatives are e, a z e / s and a z^2 e / s with z = (x - m) / s, e = exp(-z^2 / 2).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param amplitude a
+ * @param centre m
+ * @param width s, not 0
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param amplitudeHalfWidth written: of the confidence interval of amplitude; type 0 only
+ * @param centreHalfWidth written: of the confidence interval of centre; type 0 only
+ * @param widthHalfWidth written: of the confidence interval of width; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20069 n is below 4
+ * @retval -20026 the width is 0
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc292(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double amplitude, double centre, double width, double* upper, double* lower, double* amplitudeHalfWidth, double* centreHalfWidth, double* widthHalfWidth);
+#define QvFitBoundsGaussian ZemFunc292
+
+/**
+ * FitGoodness.
+ * Sum of squared errors, coefficient of determination and root mean squared error of a fit.
+ * The mean is that of y without weights. On an error nothing is written.
+ * @param y read, [n]: the ordinates
+ * @param fitted read, [n]: the fitted curve
+ * @param weights read, [n], may be null: the weights, with their sign; null: all 1
+ * @param n the number of samples
+ * @param dof the degrees of freedom, below n; below 1: n - 2
+ * @param sse written: sum of w (y - f)^2
+ * @param rSquare written: 1 - sse / sum of w (y - mean)^2; of a constant y 1 for sse = 0, infinity otherwise
+ * @param rmse written: sqrt(sse / dof)
+ * @retval -20006 n is below 2
+ * @retval -20052 dof is n or above
+ */
+QV_API QvStatus ZemFunc284(const double* y, const double* fitted, const double* weights, int64_t n, int64_t dof, double* sse, double* rSquare, double* rmse);
+#define QvFitGoodness ZemFunc284
+
+/**
+ * FitRemoveOutOfRange.
+ * Removes the samples that do not lie strictly inside the range.
+ * The three counts are written whatever the status, except for -20046. With -20010, and -20003 for nothing to remove,
+ * they tell what would be kept and removed while the arrays stay; after other errors n is 0 and the others are the
+ * former n. A sample of NaN stays.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param mode 0 by y, 1 by x, 2 by x and y
+ * @param limits read, [limitCount]: the range, in either order; in mode 2 that of x, then that of y
+ * @param limitCount at least 2, in mode 2 at least 4
+ * @param removed written, [capacity]: the indices of the samples removed, ascending
+ * @param capacity read and written: in the room for indices, out the number of samples removed
+ * @param removedCount written: the number of samples removed
+ * @retval -20046 n or capacity does not fit 32 bits
+ * @retval -20003 n or limitCount is below 1; or there is nothing to remove
+ * @retval -20061 the mode is above 2
+ * @retval -20006 modes 0 and 1: fewer than two limits
+ * @retval -20069 mode 2: fewer than four limits
+ * @retval -20068 a limit is NaN
+ * @retval -20010 there are more samples to remove than capacity
+ * @code
+ * int64_t n = 5, room = 5, count, gone[5];
+ * double range[2] = {0, 10}, x[5] = {1, 2, 3, 4, 5}, y[5] = {1, -1, 9, 10, 3};
+ * QvFitRemoveOutOfRange(x, y, NULL, &n, 0, range, 2, gone, &room, &count);  // keeps 1, 3, 5; gone are 1, 3
+ * @endcode
+ */
+QV_API QvStatus ZemFunc297(double* x, double* y, double* weights, int64_t* n, uint32_t mode, const double* limits, int32_t limitCount, int64_t* removed, int64_t* capacity, int64_t* removedCount);
+#define QvFitRemoveOutOfRange ZemFunc297
+
+/**
+ * FitRemoveByIndex.
+ * Removes samples by their indices. On an error nothing is written.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param indices read, [count]: the samples to remove, in any order; one may be named more than once
+ * @param count the number of indices
+ * @retval -20046 n, count or an index does not fit 32 bits
+ * @retval -20003 n or count is below 1
+ * @retval -20017 an index is not from 0 to n - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc296(double* x, double* y, double* weights, int64_t* n, const int64_t* indices, int64_t count);
+#define QvFitRemoveByIndex ZemFunc296
+
+/** @} */
+
 /** @defgroup gamma Gamma, beta and related functions
  * Scalar functions of real arguments, returned as the value itself: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
@@ -3968,6 +5061,159 @@ QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, in
 
 /** @} */
 
+/** @defgroup linear_fits Linear and polynomial fits
+ * Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which some
+ * coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions at
+ * observation i. Weights count by magnitude.
+ * The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
+ * coefficients one alone is not written.
+ * @{
+ */
+
+/**
+ * FitGeneralLinear.
+ * The coefficients c that minimise |y - X c|.
+ * 0 and 6 give the solution of smallest norm: 0 drops singular values of 0, 6 those at or below m s(0) 2.2e-16. The
+ * normal equations (4, 5) are faster for many observations and square the condition number. NaN in y shows in the
+ * coefficients; NaN in the design too with selector 4.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param coefficients written, [n]: the coefficients
+ * @param selector 0 singular values; 1, 2, 3 QR; 4 LU, 5 Cholesky of the normal equations; 6 singular values truncated
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 an element of the design (selectors 0 to 3, 6) or of the normal matrix (5) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double design[6] = {1, 0, 1, 1, 1, 2}, y[3] = {1, 3, 5}, c[2];
+ * QvFitGeneralLinear(design, 3, 2, y, c, 0);  // 1 and 2: y = 1 + 2 x
+ * @endcode
+ */
+QV_API QvStatus ZemFunc239(const double* design, int64_t m, int64_t n, const double* y, double* coefficients, uint32_t selector);
+#define QvFitGeneralLinear ZemFunc239
+
+/**
+ * FitGeneralLinearEx.
+ * The coefficients that minimise the sum of ((y - X c) / deviation)^2.
+ * With the selectors 4 and 5 the covariance is written before the coefficients are solved for.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param deviations read, [m], may be null: the standard deviations of the observations; 0 weighs 1; null: all 1
+ * @param selector as for QvFitGeneralLinear
+ * @param fitted written, [m], may be null: the fitted curve, X c; only together with the error
+ * @param coefficients written, [n]: the coefficients
+ * @param covariance written, [n * n], may be null: the covariance of the coefficients, (X' W X)^-1 with W the weights
+ * @param meanSquaredError written, may be null: sum of w (y - f)^2 / m; only together with the curve
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 a scaled element of the design (selectors 0 to 3, 6) or of the normal matrix (5; 4 with a covariance) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc86(const double* design, int64_t m, int64_t n, const double* y, const double* deviations, uint32_t selector, double* fitted, double* coefficients, double* covariance, double* meanSquaredError);
+#define QvFitGeneralLinearEx ZemFunc86
+
+/**
+ * FitPolynomial.
+ * The polynomial of least squares, by singular values. Powers above 25 are not fitted: their coefficients are 0.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order
+ * @param order the degree of the polynomial
+ * @param fitted written, [n], may be null: the fitted curve; only together with the error
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20103 the order is negative
+ * @retval -20037 n is not above the order
+ * @retval -20046 n times the number of powers is above 2^31 - 1
+ * @retval -20068 a power of an abscissa is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ * @code
+ * double x[4] = {0, 1, 2, 3}, y[4] = {1, 2, 5, 10}, curve[4], c[3], error;
+ * QvFitPolynomial(x, y, 4, 2, curve, c, &error);  // 1, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc137(double* x, const double* y, int64_t n, int32_t order, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomial ZemFunc137
+
+/**
+ * FitPolynomialConstrained.
+ * The polynomial of least squares among those with the given coefficients.
+ * Powers above 25 are not fitted, unless fewer than two below are free: then up to the second free one. Without given
+ * coefficients a curve without an error is not written.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc298(double* x, const double* y, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialConstrained ZemFunc298
+
+/**
+ * FitPolynomialWeighted.
+ * QvFitPolynomialConstrained with weights.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights; null: all 1
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of |w| (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa times its weight is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc361(double* x, const double* y, const double* weights, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialWeighted ZemFunc361
+
+/** @} */
+
 /** @defgroup matrices Solving, inversion and matrix operations
  * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
  * at the
@@ -4777,6 +6023,200 @@ QV_API void ZemFunc238(void* block);
  */
 QV_API void ZemFunc470(void* block);
 #define QvIirStateComplexRelease ZemFunc470
+
+/** @} */
+
+/** @defgroup model_fits Line, exponential, power, logarithm and Gaussian fits
+ * Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least
+ * absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the one before
+ * and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it
+ * ends when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+ * On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
+ * @{
+ */
+
+/**
+ * FitLine.
+ * The line of least squares, y = a x + b. Equal abscissas give what the division by 0 gives, and no error.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 2}, y[3] = {1, 3, 5}, curve[3], slope, intercept, error;
+ * QvFitLine(x, y, 3, curve, &slope, &intercept, &error);  // 2 and 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc117(const double* x, double* y, int64_t n, double* fitted, double* slope, double* intercept, double* meanSquaredError);
+#define QvFitLine ZemFunc117
+
+/**
+ * FitLineRobust.
+ * The line y = a x + b by one of three methods.
+ * The methods 1 and 2 draw two samples' line exactly, whatever the weights, with the residue 0. Method 1 alternates
+ * weighted medians of slope and intercept.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20055 method 1: two and more abscissas are 0
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc288(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* slope, double* intercept, double* residue);
+#define QvFitLineRobust ZemFunc288
+
+/**
+ * FitExponential.
+ * The exponential y = a exp(b x) by the line through (x, ln |y|) with the weights y^2, without iteration.
+ * Samples of the sign of the minority, and zeros, take no part; a tie takes the positive ones.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20068 an abscissa or an ordinate of that sign is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc73(const double* x, double* y, int64_t n, double* fitted, double* a, double* b, double* meanSquaredError);
+#define QvFitExponential ZemFunc73
+
+/**
+ * FitExponentialRobust.
+ * The model y = a exp(b x) by one of three methods.
+ * Least squares starts from the line through (x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc286(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitExponentialRobust ZemFunc286
+
+/**
+ * FitPower.
+ * The model y = a x^b by one of three methods.
+ * Least squares starts from the line through (ln x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a x^b
+ * @param b written: b, the exponent
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc290(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitPower ZemFunc290
+
+/**
+ * FitLogarithm.
+ * The model y = a log(b x) by one of three methods, each over the line through (log |x|, y).
+ * With a = 0, b is the sign of x.
+ * @param x read, [n]: the abscissas, all above or all below 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a log(b x)
+ * @param b written: b, of the sign of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20036 an abscissa is 0, or they differ in sign (the text speaks of y)
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc289(const double* x, double* y, const double* weights, int64_t n, double base, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitLogarithm ZemFunc289
+
+/**
+ * FitGaussian.
+ * The Gaussian y = a exp(-((x - m) / s)^2 / 2) by one of three methods.
+ * Without a guess the peak and the samples above a tenth of it give the start; a peak that stands alone gives the
+ * result, with its neighbours. At most 501 steps up the gradient, halved while the error grows. The residue of least
+ * squares is that of the last trial, which may have been rejected, unless the start was best.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param guess read, [3], may be null: amplitude, centre and width to start from; one that is not finite: none
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param amplitude written: a of y = a exp(-((x - m) / s)^2 / 2)
+ * @param centre written: m
+ * @param width written: s, at least 0
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20007 n is below 3
+ * @retval -20068 a weight is NaN, or an abscissa is not finite
+ * @retval -20141 all weights but one or two are 0
+ * @retval -20026 the width is 0, or a lone peak lacks a neighbour of its sign on one side
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[5] = {-2, -1, 0, 1, 2}, y[5] = {0.27, 1.21, 2, 1.21, 0.27}, curve[5], a, m, s, residue;
+ * QvFitGaussian(x, y, NULL, 5, 0, -1, NULL, curve, &a, &m, &s, &residue);  // about 2, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc287(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, const double* guess, double* fitted, double* amplitude, double* centre, double* width, double* residue);
+#define QvFitGaussian ZemFunc287
 
 /** @} */
 
