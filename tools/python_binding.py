@@ -16,7 +16,7 @@ From a C signature to a Python one:
   - The array results can be given with out=: one array, or a tuple of as many as there are. out may be an input.
   - What may be null is None by default. Parameters with a default stand behind those without, both in the table's order.
   - Functions of scalars alone take arrays too, element by element.
-  - A function with a complex twin of the same parameters calls it where an array is complex.
+  - A function with a complex twin that takes the same parameters calls it where an array is complex.
 """
 
 import ast
@@ -745,8 +745,10 @@ def complex_name(name, made):
 
 
 def same_parameters(real, twin):
-    """The same parameters, some arrays of them double in one and complex in the other, and room for the results."""
-    if {p.name: p.default for p in real.parameters} != {p.name: p.default for p in twin.parameters}:
+    """Whether the twin takes all parameters of the real form, its own by default, some arrays complex that are double."""
+    ours, theirs = ({p.name: p.default for p in f.parameters} for f in (real, twin))
+    if any(name not in theirs or theirs[name] != default for name, default in ours.items()) or any(
+            default is None for name, default in theirs.items() if name not in ours):
         return False
     kinds = [{p.name: p.argument.type for p in f.parameters if p.argument.shape is not None} for f in (real, twin)]
     return len(real.arrays) == len(twin.arrays) and any(

@@ -56,9 +56,21 @@ ALIASES = {
     "det": "determinant",
     "inv": "inverse",
     "pinv": "pseudo_inverse",
+    "qr": "qr_method",
+    "eig": "eigen_general",
+    "eigh": "eigen_symmetric",
 }
 # Complex twins that go by another name than X_complex of X or of X_real.
-TWINS = {"convolve_real_by": "convolve_complex", "correlate_real_by": "correlate_complex"}
+TWINS = {
+    "convolve_real": "convolve_complex",
+    "convolve_real_by": "convolve_complex",
+    "correlate_real": "correlate_complex",
+    "correlate_real_by": "correlate_complex",
+    "solve": "solve_kind_complex",
+    "inverse": "inverse_kind_complex",
+    "determinant": "determinant_kind_complex",
+    "eigen_general": "eigen_complex",
+}
 
 # --- Selections ----------------------------------------------------------------------------------------------------
 # class: (what it selects, members, where it applies as (export pattern, argument), the default or None)

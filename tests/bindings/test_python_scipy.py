@@ -313,6 +313,16 @@ def test_matrices(a):
     assert qv.matrix_rank(a) == 6
 
 
+@pytest.mark.parametrize("a", [A, C], ids=["real", "complex"])
+def test_short_names_take_complex_matrices(a):
+    close(qv.inv(a), linalg.inv(a))
+    close(qv.det(a), linalg.det(a), 1e4)
+    close(qv.solve(a, a[0]), linalg.solve(a, a[0]))
+    close(qv.pinv(a), linalg.pinv(a))
+    values, vectors = qv.eig(a)
+    np.testing.assert_allclose(a @ vectors, vectors * values, atol=1e-10)
+
+
 def test_least_squares():
     design, y = X[:60].reshape(20, 3), Y[:20]
     close(qv.solve_kind(design, y), linalg.lstsq(design, y)[0])
@@ -396,6 +406,27 @@ def test_polynomial_and_line_fits():
     line = qv.fit_line(t, y)
     wanted = stats.linregress(t, y)
     np.testing.assert_allclose([line.slope, line.intercept], [wanted.slope, wanted.intercept], rtol=1e-9)
+
+
+def test_samples_are_removed():
+    x, y = np.arange(8.0), np.array([1.0, -5, 2, 3, 9, 4, 5, 6])
+    x1, y1, weights = qv.fit_remove_by_index(x, y, [4, 1])
+    np.testing.assert_array_equal(x1, np.delete(x, [1, 4]))
+    np.testing.assert_array_equal(y1, np.delete(y, [1, 4]))
+    assert weights is None
+    x2, y2, weights, removed = qv.fit_remove_out_of_range(x, y, [0.0, 8.0], np.ones(8), mode="y")
+    np.testing.assert_array_equal(removed, [1, 4])
+    np.testing.assert_array_equal(y2, y1)
+    assert len(weights) == 6
+
+
+def test_goodness_of_fit():
+    y = Y[:20]
+    fitted = y + 0.1 * X[:20]
+    sse, r_square, rmse = qv.fit_goodness(y, fitted, 18)
+    close(sse, np.sum((y - fitted) ** 2))
+    close(r_square, 1 - sse / np.sum((y - y.mean()) ** 2))
+    close(rmse, np.sqrt(sse / 18))
 
 
 # --- Time domain and measurements ------------------------------------------------------------------------------------

@@ -50,12 +50,15 @@ correlate = correlate_real_by
 correlate_2d = correlate_2d_real
 correlate_normalised = correlate_real_normalised
 det = determinant
+eig = eigen_general
+eigh = eigen_symmetric
 fft = real_fft
 fft_2d = real_fft_2d
 ifft = complex_ifft
 ifft_2d = complex_ifft_2d
 inv = inverse
 pinv = pseudo_inverse
+qr = qr_method
 shuffle = shuffle_real
 tone_multi = tone_multi_real
 tone_multi_ex = tone_multi_real_ex
@@ -322,11 +325,13 @@ __all__ = [
     "dilogarithm",
     "dst",
     "dst_2d",
+    "eig",
     "eigen_complex",
     "eigen_general",
     "eigen_generalised",
     "eigen_generalised_complex",
     "eigen_symmetric",
+    "eigh",
     "elliptic_e",
     "elliptic_k",
     "erf",
@@ -564,6 +569,7 @@ __all__ = [
     "pulse_pattern",
     "pulse_state_levels",
     "pulse_transition",
+    "qr",
     "qr_complex",
     "qr_method",
     "qr_pivot",

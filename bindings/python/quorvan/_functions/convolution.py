@@ -67,12 +67,14 @@ def convolve_real(x, y, *, out=None):
 
     Notes
     -----
-    The function ZemFunc32 (ConvolveReal) of the C library.
+    Complex arrays go to `convolve_complex`. The function ZemFunc32 (ConvolveReal) of the C library.
 
     Example
     -------
     >>> out = qv.convolve_real(x, y)
     """
+    if rt.is_complex(x, y):
+        return convolve_complex(x=x, y=y, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")
     n = x.shape[0]
@@ -217,12 +219,14 @@ def correlate_real(x, y, *, out=None):
 
     Notes
     -----
-    The function ZemFunc33 (CorrelateReal) of the C library.
+    Complex arrays go to `correlate_complex`. The function ZemFunc33 (CorrelateReal) of the C library.
 
     Example
     -------
     >>> out = qv.correlate_real(x, y)
     """
+    if rt.is_complex(x, y):
+        return correlate_complex(x=x, y=y, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")
     n = x.shape[0]

@@ -81,12 +81,14 @@ def eigen_general(a, want_vectors=True, *, out=None):
 
     Notes
     -----
-    The function ZemFunc201 (MatEigenGeneral) of the C library.
+    Complex arrays go to `eigen_complex`. The function ZemFunc201 (MatEigenGeneral) of the C library.
 
     Example
     -------
     >>> values, vectors = qv.eigen_general(a)
     """
+    if rt.is_complex(a):
+        return eigen_complex(a=a, want_vectors=want_vectors, out=out)
     _out = rt.outs(out, 2, "eigen_general")
     a = rt.array(a, rt.F8, 2, "a")
     n = a.shape[0]

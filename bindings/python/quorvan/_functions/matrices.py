@@ -360,12 +360,14 @@ def solve(a, b, *, out=None):
 
     Notes
     -----
-    The function ZemFunc114 (MatSolve) of the C library.
+    Complex arrays go to `solve_kind_complex`. The function ZemFunc114 (MatSolve) of the C library.
 
     Example
     -------
     >>> x = qv.solve(a, b)
     """
+    if rt.is_complex(a, b):
+        return solve_kind_complex(a=a, b=b, out=out)
     a = rt.array(a, rt.F8, 2, "a")
     b = rt.array(b, rt.F8, 1, "b")
     n = a.shape[0]
@@ -506,12 +508,14 @@ def inverse(a, *, out=None):
 
     Notes
     -----
-    The function ZemFunc105 (MatInverse) of the C library.
+    Complex arrays go to `inverse_kind_complex`. The function ZemFunc105 (MatInverse) of the C library.
 
     Example
     -------
     >>> out = qv.inverse(a)
     """
+    if rt.is_complex(a):
+        return inverse_kind_complex(a=a, out=out)
     a = rt.array(a, rt.F8, 2, "a")
     n = a.shape[0]
     rt.fits(a, (n, n), "a")
@@ -653,12 +657,14 @@ def determinant(a):
 
     Notes
     -----
-    The function ZemFunc55 (MatDeterminant) of the C library.
+    Complex arrays go to `determinant_kind_complex`. The function ZemFunc55 (MatDeterminant) of the C library.
 
     Example
     -------
     >>> out = qv.determinant(a)
     """
+    if rt.is_complex(a):
+        return determinant_kind_complex(a=a)
     a = rt.array(a, rt.F8, 2, "a")
     n = a.shape[0]
     rt.fits(a, (n, n), "a")
