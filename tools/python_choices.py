@@ -114,7 +114,7 @@ SELECTIONS = {
         dict(LINEAR=0, DECIBEL=1, DBM=2),
         [("SpecUnitConvert", "display")], "LINEAR"),
     "UnitFlags": (
-        "The parts of a unit: peak instead of rms, power instead of amplitude, density per hertz; they can be joined by |.",
+        "The parts of a unit: peak instead of rms, power instead of amplitude, density per hertz. Join them by |.",
         dict(NONE=0, PEAK=1, POWER=2, DENSITY=4),
         [("SpecUnitConvert", "flags")], "NONE"),
     "PhaseMode": (
@@ -274,8 +274,8 @@ DEFAULTS = {
 }
 
 # What an argument means where the table thinks it too plain to say.
-MEANINGS = {"x": "the samples", "dt": "time between samples",
-            "n": "the number of elements", "maxTones": "the number of tones at most", "weights": "weights of the samples"}
+MEANINGS = {"x": "the samples", "dt": "time between samples", "n": "the number of elements",
+            "maxTones": "the number of tones at most", "weights": "weights of the samples"}
 
 # --- Shapes --------------------------------------------------------------------------------------------------------
 # Outputs whose shape the table tells in words, as Python tuples over the table's names.
@@ -316,8 +316,8 @@ REQUIRED = {("Pulse.*", "x")}
 # and the start of an iteration. Both come back as results; the arrays given stay as they are.
 STATES = {"inputState", "outputState"}
 GUESSES = {"coefficients"}
-# Complex numbers in two parts: (export pattern, real part, imaginary part): the name in Python. Besides these, neighbours
-# called re and im, or ...Re and ...Im, are one.
+# Complex numbers in two parts: (export pattern, real part, imaginary part): the name in Python. Besides these,
+# neighbours called re and im, or ...Re and ...Im, are one.
 PAIRS = {
     ("Cx(?!Arr).*", "a", "b"): "x",
     ("Cx(?!Arr).*", "c", "d"): "y",

@@ -1,9 +1,10 @@
-"""Arguments with which every function of the package succeeds: by the shapes of the table, and by hand where values count."""
+"""Arguments with which every function of the package succeeds: by shapes, and by hand where values count."""
 
 import numpy as np
 
 import boundary
 import python_binding
+import python_names
 
 SIZES = dict(n=24, m=7, rows=6, cols=4, rows1=5, cols1=6, rows2=3, cols2=2, nb=4, na=3, frames=3, channels=3, size=9,
              count=3, nInitial=2, nFinal=2, nx=4, ny=3, rowsA=3, colsA=4, rowsB=2, colsB=3, rhsCount=2, firstLength=4,
@@ -78,8 +79,9 @@ BY_HAND = {
     "peak_power_frequency": dict(power=_ramp(), window=(1.5, 0.5)),
     "poly_roots_real": dict(c=[-6.0, 11, -6, 1]), "poly_roots_multiple": dict(c=[-1.0, 3, -3, 1]),
     "poly_zeros": dict(c=[1.0, -6, 11, -6]), "pulse_parameters": dict(x=np.concatenate([_train()[:22], np.zeros(6)])),
-    "pulse_state_levels": dict(x=_train()), "pulse_cycle_timing": dict(x=_train()), "pulse_cycle_average": dict(x=_train()),
-    "pulse_transition": dict(x=_train()), "shuffle_int": dict(data=np.arange(24)),
+    "pulse_state_levels": dict(x=_train()), "pulse_cycle_timing": dict(x=_train()),
+    "pulse_cycle_average": dict(x=_train()), "pulse_transition": dict(x=_train()),
+    "shuffle_int": dict(data=np.arange(24)),
     "network_analysis": dict(stimulus=_rng.standard_normal((3, 24)), response=_rng.standard_normal((3, 24))),
     "histogram": dict(base=-2.0), "mode_of_histogram": dict(base=-2.0), "modes": dict(x=[1.0, 2, 2, 3]),
     "detect_level_crossings": dict(slopes=[1, 0, 1], levels=[0.1, 0.2, 0.3], hysteresis=[0.0, 0.1, 0.1]),
@@ -90,7 +92,8 @@ BY_HAND = {
     "special_matrix_complex": dict(type="vandermonde", first=[1.0, 2j, 3]),
     "anova_one_way": dict(level=_THREE, levels=3),
     "anova_two_way": dict(level_a=_TWO, level_b=_THREE, per_cell=4, levels_a=2, levels_b=3),
-    "anova_three_way": dict(level_a=_TWO, level_b=_THREE, level_c=_CELLS, per_cell=2, levels_a=2, levels_b=3, levels_c=2),
+    "anova_three_way": dict(level_a=_TWO, level_b=_THREE, level_c=_CELLS, per_cell=2, levels_a=2, levels_b=3,
+                            levels_c=2),
     "contingency_chi_square": dict(counts=[[10, 20, 30], [20, 15, 10]]),
     "window_properties_measure": dict(w=_NEARLY_ONE), "complex_from_polar": dict(phase=0.5),
     "inverse_chirp_z": dict(x=np.fft.fft(_ramp())), "lag_product": dict(p=3), "lag_product_complex": dict(p=3),
@@ -106,7 +109,8 @@ BY_HAND = {
     "fit_bounds_line": dict(_LINE, type=0, slope=2.0, intercept=1.0),
     "fit_bounds_exponential": dict(_DECAY, type=0, a=3.0, b=-0.5),
     "fit_bounds_power": dict(x=_ramp(), y=2 * _ramp() ** 1.5 + 0.01 * np.cos(7 * _ramp()), type=0, a=2.0, b=1.5),
-    "fit_bounds_logarithm": dict(x=_ramp(), y=1 + 2 * np.log(_ramp()) + 0.01 * np.cos(7 * _ramp()), type=0, a=1.0, b=2.0),
+    "fit_bounds_logarithm": dict(
+        x=_ramp(), y=1 + 2 * np.log(_ramp()) + 0.01 * np.cos(7 * _ramp()), type=0, a=1.0, b=2.0),
     "fit_bounds_gaussian": dict(_BELL, type=0, amplitude=3.0, centre=0.0, width=1.0),
     "fit_goodness": dict(dof=20), "fit_remove_by_index": dict(indices=[1, 3, 5]),
     "fit_remove_out_of_range": dict(mode=0, limits=[-0.5, 0.5]),
@@ -162,8 +166,8 @@ def of(function, qv):
         elif p.argument.direction == "handle":
             given[p.name] = made(p.argument.type, function, qv)
         elif p.argument.shape:
-            shape = [int(eval(python_binding.ast.unparse(part), {"max": max, "min": min}, dict(sizes)))
-                     for part in python_binding.extents(p.argument.shape)]
+            shape = [int(eval(python_names.ast.unparse(part), {"max": max, "min": min}, dict(sizes)))
+                     for part in python_names.extents(p.argument.shape)]
             kind = "complex" if p.words.startswith("array_like of complex") else p.argument.type
             given[p.name] = values(kind, shape)
         elif p.name == "n":

@@ -10,11 +10,13 @@ import pytest
 import arguments
 import boundary
 import python_choices as choices
+import python_names
 import quorvan as qv
+from quorvan import _runtime as rt
 
 MODELS = arguments.models()
 ARRAYS = {name: f for name, f in MODELS.items() if f.arrays and not any(
-    arguments.python_binding.chosen(choices.FIRST, f.export, a) for a in f.export.arguments)}
+    python_names.chosen(choices.FIRST, f.export, a) for a in f.export.arguments)}
 # Functions with one array result and an input of its type and shape.
 ALIKE = [name for name, f in ARRAYS.items() if len(f.arrays) == 1 and any(
     p.words == "array_like of {0}, {3} {4}".format(*f.arrays[0].words.split(" ", 4)) for p in f.parameters)]
@@ -55,8 +57,25 @@ def stated_size(function, argument, given):
         return None  # sizes that the package finds itself
 
 
+@pytest.fixture
+def guards(monkeypatch):
+    """Zones on both sides of every array that the package makes for a result; nothing may be written there."""
+    zones, plain = [], rt.fresh
+
+    def fresh(shape, dtype):
+        inner = plain(shape, dtype)
+        whole = np.full(inner.nbytes + 2 * 64, 0xA5, np.uint8)
+        zones.extend([whole[:64], whole[64 + inner.nbytes:]])
+        guarded = whole[64:64 + inner.nbytes].view(dtype).reshape(inner.shape)
+        guarded[...] = inner
+        return guarded
+    monkeypatch.setattr(rt, "fresh", fresh)
+    yield
+    assert all((zone == 0xA5).all() for zone in zones)
+
+
 @pytest.mark.parametrize("name", MODELS)
-def test_call_gives_what_the_table_states(name):
+def test_call_gives_what_the_table_states(name, guards):
     function = MODELS[name]
     given = arguments.of(function, qv)
     before = copy.deepcopy({k: v for k, v in given.items() if isinstance(v, np.ndarray)})
@@ -73,7 +92,7 @@ def test_call_gives_what_the_table_states(name):
         return
     parts = as_tuple(function, result)
     assert len(parts) == len(function.results)
-    stated = {a.name: a for a in function.export.arguments}
+    stated = function.export.arguments
     for told, part in zip(function.results, parts):
         if "array" not in told.words:
             assert isinstance(part, {"float": float, "int": int, "bool": bool, "str": str, "complex": complex,
@@ -83,9 +102,9 @@ def test_call_gives_what_the_table_states(name):
             assert told.type.endswith("None")
             continue
         assert part.dtype == np.dtype(told.words.split()[0])
-        argument = next((a for a in stated.values() if arguments.python_binding.parameter_name(a.name) == told.name), None)
+        argument = next((a for a in stated if python_names.parameter_name(a.name) == told.name), None)
         table = (choices.SHAPES, choices.FIRST)
-        if argument is None or any(arguments.python_binding.chosen(t, function.export, argument) for t in table):
+        if argument is None or any(python_names.chosen(t, function.export, argument) for t in table):
             continue
         size = stated_size(function, argument, given)
         assert size is None or part.size == size

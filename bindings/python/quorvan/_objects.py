@@ -237,9 +237,9 @@ class FirNarrowband(Handle):
 class Stream:
     """A signal that comes in blocks, or noise that goes on and on.
 
-    The library keeps one stream of each kind for each thread. An object takes that place with its first block, and holds
-    it until another object of the kind begins on the thread; feeding the one before raises then, rather than mixing two
-    signals. It ends with its with block.
+    The library keeps one stream of each kind for each thread. An object takes that place with its first block, and
+    holds it until another object of the kind begins on the thread; feeding the one before raises then, rather than
+    mixing two signals. It ends with its with block.
     """
 
     _places = threading.local()

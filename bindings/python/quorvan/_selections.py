@@ -1,4 +1,4 @@
-"""The selections: what an integer argument chooses. Generated from exports/table by tools/python_binding.py; do not edit."""
+"""What integer arguments choose. Generated from exports/table by tools/python_binding.py; do not edit."""
 
 import enum
 
@@ -100,7 +100,7 @@ class Display(enum.IntEnum):
 
 
 class UnitFlags(enum.IntFlag):
-    """The parts of a unit: peak instead of rms, power instead of amplitude, density per hertz; they can be joined by |."""
+    """The parts of a unit: peak instead of rms, power instead of amplitude, density per hertz. Join them by |."""
 
     NONE = 0
     PEAK = 1

@@ -169,11 +169,11 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
 
     Returns
     -------
-    locations : float64 array of shape (count)
+    locations : float64 array of shape (count,)
         their positions in samples, between samples too
-    amplitudes : float64 array of shape (count)
+    amplitudes : float64 array of shape (count,)
         their heights
-    second_derivatives : float64 array of shape (count)
+    second_derivatives : float64 array of shape (count,)
         of the parabola, per sample squared
 
     Raises
