@@ -19,6 +19,7 @@ From a C signature to a Python one:
   - Functions of scalars alone take arrays too, element by element.
   - A function with a complex twin that takes the same parameters calls it where an array is complex.
 """
+import ast
 import re
 import sys
 import textwrap
@@ -30,6 +31,7 @@ from python_names import translated
 from python_text import WIDTH
 
 PACKAGE = boundary.ROOT / "bindings" / "python" / "quorvan"
+SOURCES = PACKAGE  # what is written by hand
 GENERATED = "Generated from exports/table by tools/python_binding.py; do not edit."
 
 
@@ -121,11 +123,23 @@ def functions_module(families, made):
     return "\n".join(text) + "\n"
 
 
+def objects(made):
+    """The classes of _objects.py whose functions are there: those that it offers."""
+    found = []
+    for node in ast.parse((SOURCES / "_objects.py").read_text()).body:
+        if isinstance(node, ast.ClassDef) and not node.name.startswith("_") and node.name != "Stream":
+            needed = [text.value for decorator in node.decorator_list for text in decorator.args]
+            if all(name in made for name in needed):
+                found.append(node.name)
+    return found
+
+
 def stub_module(made):
     text = [f"# The signatures of the package. {GENERATED}", "import enum", "from collections.abc import Callable",
             "from typing import NamedTuple", "", "import numpy as np",
             "from numpy.typing import ArrayLike, NDArray", "",
-            "from ._objects import *", "from ._objects import Handle as Handle",
+            *(f"from ._objects import {name} as {name}" for name in objects(made)),
+            "from ._runtime import Handle as Handle",
             "from ._runtime import QuorvanError as QuorvanError",
             "from ._runtime import QuorvanWarning as QuorvanWarning",
             "from ._runtime import WindowProperties as WindowProperties", "", "__version__: str", ""]

@@ -277,6 +277,14 @@ DEFAULTS = {
 MEANINGS = {"x": "the samples", "dt": "time between samples", "n": "the number of elements",
             "maxTones": "the number of tones at most", "weights": "weights of the samples"}
 
+# What is different in Python: export pattern: a sentence.
+REMARKS = {
+    "PeakThresholdRuns.*": "Here a width of 0 raises ZeroDivisionError, before the call.",
+    "FitNonlinear.*": "An exception of the model ends the fit and comes out of it.",
+    "Gen(Gamma|Poisson|Binomial|Bernoulli)Noise|Gen(Halton|Weyl)Sequence|DecimateContinuous.*|PeakDetect":
+        "There is an object for such a stream, too.",
+}
+
 # --- Shapes --------------------------------------------------------------------------------------------------------
 # Outputs whose shape the table tells in words, as Python tuples over the table's names.
 _CONVOLUTION_2D = ("(rows1, cols1) if shape == 1 else (rows1 - rows2 + 1, cols1 - cols2 + 1) if shape == 2 "

@@ -37,6 +37,7 @@ class Result:
     value: str  # Python text behind the call
     array: bool = False  # can be given with out=
     last: bool = False
+    slot: str = ""  # the name before it was shortened
 
 
 class Function(Text):
@@ -57,6 +58,7 @@ class Function(Text):
         self.marshal()
         self.parameters.sort(key=lambda p: p.default is not None)
         self.results.sort(key=lambda r: r.last)
+        self.shorten_results()
         names = [p.name for p in self.parameters]
         assert len(set(names)) == len(names), (export.name, names)
 
@@ -383,6 +385,14 @@ class Function(Text):
         else:
             self.add(a, name, "float", "float")
             self.call[a.name] = name
+
+    def shorten_results(self):
+        """Results are not called outputs: low_out is low, out_phase is phase."""
+        for r in self.results:
+            r.slot = r.name
+            short = re.sub(r"_out$|^out_(?=magnitude$|phase$)", "", r.name)
+            if short not in {other.name for other in self.results}:
+                r.name = short
 
     def order_results(self):
         """The results in the order of the table's arguments."""

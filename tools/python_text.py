@@ -3,6 +3,7 @@
 import re
 import textwrap
 
+import python_choices as choices
 from python_names import parameter_name, translated
 
 LETTERS = {"double": "d", "complex": "z", "int32": "i", "uint32": "u", "int64": "l", "model": "m"}
@@ -64,7 +65,7 @@ class Text:
         if self.elementwise:
             lines += [f"if rt.many({arguments}):", f"    return rt.each({self.name}, {arguments})"]
         many = len(self.arrays) > 1
-        slots = {r.name: f"_out[{i}]" if many else "out" for i, r in enumerate(self.arrays)}
+        slots = {r.slot: f"_out[{i}]" if many else "out" for i, r in enumerate(self.arrays)}
         if many:
             lines.append(f'_out = rt.outs(out, {len(self.arrays)}, "{self.name}")')
         takes = [line for line in self.before if " = rt.array(" in line or "is None else rt.array(" in line]
@@ -86,7 +87,7 @@ class Text:
         if export.result == "status":
             lines.append(f'rt.check(status, "{self.name}")')
         lines += [line for line in self.behind if "reraise" not in line]
-        values = [r.value.replace("{out}", slots.get(r.name, "out")) for r in self.results]
+        values = [r.value.replace("{out}", slots.get(r.slot, "out")) for r in self.results]
         if len(values) == 1:
             lines.append(f"return {values[0]}")
         elif values:
@@ -134,6 +135,7 @@ class Text:
             notes.append("Arrays are taken element by element, with broadcasting.")
         if self.twin:
             notes.append(f"Complex arrays go to `{self.twin}`.")
+        notes += [remark for pattern, remark in choices.REMARKS.items() if re.fullmatch(pattern, export.name)]
         notes.append(f"The function {export.symbol} ({export.name}) of the C library.")
         text += ["Notes", "-----", " ".join(notes), ""]
         text += ["Example", "-------", f">>> {self.example()}"]

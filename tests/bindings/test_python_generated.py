@@ -97,6 +97,18 @@ def test_stub_tells_the_signatures():
         assert len(args.defaults) == len(defaults), name
 
 
+def test_stub_tells_all_names():
+    told = set()
+    for node in ast.parse((python_binding.PACKAGE / "__init__.pyi").read_text()).body:
+        if isinstance(node, (ast.FunctionDef, ast.ClassDef)):
+            told.add(node.name)
+        elif isinstance(node, ast.Assign):
+            told.add(node.targets[0].id)
+        elif isinstance(node, ast.ImportFrom) and node.level:
+            told.update(alias.asname for alias in node.names)
+    assert told == set(qv.__all__)
+
+
 def test_stub_tells_the_results():
     stub = ast.parse((python_binding.PACKAGE / "__init__.pyi").read_text())
     for node in stub.body:
@@ -122,6 +134,8 @@ def test_window_codes_are_those_of_the_header():
 def test_choices_speak_of_the_table():
     """A choice whose pattern fits nothing was made for a name that has changed."""
     exports = [e for f in boundary.read_table() for e in f.exports]
+    for pattern in choices.REMARKS:
+        assert any(re.fullmatch(pattern, e.name) for e in exports), pattern
     for table in (choices.DEFAULTS, choices.SHAPES, choices.SIZES, choices.FIRST):
         for pattern, names in table:
             assert any(re.fullmatch(pattern, e.name) and any(re.fullmatch(names, a.name) for a in e.arguments)

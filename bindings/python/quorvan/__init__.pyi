@@ -6,8 +6,21 @@ from typing import NamedTuple
 import numpy as np
 from numpy.typing import ArrayLike, NDArray
 
-from ._objects import *
-from ._objects import Handle as Handle
+from ._objects import FftPlan as FftPlan
+from ._objects import IirStateComplex as IirStateComplex
+from ._objects import IirFilter as IirFilter
+from ._objects import FirNarrowband as FirNarrowband
+from ._objects import ThresholdRuns as ThresholdRuns
+from ._objects import PeakDetector as PeakDetector
+from ._objects import Decimator as Decimator
+from ._objects import LevelCrossing as LevelCrossing
+from ._objects import GammaNoise as GammaNoise
+from ._objects import PoissonNoise as PoissonNoise
+from ._objects import BinomialNoise as BinomialNoise
+from ._objects import BernoulliNoise as BernoulliNoise
+from ._objects import HaltonSequence as HaltonSequence
+from ._objects import WeylSequence as WeylSequence
+from ._runtime import Handle as Handle
 from ._runtime import QuorvanError as QuorvanError
 from ._runtime import QuorvanWarning as QuorvanWarning
 from ._runtime import WindowProperties as WindowProperties
@@ -341,8 +354,8 @@ def complex_array_subtract(a: ArrayLike, b: ArrayLike, *, out: NDArray[np.comple
 def complex_array_multiply(a: ArrayLike, b: ArrayLike, *, out: NDArray[np.complex128] | None = ...) -> NDArray[np.complex128]: ...
 def complex_array_divide(a: ArrayLike, b: ArrayLike, *, out: NDArray[np.complex128] | None = ...) -> NDArray[np.complex128]: ...
 class ComplexArrayToPolarResult(NamedTuple):
-    out_magnitude: NDArray[np.float64]
-    out_phase: NDArray[np.float64]
+    magnitude: NDArray[np.float64]
+    phase: NDArray[np.float64]
 
 def complex_array_to_polar(z: ArrayLike, *, out: tuple[NDArray[np.float64] | None, NDArray[np.float64] | None] | None = ...) -> ComplexArrayToPolarResult: ...
 def complex_array_from_polar(magnitude: ArrayLike, phase: ArrayLike, *, out: NDArray[np.complex128] | None = ...) -> NDArray[np.complex128]: ...
@@ -1038,9 +1051,9 @@ class PulseCycleTimingResult(NamedTuple):
     duration: float
     duty: float
     centre: float
-    low_out: float
-    mid_out: float
-    high_out: float
+    low: float
+    mid: float
+    high: float
 
 def pulse_cycle_timing(x: ArrayLike, polarity: EdgePolarity | int | str = EdgePolarity.RISING, cycle: int = 1, high: float = 90.0, mid: float = 50.0, low: float = 10.0, percent: bool = True, method: LevelMethod | int | str = LevelMethod.AUTO, bins: int = 256) -> PulseCycleTimingResult: ...
 class PulseCycleAverageResult(NamedTuple):
@@ -1048,9 +1061,9 @@ class PulseCycleAverageResult(NamedTuple):
     rms: float
     start: float
     end: float
-    low_out: float
-    mid_out: float
-    high_out: float
+    low: float
+    mid: float
+    high: float
 
 def pulse_cycle_average(x: ArrayLike, cycle: int = 1, high: float = 90.0, mid: float = 50.0, low: float = 10.0, percent: bool = True, method: LevelMethod | int | str = LevelMethod.AUTO, bins: int = 256) -> PulseCycleAverageResult: ...
 class PulseTransitionResult(NamedTuple):
@@ -1058,9 +1071,9 @@ class PulseTransitionResult(NamedTuple):
     duration: float
     first_time: float
     second_time: float
-    low_out: float
-    mid_out: float
-    high_out: float
+    low: float
+    mid: float
+    high: float
     pre_undershoot: float
     pre_overshoot: float
     post_undershoot: float

@@ -699,8 +699,8 @@ _ZemFunc173 = rt.bind("ZemFunc173", "status", "pplpp")
 class ComplexArrayToPolarResult(NamedTuple):
     """What `complex_array_to_polar` gives."""
 
-    out_magnitude: np.ndarray
-    out_phase: np.ndarray
+    magnitude: np.ndarray
+    phase: np.ndarray
 
 
 def complex_array_to_polar(z, *, out=None):
@@ -711,13 +711,13 @@ def complex_array_to_polar(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the complex numbers
     out : tuple or None
-        arrays for `out_magnitude`, `out_phase`, each may be None; an input, to work in place
+        arrays for `magnitude`, `phase`, each may be None; an input, to work in place
 
     Returns
     -------
-    out_magnitude : float64 array of shape (n,)
+    magnitude : float64 array of shape (n,)
         magnitudes
-    out_phase : float64 array of shape (n,)
+    phase : float64 array of shape (n,)
         phases in radians from -pi to pi
 
     Raises
@@ -731,7 +731,7 @@ def complex_array_to_polar(z, *, out=None):
 
     Example
     -------
-    >>> out_magnitude, out_phase = qv.complex_array_to_polar(z)
+    >>> magnitude, phase = qv.complex_array_to_polar(z)
     """
     _out = rt.outs(out, 2, "complex_array_to_polar")
     z = rt.array(z, rt.C16, 1, "z")

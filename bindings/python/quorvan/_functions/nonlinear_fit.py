@@ -83,7 +83,8 @@ def fit_nonlinear(x, y, model, coefficients, *, out=None):
 
     Notes
     -----
-    The function ZemFunc130 (FitNonlinear) of the C library.
+    An exception of the model ends the fit and comes out of it. The function ZemFunc130 (FitNonlinear) of the C
+    library.
 
     Example
     -------
@@ -146,7 +147,8 @@ def fit_nonlinear_alias(x, y, model, coefficients, *, out=None):
 
     Notes
     -----
-    The function ZemFunc339 (FitNonlinearAlias) of the C library.
+    An exception of the model ends the fit and comes out of it. The function ZemFunc339 (FitNonlinearAlias) of the
+    C library.
 
     Example
     -------
@@ -222,7 +224,8 @@ def fit_nonlinear_limited(x, y, model, coefficients, limit=-1, *, out=None):
 
     Notes
     -----
-    The function ZemFunc131 (FitNonlinearLimited) of the C library.
+    An exception of the model ends the fit and comes out of it. The function ZemFunc131 (FitNonlinearLimited) of
+    the C library.
 
     Example
     -------
@@ -288,7 +291,8 @@ def fit_nonlinear_limited_alias(x, y, model, coefficients, limit=-1, *, out=None
 
     Notes
     -----
-    The function ZemFunc338 (FitNonlinearLimitedAlias) of the C library.
+    An exception of the model ends the fit and comes out of it. The function ZemFunc338 (FitNonlinearLimitedAlias)
+    of the C library.
 
     Example
     -------
@@ -371,7 +375,8 @@ def fit_nonlinear_weighted(x, y, model, coefficients, weights=None, limit=-1, *,
 
     Notes
     -----
-    The function ZemFunc374 (FitNonlinearWeighted) of the C library.
+    An exception of the model ends the fit and comes out of it. The function ZemFunc374 (FitNonlinearWeighted) of
+    the C library.
 
     Example
     -------
@@ -446,7 +451,8 @@ def fit_nonlinear_weighted_alias(x, y, model, coefficients, weights=None, limit=
 
     Notes
     -----
-    The function ZemFunc375 (FitNonlinearWeightedAlias) of the C library.
+    An exception of the model ends the fit and comes out of it. The function ZemFunc375
+    (FitNonlinearWeightedAlias) of the C library.
 
     Example
     -------

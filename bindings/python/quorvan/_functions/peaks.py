@@ -58,7 +58,8 @@ def peak_threshold_runs(x, threshold, width, *, out=None):
 
     Notes
     -----
-    The function ZemFunc237 (PeakThresholdRuns) of the C library.
+    Here a width of 0 raises ZeroDivisionError, before the call. The function ZemFunc237 (PeakThresholdRuns) of
+    the C library.
 
     Example
     -------
@@ -113,7 +114,8 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
 
     Notes
     -----
-    The function ZemFunc493 (PeakThresholdRunsStream) of the C library.
+    Here a width of 0 raises ZeroDivisionError, before the call. The function ZemFunc493 (PeakThresholdRunsStream)
+    of the C library.
 
     Example
     -------
@@ -187,7 +189,7 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
 
     Notes
     -----
-    The function ZemFunc194 (PeakDetect) of the C library.
+    There is an object for such a stream, too. The function ZemFunc194 (PeakDetect) of the C library.
 
     Example
     -------

@@ -115,9 +115,9 @@ class PulseCycleTimingResult(NamedTuple):
     duration: float
     duty: float
     centre: float
-    low_out: float
-    mid_out: float
-    high_out: float
+    low: float
+    mid: float
+    high: float
 
 
 def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True, method=LevelMethod.AUTO, bins=256):
@@ -158,11 +158,11 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
         duration / period
     centre : float
         the middle of the pulse, in samples
-    low_out : float
+    low : float
         low, absolute
-    mid_out : float
+    mid : float
         mid, absolute
-    high_out : float
+    high : float
         high, absolute
 
     Raises
@@ -228,9 +228,9 @@ class PulseCycleAverageResult(NamedTuple):
     rms: float
     start: float
     end: float
-    low_out: float
-    mid_out: float
-    high_out: float
+    low: float
+    mid: float
+    high: float
 
 
 def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True, method=LevelMethod.AUTO, bins=256):
@@ -268,11 +268,11 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
         of the period, in samples
     end : float
         of the period, in samples
-    low_out : float
+    low : float
         low, absolute
-    mid_out : float
+    mid : float
         mid, absolute
-    high_out : float
+    high : float
         high, absolute
 
     Raises
@@ -337,9 +337,9 @@ class PulseTransitionResult(NamedTuple):
     duration: float
     first_time: float
     second_time: float
-    low_out: float
-    mid_out: float
-    high_out: float
+    low: float
+    mid: float
+    high: float
     pre_undershoot: float
     pre_overshoot: float
     post_undershoot: float
@@ -384,11 +384,11 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
         the earlier of these crossings, in samples
     second_time : float
         the later of these crossings, in samples
-    low_out : float
+    low : float
         low, absolute
-    mid_out : float
+    mid : float
         mid, absolute
-    high_out : float
+    high : float
         high, absolute
     pre_undershoot : float
         below the level before the edge, in percent of the distance of the modes

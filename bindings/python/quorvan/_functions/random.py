@@ -412,7 +412,7 @@ def gamma_noise(n, order, seed=0, reset=False, *, out=None):
 
     Notes
     -----
-    The function ZemFunc388 (GenGammaNoise) of the C library.
+    There is an object for such a stream, too. The function ZemFunc388 (GenGammaNoise) of the C library.
 
     Example
     -------
@@ -461,7 +461,7 @@ def poisson_noise(n, mean, seed=0, reset=False, *, out=None):
 
     Notes
     -----
-    The function ZemFunc389 (GenPoissonNoise) of the C library.
+    There is an object for such a stream, too. The function ZemFunc389 (GenPoissonNoise) of the C library.
 
     Example
     -------
@@ -513,7 +513,7 @@ def binomial_noise(n, trials, probability, seed=0, reset=False, *, out=None):
 
     Notes
     -----
-    The function ZemFunc390 (GenBinomialNoise) of the C library.
+    There is an object for such a stream, too. The function ZemFunc390 (GenBinomialNoise) of the C library.
 
     Example
     -------
@@ -562,7 +562,7 @@ def bernoulli_noise(n, probability, seed=0, reset=False, *, out=None):
 
     Notes
     -----
-    The function ZemFunc414 (GenBernoulliNoise) of the C library.
+    There is an object for such a stream, too. The function ZemFunc414 (GenBernoulliNoise) of the C library.
 
     Example
     -------
@@ -612,7 +612,7 @@ def halton_sequence(n, base, reset=False, *, out=None):
 
     Notes
     -----
-    The function ZemFunc412 (GenHaltonSequence) of the C library.
+    There is an object for such a stream, too. The function ZemFunc412 (GenHaltonSequence) of the C library.
 
     Example
     -------
@@ -659,7 +659,7 @@ def weyl_sequence(n, step, reset=False, *, out=None):
 
     Notes
     -----
-    The function ZemFunc413 (GenWeylSequence) of the C library.
+    There is an object for such a stream, too. The function ZemFunc413 (GenWeylSequence) of the C library.
 
     Example
     -------

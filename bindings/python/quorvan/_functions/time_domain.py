@@ -314,8 +314,8 @@ def decimate_continuous(x, factor, average=False, offset=0, reset=True, *, out=N
 
     Notes
     -----
-    Complex arrays go to `decimate_continuous_complex`. The function ZemFunc417 (DecimateContinuous) of the C
-    library.
+    Complex arrays go to `decimate_continuous_complex`. There is an object for such a stream, too. The function
+    ZemFunc417 (DecimateContinuous) of the C library.
 
     Example
     -------
@@ -372,7 +372,8 @@ def decimate_continuous_complex(x, factor, average=False, offset=0, reset=True, 
 
     Notes
     -----
-    The function ZemFunc418 (DecimateContinuousComplex) of the C library.
+    There is an object for such a stream, too. The function ZemFunc418 (DecimateContinuousComplex) of the C
+    library.
 
     Example
     -------
