@@ -136,7 +136,7 @@ def objects(made):
 
 def stub_module(made):
     text = [f"# The signatures of the package. {GENERATED}", "import enum", "from collections.abc import Callable",
-            "from typing import NamedTuple", "", "import numpy as np",
+            "from typing import NamedTuple, overload", "", "import numpy as np",
             "from numpy.typing import ArrayLike, NDArray", "",
             *(f"from ._objects import {name} as {name}" for name in objects(made)),
             "from ._runtime import Handle as Handle",

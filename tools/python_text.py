@@ -197,4 +197,10 @@ class Text:
         lines = []
         if self.has_class:
             lines += [f"class {self.result_class}(NamedTuple):", *(f"    {r.name}: {r.type}" for r in self.results), ""]
-        return lines + [f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ..."]
+        if not self.elementwise:
+            return lines + [f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ..."]
+        arrays = ", ".join(f"{p.name}: ArrayLike" + (" | None = None" if p.default == "None" else "")
+                           for p in self.parameters)
+        returns = {"float": "NDArray[np.float64]", "complex": "NDArray[np.complex128]"}.get(self.returns, self.returns)
+        return lines + ["@overload", f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ...",
+                        "@overload", f"def {self.name}({arrays}) -> {returns}: ..."]
