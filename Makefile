@@ -7,12 +7,12 @@ PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 .PHONY: help demo check check-sanitizers check-all docs bench picture format tidy install clean
 
 help:
-	@echo 'make demo       the tour: a heart rate from a real recording'
+	@echo 'make demo       the tour: readings from real recordings'
 	@echo 'make check      build and run all tests'
 	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
 	@echo 'make docs       the reference pages, with search, in build/reference/html'
 	@echo 'make bench      speed beside FFTW, NumPy and SciPy, as ratios'
-	@echo 'make picture    draw docs/ecg_spectrum.png again'
+	@echo 'make picture    draw the pictures in docs/ again'
 	@echo 'make format     bring all C and C++ files into the house format'
 	@echo 'make tidy       clang-tidy over the library'
 	@echo 'make install    install to PREFIX ($(PREFIX))'
@@ -57,6 +57,7 @@ picture:
 	@tools/packages.sh build picture
 	$(call built,demo)
 	$(PYTHON) tools/picture.py --library build/demo/libquorvan.so
+	$(PYTHON) tools/picture_trend.py --library build/demo/libquorvan.so
 
 format:
 	@tools/packages.sh format

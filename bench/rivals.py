@@ -16,6 +16,8 @@ for threads in ("OMP_NUM_THREADS", "OPENBLAS_NUM_THREADS", "MKL_NUM_THREADS"):
 
 import numpy as np  # noqa: E402
 import scipy.fft  # noqa: E402
+import scipy.interpolate  # noqa: E402
+import scipy.optimize  # noqa: E402
 import scipy.signal  # noqa: E402
 import scipy.special  # noqa: E402
 
@@ -219,6 +221,55 @@ def cascade_cases(library):
                 yield Case(group, f"{order}x{n}", f"f(px, n, {objects}, pout)", "sosfilt(sections, x)", names,
                            "numpy.allclose(kept, sosfilt(sections, x), rtol=0, atol=1e-11)",
                            cleanup=[lambda h=handle, s=state: (release(h), release(s))])
+
+
+FIT_SIZES = (10, 100, 1000, 10000)
+# Name, number, argument types and Quorvan's arguments, the model for SciPy, the coefficients of the data, SciPy's start.
+# The Gaussian has no closed start in SciPy: it gets one near the truth, as a user would give it.
+FIT_MODELS = (
+    ("line", 288, "pppicdpppp", "px, py, None, n, 0, -1.0, pf, *pc[:2], pr", lambda x, a, b: a * x + b, (2.0, 1.0), None),
+    ("exponential", 286, "pppicdpppp", "px, py, None, n, 0, -1.0, pf, *pc[:2], pr",
+     lambda x, a, b: a * np.exp(b * x), (1.5, 0.6), None),
+    ("power", 290, "pppicdpppp", "px, py, None, n, 0, -1.0, pf, *pc[:2], pr", lambda x, a, b: a * x ** b, (2.0, 1.3), None),
+    ("logarithm", 289, "pppidcdpppp", "px, py, None, n, 2.71828, 0, -1.0, pf, *pc[:2], pr",
+     lambda x, a, b: a * np.log(b * x), (1.7, 2.2), None),
+    ("gaussian", 287, "pppicdpppppp", "px, py, None, n, 0, -1.0, None, pf, *pc, pr",
+     lambda x, a, m, s: a * np.exp(-0.5 * ((x - m) / s) ** 2), (3.0, 2.0, 0.7), (2.5, 2.2, 0.9)),
+)
+
+
+def fit_cases(library):
+    """Least squares only: of robust fits SciPy has other methods. Checks are loose where the ends of iterations differ."""
+    for n in FIT_SIZES:
+        x, f, c, error = aligned(n), aligned(n), aligned(9), np.zeros(1)
+        x[:] = np.linspace(0.5, 4, n)
+        common = dict(n=n, x=x, px=address(x), pf=address(f), pcs=address(c), pr=address(error), out=c)
+        line = 2 * x + 1 + 0.05 * noise(n, 1)
+        y = aligned(n)
+        y[:] = line
+        for order in (1, 3, 8):
+            names = dict(common, f=library.call(137, "ppicppp"), y=y, py=address(y), order=order, polyfit=np.polyfit)
+            yield Case(f"fit_polynomial_{order}", str(n), "f(px, py, n, order, pf, pcs, pr)", "polyfit(x, y, order)", names,
+                       "numpy.allclose(kept[:order + 1], polyfit(x, y, order)[::-1], rtol=1e-4, atol=1e-4)")
+        for columns in (3, 8):
+            design = noise(n * columns, 2).reshape(n, columns)
+            names = dict(common, f=library.call(239, "piippc"), y=y, py=address(y), d=design, pd=address(design), k=columns,
+                         lstsq=np.linalg.lstsq)
+            yield Case(f"fit_general_{columns}", str(n), "f(pd, n, k, py, pcs, 0)", "lstsq(d, y, rcond=None)", names,
+                       "numpy.allclose(kept[:k], lstsq(d, y, rcond=None)[0], rtol=1e-9, atol=1e-9)")
+        second = aligned(n)
+        names = dict(common, f=library.call(164, "ppiddp"), y=y, py=address(y), out=second, pout=address(second),
+                     CubicSpline=scipy.interpolate.CubicSpline)
+        yield Case("fit_spline", str(n), "f(px, py, n, 1e30, 1e30, pout)", "CubicSpline(x, y, bc_type='natural')", names,
+                   "numpy.allclose(kept, CubicSpline(x, y, bc_type='natural')(x, 2), rtol=1e-6, atol=1e-3)")
+        for name, number, types, arguments, model, truth, start in FIT_MODELS:
+            z = aligned(n)
+            z[:] = model(x, *truth) + 0.05 * noise(n, 1)
+            pc = [ctypes.c_void_p(c.ctypes.data + 8 * j) for j in range(3)]
+            names = dict(common, f=library.call(number, types), y=z, py=address(z), pc=pc, model=model, start=start,
+                         curve_fit=scipy.optimize.curve_fit, k=len(truth))
+            yield Case(f"fit_{name}", str(n), f"f({arguments})", "curve_fit(model, x, y, start)", names,
+                       "numpy.allclose(kept[:k], curve_fit(model, x, y, start)[0], rtol=0.05)")
 
 
 def peak_cases(library):

@@ -33,7 +33,9 @@ template <class Model>
 Status ComputeBand(const Model& model, const BandInput& input, const double* c, const BandTargets& out) {
     constexpr Count p = Model::kCount;
     if (Status failed = CheckBand(model, input, c)) return failed;
-    const auto [x, y, weights, n, type, level] = input;
+    const double *x = input.x, *y = input.y, *weights = input.weights;
+    const Count n = input.n;
+    const std::uint32_t type = input.type;
     Block<double> rows(static_cast<std::size_t>(p) * static_cast<std::size_t>(n));
     if (!rows) return status::kOutOfMemory;
 
@@ -58,7 +60,7 @@ Status ComputeBand(const Model& model, const BandInput& input, const double* c, 
     if (Status failed = MatPseudoInverse<double>(inverse, p, p, -1, nullptr)) return failed;
     const double variance = squares / (n - p);
     double t = 0;
-    if (Status failed = DistTInverse(1 - (1 - level) / 2, n - p, &t)) return failed;
+    if (Status failed = DistTInverse(1 - (1 - input.level) / 2, n - p, &t)) return failed;
 
     row = rows;
     for (Count i = 0; i < n; ++i, row += p) {

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "fit/fit_errors.h"
+#include "fit/gaussian_loops.h"
 #include "fit/model_engines.h"
 #include "frame/arrays.h"
 #include "frame/memory.h"
@@ -92,31 +93,11 @@ Status Estimate(const ModelSamples& samples, double* c, bool* exact) {
 
 // The curve and its error at the coefficients; shape gets the exponentials.
 double Evaluate(const ModelSamples& samples, const double* c, double* shape, double* fitted) {
-    for (Count i = 0; i < samples.n; ++i) {
-        shape[i] = GaussianModel::Shape(samples.x[i], c);
-        fitted[i] = c[0] * shape[i];
-    }
+    kGaussianLoops().shape(samples.x, samples.n, c, shape);
+    for (Count i = 0; i < samples.n; ++i) fitted[i] = c[0] * shape[i];
     double error = 0;
     FitMeanSquaredError(samples.y, fitted, samples.weights, samples.n, &error);
     return error;
-}
-
-// Downhill on the sum of squares, the factor 2 aside: sum of r dy/dc.
-void Gradient(const ModelSamples& samples, const double* c, const double* shape, const double* fitted, double* out) {
-    const double a = c[0], m = c[1], s = c[2];
-    double by_a = 0, by_m = 0, by_s = 0;
-    for (Count i = 0; i < samples.n; ++i) {
-        double r = samples.y[i] - fitted[i];
-        if (samples.weights) r *= std::fabs(samples.weights[i]);
-        const double distance = samples.x[i] - m;
-        const double t = r * distance * a * shape[i] / (s * s);
-        by_a += r * shape[i];
-        by_m += t;
-        by_s += t * distance / s;
-    }
-    out[0] = by_a;
-    out[1] = by_m;
-    out[2] = by_s;
 }
 
 // c in: the start; out: the result. Returns the residue.
@@ -129,7 +110,8 @@ double Climb(const ModelSamples& samples, const ModelControl& control, double* s
         if (!(std::fabs(previous - error) > previous * tolerance) || !(error > control.smallestError)) break;
         if (wanted) {
             previous = error;
-            Gradient(samples, c, shape, fitted, gradient);
+            // Downhill on the sum of squares, a factor of 2 aside.
+            kGaussianLoops().gradient(samples.x, samples.y, samples.weights, shape, samples.n, c, gradient);
         }
         const double trial[3] = {c[0] + step * gradient[0], c[1] + step * gradient[1], c[2] + step * gradient[2]};
         error = Evaluate(samples, trial, shape, fitted);

@@ -12,6 +12,7 @@
 #include "linalg/matrix_kind.h"
 #include "linalg/products.h"
 #include "linalg/solve.h"
+#include "linalg/tall_qr.h"
 
 namespace quorvan {
 namespace {
@@ -42,17 +43,18 @@ void TransposedTimes(const double* a, Count m, Count n, const double* y, double*
     provider::cblas_dgemv(provider::Order::kRowMajor, Transposition::kTransposed, m, n, 1.0, a, n, y, 1, 0.0, out, 1);
 }
 
-// c = sum of u(j)/s(j)·v(j) with X = U·S·V', u = U'y; the covariance is V·S⁻²·V'.
-Status BySingularValues(const Observations& data, bool truncated, double* coefficients, double* covariance) {
-    const Count m = data.m, n = data.n;
+// c = sum of u(j)/s(j)·v(j) with X = U·S·V', u = U'y; the covariance is V·S⁻²·V'. Of m observations; a reduced system
+// has fewer rows.
+Status BySingularValues(const Observations& data, Count m, bool truncated, double* coefficients, double* covariance) {
+    const Count n = data.n;
     const auto cols = static_cast<std::size_t>(n);
-    Block<double> u(Elements(m, n)), v(Elements(n, n)), rows(2 * cols);
+    Block<double> u(Elements(data.m, n)), v(Elements(n, n)), rows(2 * cols);
     if (!u || !v || !rows) return status::kOutOfMemory;
     double *s = rows, *projected = s + cols;
-    if (Status failed = MatSvd<double>(data.design, m, n, u, s, v)) return failed;
+    if (Status failed = MatSvd<double>(data.design, data.m, n, u, s, v)) return failed;
 
     const double threshold = truncated ? m * s[0] * kEpsilon : 0;
-    TransposedTimes(u, m, n, data.y, projected);
+    TransposedTimes(u, data.m, n, data.y, projected);
     std::fill_n(coefficients, n, 0.0);
     for (Count j = 0; j < n; ++j) {
         if (!(s[j] > threshold)) continue;
@@ -66,7 +68,14 @@ Status BySingularValues(const Observations& data, bool truncated, double* coeffi
     return status::kSuccess;
 }
 
-// R·c = Q'y with X = Q·R; the covariance is (R'R)⁺.
+// R·c = Q'y; the covariance is (R'R)⁺.
+Status ByTriangle(const double* r, double* projected, Count n, double* coefficients, double* covariance) {
+    if (Status failed = MatSolveUpperTriangular(r, projected, n, coefficients)) return failed;
+    if (!covariance) return status::kSuccess;
+    Gemm(Transposition::kTransposed, Transposition::kNone, n, n, n, r, n, r, n, covariance, n);
+    return MatPseudoInverse<double>(covariance, n, n, kDefaultTolerance, nullptr);
+}
+
 Status ByQr(const Observations& data, double* coefficients, double* covariance) {
     const Count m = data.m, n = data.n;
     Block<double> q(Elements(m, n)), r(Elements(n, n)), projected(static_cast<std::size_t>(n));
@@ -74,10 +83,32 @@ Status ByQr(const Observations& data, double* coefficients, double* covariance) 
     // With both factors given the design is only read.
     if (Status failed = MatQr<double>(const_cast<double*>(data.design), m, n, true, q, r)) return failed;
     TransposedTimes(q, m, n, data.y, projected);
-    if (Status failed = MatSolveUpperTriangular(r, projected, n, coefficients)) return failed;
-    if (!covariance) return status::kSuccess;
-    Gemm(Transposition::kTransposed, Transposition::kNone, n, n, n, r, n, r, n, covariance, n);
-    return MatPseudoInverse<double>(covariance, n, n, kDefaultTolerance, nullptr);
+    return ByTriangle(r, projected, n, coefficients, covariance);
+}
+
+constexpr bool UsesSingularValues(std::uint32_t selector) {
+    return selector == kFitSingularValues || selector == kFitTruncatedSingularValues;
+}
+
+// Of a tall design only R and Q'y are needed: the singular values of R and its V are those of the design. *reduced
+// tells whether the numbers allowed it.
+Status ByReduction(const Observations& data, const double* weights, std::uint32_t selector, double* coefficients,
+                   double* covariance, bool* reduced) {
+    const Count n = data.n;
+    const std::size_t square = Elements(n, n), cols = static_cast<std::size_t>(n), work = TallQrWork(n);
+    Block<double> block(work + 2 * square + 2 * cols);
+    if (!block) return status::kOutOfMemory;
+    double *both = block + work, *r = both + square + cols, *projected = r + square;
+    *reduced = kTallQr().reduce(data.design, data.y, weights, data.m, n, both, block);
+    if (!*reduced) return status::kSuccess;
+    for (Count j = 0; j < n; ++j) {
+        std::copy_n(both + RowStart(j, n + 1), n, r + RowStart(j, n));
+        projected[j] = both[RowStart(j, n + 1) + n];
+    }
+    if (UsesSingularValues(selector))
+        return BySingularValues({r, projected, n, n}, data.m, selector == kFitTruncatedSingularValues, coefficients,
+                                covariance);
+    return ByTriangle(r, projected, n, coefficients, covariance);
 }
 
 // N·c = b with N = X'WX, b = X'Wy; the covariance is N⁺, taken before the system is solved.
@@ -109,6 +140,11 @@ Status Solve(const Observations& data, const double* weights, double* coefficien
     if (selector == kFitNormalLu || selector == kFitNormalCholesky)
         return ByNormalEquations(data, weights, selector == kFitNormalCholesky, coefficients, covariance);
 
+    if (data.n <= kTallQrColumns && data.m / 2 >= data.n) {
+        bool reduced = false;
+        const Status status = ByReduction(data, weights, selector, coefficients, covariance, &reduced);
+        if (status != status::kSuccess || reduced) return status;
+    }
     Observations scaled = data;
     Block<double> work;
     if (weights) {
@@ -124,8 +160,8 @@ Status Solve(const Observations& data, const double* weights, double* coefficien
             y[i] = data.y[i] * root;
         }
     }
-    if (selector == kFitSingularValues || selector == kFitTruncatedSingularValues)
-        return BySingularValues(scaled, selector == kFitTruncatedSingularValues, coefficients, covariance);
+    if (UsesSingularValues(selector))
+        return BySingularValues(scaled, scaled.m, selector == kFitTruncatedSingularValues, coefficients, covariance);
     return ByQr(scaled, coefficients, covariance);
 }
 

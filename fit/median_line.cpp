@@ -108,7 +108,8 @@ void SortPairs(double* keys, double* companions, Count n) noexcept {
 // and in c at the median of y - k x with the weights |w| (R. J. Boscovich, 1757; P. S. Laplace, 1789).
 Status FitMedianLine(const ModelSamples& samples, double tolerance, const ModelOutputs& out) noexcept {
     tolerance = ToleranceOrDefault(tolerance);
-    const auto [x, y, w, n] = samples;
+    const double *x = samples.x, *y = samples.y, *w = samples.weights;
+    const Count n = samples.n;
     double* c = out.coefficients;
     if (Status failed = FitLineCore(samples, out)) return failed;
     Count zeros = 0;

@@ -7622,7 +7622,9 @@ QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const d
  * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
  * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
  * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
- * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off. Less than
+ * 0.8 bins below half the rate a tone of a real record of odd length can read a bin or more off, by its phase; of an
+ * even length it reads right up to there.
  * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
  * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
  * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
@@ -7661,7 +7663,8 @@ QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32
  * A fundamental, its harmonics and the distortion of a time record.
  * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
  * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
- * After a failure, what has not been found is 0.
+ * After a failure, what has not been found is 0; a number of harmonics below 1 is turned into theirs once the
+ * fundamental is known, and before that both arrays stay as they are.
  * @param x read, [n]
  * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
  * @param fs sampling rate

@@ -7,6 +7,7 @@
 #include "quorvan/quorvan.h"
 #include "tests/support/failing_heap.h"
 #include "tests/support/guarded.h"
+#include "tests/support/targets.h"
 
 namespace quorvan::testing {
 namespace {
@@ -17,8 +18,8 @@ using Values = std::vector<double>;
 constexpr std::uint32_t kSelectors = 7;
 
 // y = 1 + 2x at 0, 1, 2, 3.
-const Reals kLineDesign{1, 0, 1, 1, 1, 2, 1, 3};
-const Reals kLine{1, 3, 5, 7};
+const Reals kLineDesign(Values{1, 0, 1, 1, 1, 2, 1, 3});
+const Reals kLine(Values{1, 3, 5, 7});
 
 // The general fit
 
@@ -205,6 +206,48 @@ TEST(FitGeneralLinearEx, WithDeviationsTheChecksStayTheSame) {
     EXPECT_EQ(error, kUnwritten);
 }
 
+// Tall designs go through a triangle that blocks of rows are folded into.
+
+TEST(FitGeneralLinear, TallDesignsLeaveAResidualOrthogonalToTheColumnsOnEverySet) {
+    ForEachTarget([] {
+        for (const Size m : {2, 7, 15, 16, 17, 63, 64, 65, 127, 128, 129, 1000})
+            for (const Size n : {1, 2, 3, 7, 32}) {
+                if (m < 2 * n) continue;
+                const Reals design = RandomReals(m * n, 5), y = RandomReals(m, 6), sigma(m, 0.5);
+                for (std::uint32_t selector : {0u, 3u, 6u})
+                    for (const double* deviations : {static_cast<const double*>(nullptr), sigma.data()}) {
+                        Reals c = Output(n), curve = Output(m);
+                        double error = 0;
+                        ASSERT_EQ(ZemFunc86(design, m, n, y, deviations, selector, curve, c, nullptr, &error), 0);
+                        for (Size j = 0; j < n; ++j) {
+                            double product = 0;
+                            for (Size i = 0; i < m; ++i) product += design[i * n + j] * (y[i] - curve[i]);
+                            // m terms of size 1, each right to the rounding of n products and of the solution.
+                            EXPECT_NEAR(product, 0, 100.0 * m * n * 2.3e-16) << m << " by " << n;
+                        }
+                    }
+            }
+    });
+}
+
+TEST(FitGeneralLinear, ExtremeSizesDoNotOverflow) {
+    for (std::uint32_t selector : {0u, 1u, 6u})
+        for (double scale : {1e200, 1e-200, 1e119, 1e121, 1e-119, 1e-121}) {
+            Reals design = kLineDesign, y = kLine, c = Output(2);
+            for (double& v : design) v *= scale;
+            for (double& v : y) v *= scale;
+            EXPECT_EQ(ZemFunc239(design, 4, 2, y, c, selector), 0);
+            EXPECT_NEAR(c[0], 1, 1e-14) << scale;
+            EXPECT_NEAR(c[1], 2, 1e-14) << scale;
+        }
+    // One column far from the other.
+    Reals mixed = kLineDesign, c = Output(2);
+    for (int i = 0; i < 4; ++i) mixed[2 * i + 1] *= 1e-200;
+    EXPECT_EQ(ZemFunc239(mixed, 4, 2, kLine, c, 1), 0);
+    EXPECT_NEAR(c[0], 1, 1e-14);
+    EXPECT_NEAR(c[1] * 1e-200, 2, 1e-14);
+}
+
 TEST(FitGeneralLinear, EveryAllocationFails) {
     Reals curve(4), c(2), cov(4);
     double error;
@@ -217,8 +260,8 @@ TEST(FitGeneralLinear, EveryAllocationFails) {
 
 // Polynomials. The three entries with what they share; algorithm 0 and no weights where an entry has no such argument.
 
-const Reals kX{0, 1, 2, 3};
-const Reals kParabola{1, 2, 5, 10};  // 1 + x²
+const Reals kX(Values{0, 1, 2, 3});
+const Reals kParabola(Values{1, 2, 5, 10});  // 1 + x²
 
 TEST(FitPolynomial, RecoversAParabola) {
     Reals x = kX, curve = Output(4), c = Output(3);

@@ -8,6 +8,7 @@
 #include "quorvan/quorvan.h"
 #include "tests/support/failing_heap.h"
 #include "tests/support/guarded.h"
+#include "tests/support/targets.h"
 
 namespace quorvan::testing {
 namespace {
@@ -485,6 +486,38 @@ TEST(FitGaussian, AGuessThatIsNotFiniteIsIgnored) {
             EXPECT_EQ(kGaussian.fit(call), 0);
             EXPECT_EQ(call.c.values(), plain.c.values());
         }
+}
+
+TEST(FitGaussian, TheCurveIsTheExponentialToTwoRoundingsOnEverySet) {
+    // With a tolerance that no change exceeds the guess is the result, and the curve exp(-x²/2).
+    ForEachTarget([] {
+        for (const std::size_t n : {3, 7, 8, 9, 129, 4001}) {
+            Reals x(n), y = RandomReals(n);
+            for (std::size_t i = 0; i < n; ++i) x[i] = 40.0 * static_cast<double>(i) / static_cast<double>(n) - 0.7;
+            const Reals guess{1, 0, 1};
+            Call call(x, y);
+            call.guess = guess;
+            call.tolerance = 1e9;
+            ASSERT_EQ(kGaussian.fit(call), 0);
+            for (std::size_t i = 0; i < n; ++i) {
+                const double expected = std::exp(-0.5 * (x[i] * x[i]));
+                ASSERT_NEAR(call.fitted[i], expected, 2 * 2.3e-16 * expected + 5e-324) << x[i];
+            }
+        }
+    });
+}
+
+TEST(FitGaussian, EverySetGivesOneResult) {
+    Reals x(301), y(301);
+    for (int i = 0; i < 301; ++i)
+        x[i] = 0.02 * i, y[i] = 3 * std::exp(-0.5 * (x[i] - 2) * (x[i] - 2)) + 0.1 * std::sin(9 * x[i]);
+    std::vector<Values> found;
+    ForEachTarget([&] {
+        Call call(x, y);
+        EXPECT_EQ(kGaussian.fit(call), 0);
+        found.push_back(call.c.values());
+    });
+    for (const Values& c : found) EXPECT_EQ(c, found[0]);
 }
 
 TEST(FitGaussian, TheWidthIsStoredAsItsMagnitude) {

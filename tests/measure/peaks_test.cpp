@@ -110,7 +110,12 @@ TEST(PeakDetect, KeepsTheBetterOfPeaksLessThanASampleApart) {
 TEST(PeakDetect, WantsTheApexInTheMiddleHalfOfTheWindow) {
     EXPECT_EQ(Found({0, 1, 1}, {3}).size(), 1u) << "half a sample from the middle";
     EXPECT_EQ(Found({0, 1, 1 + 1e-9}, {3}), (Peaks{}));
-    EXPECT_EQ(Found({0, 1, 1 + kEpsilon}, {3}).size(), 1u) << "a rounding beyond is forgiven";
+    // The vertex of 0, 1, 1 + e is at 1/2 + e and a rounding of it, e² being far below.
+    EXPECT_EQ(Found({0, 1, 1 + 9 * kEpsilon}, {3}).size(), 1u) << "nine roundings beyond are forgiven";
+    EXPECT_EQ(Found({0, 1, 1 + 11 * kEpsilon}, {3}), (Peaks{})) << "eleven are not";
+    // The same before the middle, where the first window has none before it.
+    EXPECT_EQ(Found({1 + 9 * kEpsilon, 1, 0}, {3}).size(), 1u);
+    EXPECT_EQ(Found({1 + 11 * kEpsilon, 1, 0}, {3}), (Peaks{}));
 }
 
 TEST(PeakDetect, IgnoresCurvaturesBelow1em10) {
