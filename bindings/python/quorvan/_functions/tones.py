@@ -7,13 +7,15 @@ around a peak tell the same amplitude; tones of real records are modelled togeth
 negative frequency, and several tones are refined together. Without noise the frequency of a single tone is
 right to 1e-9 of the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound.
 Less than half a bin below half the rate, or above minus half of it, a tone of a complex record can read up to
-half a bin off. dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at
-sample 0, not normalised: of a sine for real records, of the exponential for complex ones. Amplitudes are peak
-amplitudes. A complex exponential of modulus A reads 2A, since the scale is that of a real record, half of
-which stands at the negative frequency; the synthesis of the modes 2 and 3 takes that half again. Tones of
-complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give besides:
-0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that in
-decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
+half a bin off. Less than 0.8 bins below half the rate a tone of a real record of odd length can read a bin or
+more off, by its phase; of an even length it reads right up to there. dt is the time between samples;
+frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised: of a sine for real
+records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex exponential of modulus
+A reads 2A, since the scale is that of a real record, half of which stands at the negative frequency; the
+synthesis of the modes 2 and 3 takes that half again. Tones of complex records have frequencies from -1/(2 dt)
+on. A mode of the extended forms tells what they give besides: 0 nothing, 1 the input, 2 the synthesised
+tones, 3 the input without the tones; and the spectrum of that in decibels. After a failure all scalar outputs
+are 0, and so are out and spectrum.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -147,7 +149,8 @@ def tone_harmonics(x, harmonics, fs, fundamental, *, out=None):
 
     The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of
     its image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay
-    0. After a failure, what has not been found is 0.
+    0. After a failure, what has not been found is 0; a number of harmonics below 1 is turned into theirs once the
+    fundamental is known, and before that both arrays stay as they are.
 
     Parameters
     ----------
