@@ -4,13 +4,14 @@ PREFIX ?= /usr/local
 # Debian's own, which the packages of tools/packages.sh belong to.
 PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 
-.PHONY: help demo check check-sanitizers check-all docs bench picture format tidy install clean
+.PHONY: help demo check check-sanitizers check-all docs gallery bench picture format tidy install clean
 
 help:
 	@echo 'make demo       the tour: readings from real recordings'
 	@echo 'make check      build and run all tests'
 	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
 	@echo 'make docs       the reference pages, with search, in build/reference/html'
+	@echo 'make gallery    draw docs/gallery again, each picture with the lines that made it'
 	@echo 'make bench      speed beside FFTW, NumPy and SciPy, as ratios'
 	@echo 'make picture    draw the pictures in docs/ again'
 	@echo 'make format     bring all C and C++ files into the house format'
@@ -47,6 +48,11 @@ check-all: check-sanitizers
 docs:
 	@tools/packages.sh docs
 	$(PYTHON) tools/reference.py
+
+gallery:
+	@tools/packages.sh build picture
+	$(call built,demo)
+	$(PYTHON) tools/gallery.py --library build/demo/libquorvan.so
 
 bench:
 	@tools/packages.sh build bench
