@@ -4,15 +4,17 @@ PREFIX ?= /usr/local
 # Debian's own, which the packages of tools/packages.sh belong to.
 PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 
-.PHONY: help demo check check-windows check-sanitizers check-all bench picture format tidy install clean
+.PHONY: help demo check check-windows check-sanitizers check-all docs gallery bench picture format tidy install clean
 
 help:
-	@echo 'make demo       the tour: a heart rate from a real recording'
+	@echo 'make demo       the tour: readings from real recordings'
 	@echo 'make check      build and run all tests'
 	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
 	@echo 'make check-windows  build quorvan.dll with MinGW-w64 and run its tests under Wine'
+	@echo 'make docs       the reference pages, with search, in build/reference/html'
+	@echo 'make gallery    draw docs/gallery again, each picture with the lines that made it'
 	@echo 'make bench      speed beside FFTW, NumPy and SciPy, as ratios'
-	@echo 'make picture    draw docs/ecg_spectrum.png again'
+	@echo 'make picture    draw the pictures in docs/ again'
 	@echo 'make format     bring all C and C++ files into the house format'
 	@echo 'make tidy       clang-tidy over the library'
 	@echo 'make install    install to PREFIX ($(PREFIX))'
@@ -53,6 +55,15 @@ check-windows:
 	$(call built,windows)
 	ctest --preset windows --parallel $(JOBS)
 
+docs:
+	@tools/packages.sh docs
+	$(PYTHON) tools/reference.py
+
+gallery:
+	@tools/packages.sh build picture
+	$(call built,demo)
+	$(PYTHON) tools/gallery.py --library build/demo/libquorvan.so
+
 bench:
 	@tools/packages.sh build bench
 	$(call built,bench)
@@ -62,6 +73,7 @@ picture:
 	@tools/packages.sh build picture
 	$(call built,demo)
 	$(PYTHON) tools/picture.py --library build/demo/libquorvan.so
+	$(PYTHON) tools/picture_trend.py --library build/demo/libquorvan.so
 
 format:
 	@tools/packages.sh format

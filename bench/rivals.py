@@ -16,6 +16,8 @@ for threads in ("OMP_NUM_THREADS", "OPENBLAS_NUM_THREADS", "MKL_NUM_THREADS"):
 
 import numpy as np  # noqa: E402
 import scipy.fft  # noqa: E402
+import scipy.interpolate  # noqa: E402
+import scipy.optimize  # noqa: E402
 import scipy.signal  # noqa: E402
 import scipy.special  # noqa: E402
 
@@ -29,6 +31,9 @@ WINDOW_SIZES = (256, 4096, 65536)
 FILTER_ORDERS = (2, 4, 8, 12, 16, 20)
 FILTER_BLOCKS = (64, 1024, 16384, 1048576)
 PEAK_SIZES = (1000, 100000, 1000000)
+FIR_SIZES = ((1000, 31), (10000, 101), (100000, 31), (100000, 301), (1000000, 101))
+MEDIAN_SIZES = ((1000, 2), (100000, 2), (100000, 10), (100000, 50))
+EXCHANGE_TAPS = (31, 101, 201, 401)
 
 
 @dataclass
@@ -218,6 +223,55 @@ def cascade_cases(library):
                            cleanup=[lambda h=handle, s=state: (release(h), release(s))])
 
 
+FIT_SIZES = (10, 100, 1000, 10000)
+# Name, number, argument types and Quorvan's arguments, the model for SciPy, the coefficients of the data, SciPy's start.
+# The Gaussian has no closed start in SciPy: it gets one near the truth, as a user would give it.
+FIT_MODELS = (
+    ("line", 288, "pppicdpppp", "px, py, None, n, 0, -1.0, pf, *pc[:2], pr", lambda x, a, b: a * x + b, (2.0, 1.0), None),
+    ("exponential", 286, "pppicdpppp", "px, py, None, n, 0, -1.0, pf, *pc[:2], pr",
+     lambda x, a, b: a * np.exp(b * x), (1.5, 0.6), None),
+    ("power", 290, "pppicdpppp", "px, py, None, n, 0, -1.0, pf, *pc[:2], pr", lambda x, a, b: a * x ** b, (2.0, 1.3), None),
+    ("logarithm", 289, "pppidcdpppp", "px, py, None, n, 2.71828, 0, -1.0, pf, *pc[:2], pr",
+     lambda x, a, b: a * np.log(b * x), (1.7, 2.2), None),
+    ("gaussian", 287, "pppicdpppppp", "px, py, None, n, 0, -1.0, None, pf, *pc, pr",
+     lambda x, a, m, s: a * np.exp(-0.5 * ((x - m) / s) ** 2), (3.0, 2.0, 0.7), (2.5, 2.2, 0.9)),
+)
+
+
+def fit_cases(library):
+    """Least squares only: of robust fits SciPy has other methods. Checks are loose where the ends of iterations differ."""
+    for n in FIT_SIZES:
+        x, f, c, error = aligned(n), aligned(n), aligned(9), np.zeros(1)
+        x[:] = np.linspace(0.5, 4, n)
+        common = dict(n=n, x=x, px=address(x), pf=address(f), pcs=address(c), pr=address(error), out=c)
+        line = 2 * x + 1 + 0.05 * noise(n, 1)
+        y = aligned(n)
+        y[:] = line
+        for order in (1, 3, 8):
+            names = dict(common, f=library.call(137, "ppicppp"), y=y, py=address(y), order=order, polyfit=np.polyfit)
+            yield Case(f"fit_polynomial_{order}", str(n), "f(px, py, n, order, pf, pcs, pr)", "polyfit(x, y, order)", names,
+                       "numpy.allclose(kept[:order + 1], polyfit(x, y, order)[::-1], rtol=1e-4, atol=1e-4)")
+        for columns in (3, 8):
+            design = noise(n * columns, 2).reshape(n, columns)
+            names = dict(common, f=library.call(239, "piippc"), y=y, py=address(y), d=design, pd=address(design), k=columns,
+                         lstsq=np.linalg.lstsq)
+            yield Case(f"fit_general_{columns}", str(n), "f(pd, n, k, py, pcs, 0)", "lstsq(d, y, rcond=None)", names,
+                       "numpy.allclose(kept[:k], lstsq(d, y, rcond=None)[0], rtol=1e-9, atol=1e-9)")
+        second = aligned(n)
+        names = dict(common, f=library.call(164, "ppiddp"), y=y, py=address(y), out=second, pout=address(second),
+                     CubicSpline=scipy.interpolate.CubicSpline)
+        yield Case("fit_spline", str(n), "f(px, py, n, 1e30, 1e30, pout)", "CubicSpline(x, y, bc_type='natural')", names,
+                   "numpy.allclose(kept, CubicSpline(x, y, bc_type='natural')(x, 2), rtol=1e-6, atol=1e-3)")
+        for name, number, types, arguments, model, truth, start in FIT_MODELS:
+            z = aligned(n)
+            z[:] = model(x, *truth) + 0.05 * noise(n, 1)
+            pc = [ctypes.c_void_p(c.ctypes.data + 8 * j) for j in range(3)]
+            names = dict(common, f=library.call(number, types), y=z, py=address(z), pc=pc, model=model, start=start,
+                         curve_fit=scipy.optimize.curve_fit, k=len(truth))
+            yield Case(f"fit_{name}", str(n), f"f({arguments})", "curve_fit(model, x, y, start)", names,
+                       "numpy.allclose(kept[:k], curve_fit(model, x, y, start)[0], rtol=0.05)")
+
+
 def peak_cases(library):
     """Windows of three samples find the local maxima above the threshold, and interpolate them besides; an apex between
     samples may pass a threshold that its sample does not, so there is none."""
@@ -230,6 +284,34 @@ def peak_cases(library):
         yield Case("peaks_3", str(n), "r(int(a[0])); r(int(a[1])); r(int(a[2])); "
                    "f(px, n, low, 3, 0, 1, 1, pout, p0, p1, p2)", "find_peaks(x, height=low)", names,
                    "kept[0] == len(find_peaks(x)[0])")
+
+
+# Name, number, argument types, Quorvan's arguments, NumPy's statement, what must agree; out holds Quorvan's values.
+DECOMPOSITIONS = (
+    ("svd", 193, "piippp", "pa, n, n, pu, pout, pv", "r = svd(a, full_matrices=False)", "r[1]"),
+    ("singular_values", 195, "piip", "pa, n, n, pout", "r = svd(a, compute_uv=False)", "r"),
+    ("symmetric_eigen", 202, "picpp", "pa, n, 1, pout, pu", "r = eigh(a)", "r[0]"),
+    ("general_eigen", 201, "picpp", "pa, n, 1, pout, pu", "r = eig(a)", "r[0]"),
+    ("qr", 192, "piicpp", "pa, n, n, 0, pu, pout", "r = qr(a)", "r[1]"),
+)
+DECOMPOSITION_SIZES = (8, 64, 512)
+
+
+def decomposition_cases(library):
+    """The same matrices as bench/linalg_eigen_bench.cpp measures: uniform, symmetric where it must be."""
+    for name, number, types, arguments, statement, values in DECOMPOSITIONS:
+        for n in DECOMPOSITION_SIZES:
+            a, u, v = noise(n * n, 1).reshape(n, n), aligned(n * n, np.complex128), aligned(n * n)
+            if name == "symmetric_eigen":
+                a[:] = np.triu(a) + np.triu(a, 1).T
+            out = {"general_eigen": aligned(n, np.complex128), "qr": aligned(n * n)}.get(name)
+            out = aligned(n) if out is None else out
+            names = dict(f=library.call(number, types), a=a, u=u, v=v, out=out, n=n, pa=address(a), pu=address(u),
+                         pv=address(v), pout=address(out), svd=np.linalg.svd, eigh=np.linalg.eigh, eig=np.linalg.eig,
+                         qr=np.linalg.qr)
+            # Signs and the order of eigenvalues are free.
+            same = f"numpy.allclose(numpy.sort(abs(kept)), numpy.sort(abs({values}).ravel()), rtol=1e-8, atol=1e-8)"
+            yield Case(name, str(n), f"f({arguments})", statement, names, same)
 
 
 # Name, number, argument types, Quorvan's call, NumPy's statement with the legacy generator and with the new one, mean and
@@ -263,6 +345,39 @@ def random_cases(library, generator):
             yield Case(f"random_{name}", str(n), call, legacy if generator == "legacy" else new, names, same)
 
 
+def fir_cases(library):
+    """Filtering with given taps beside lfilter; design and filtering in one call beside fftconvolve, whose taps are made
+    beforehand; medians; the exchange. Names are those of bench/fir_bench.cpp."""
+    direct, window = library.call(352, "pippcp"), library.call(481, "picddcdp")
+    for n, taps in FIR_SIZES:
+        x, h, out = noise(n, 1), scipy.signal.firwin(taps, 0.1, window="hamming", scale=False, fs=1.0), aligned(n)
+        state, longer = np.zeros(taps - 1), aligned(n + taps - 1)
+        names = dict(f=direct, x=x, h=h, out=out, n=n, taps=taps, px=address(x), ph=address(h), pout=address(out),
+                     ps=address(state), state=state, lfilter=scipy.signal.lfilter)
+        yield Case("fir_direct", f"{n}x{taps}", "state.fill(0); f(px, n, ph, ps, taps, pout)", "lfilter(h, 1.0, x)", names,
+                   "numpy.allclose(kept, lfilter(h, 1.0, x), rtol=0, atol=1e-12)")
+        names = dict(f=window, x=x, h=h, out=longer, n=n, taps=taps, px=address(x), pout=address(longer),
+                     fftconvolve=scipy.signal.fftconvolve)
+        yield Case("fir_window", f"{n}x{taps}", "f(px, n, taps, 1.0, 0.1, 2, 0.0, pout)", "fftconvolve(x, h)", names,
+                   "numpy.allclose(kept, fftconvolve(x, h), rtol=0, atol=1e-12)")
+    median = library.call(407, "piccp")
+    for n, rank in MEDIAN_SIZES:
+        x, out = noise(n, 1), aligned(n)
+        names = dict(f=median, x=x, out=out, n=n, rank=rank, px=address(x), pout=address(out),
+                     medfilt=scipy.signal.medfilt)
+        yield Case("median", f"{n}x{2 * rank + 1}", "f(px, n, rank, -1, pout)", "medfilt(x, 2 * rank + 1)", names,
+                   "numpy.array_equal(kept, medfilt(x, 2 * rank + 1))")
+    exchange = library.call(69, "dddcpp")
+    for taps in EXCHANGE_TAPS:
+        out, delta = aligned(taps), np.zeros(1)
+        names = dict(f=exchange, out=out, taps=taps, width=4.0 / taps, pout=address(out), pdelta=address(delta),
+                     remez=scipy.signal.remez)
+        yield Case("exchange", str(taps), "f(1.0, 0.2, 0.2 + width, taps, pout, pdelta)",
+                   "remez(taps, [0, 0.2, 0.2 + width, 0.5], [1, 0], fs=1.0, maxiter=99)", names,
+                   "numpy.allclose(kept, remez(taps, [0, 0.2, 0.2 + width, 0.5], [1, 0], fs=1.0, maxiter=99), rtol=0, "
+                   "atol=1e-12)")
+
+
 # Name, interval, Quorvan's value at x, SciPy's statement.
 SPECIAL = (
     ("gamma", 0.1, 30.0, "f309(x, None)", "s.gamma(x, out)"),
@@ -288,10 +403,31 @@ SPECIAL = (
     ("hyperg_2f1", -0.9, 0.9, "f386(x, 1.3, 0.4, 2.7)", "s.hyp2f1(1.3, 0.4, 2.7, x, out)"),
     ("hyperg_2f1_t", -0.9, 0.9, "f315(x, 1.3, 0.4, 2.7)", "s.hyp2f1(1.3, 0.4, 2.7, x, out)"),
     ("parabolic", 0.0, 2.0, "f327(x, 0.5)", "s.pbdv(0.5, x, out, more[0])"),
+    ("bessel_j0", 0.1, 50.0, "f302(0.0, x)", "s.j0(x, out)"),
+    ("bessel_y0", 0.1, 50.0, "f301(0.0, x)", "s.y0(x, out)"),
+    ("bessel_j1", 0.1, 50.0, "f302(1.0, x)", "s.j1(x, out)"),
+    ("bessel_y1", 0.1, 50.0, "f301(1.0, x)", "s.y1(x, out)"),
+    ("bessel_j5", 0.1, 50.0, "f302(5.0, x)", "s.jn(5, x, out)"),
+    ("bessel_jv", 0.1, 50.0, "f302(2.3, x)", "s.jv(2.3, x, out)"),
+    ("bessel_yv", 0.1, 50.0, "f301(2.3, x)", "s.yv(2.3, x, out)"),
+    ("bessel_j40", 0.1, 100.0, "f302(40.5, x)", "s.jv(40.5, x, out)"),
+    ("spherical_j", 0.1, 50.0, "f303(3, x)", "out[:] = s.spherical_jn(3, x)"),
+    ("spherical_y", 0.1, 50.0, "f304(3, x)", "out[:] = s.spherical_yn(3, x)"),
+    ("bessel_i0", 0.1, 50.0, "f305(0.0, x)", "s.i0(x, out)"),
+    ("bessel_iv", 0.1, 50.0, "f305(2.3, x)", "s.iv(2.3, x, out)"),
+    ("bessel_i5", 0.1, 50.0, "f305(5.0, x)", "s.iv(5, x, out)"),
+    ("bessel_k0", 0.1, 50.0, "f306(0, x)", "s.k0(x, out)"),
+    ("bessel_k5", 0.1, 50.0, "f306(5, x)", "s.kn(5, x, out)"),
+    ("struve", 0.1, 50.0, "f328(0.5, x)", "s.struve(0.5, x, out)"),
+    ("struve_0", 0.1, 50.0, "f328(0.0, x)", "s.struve(0.0, x, out)"),
+    ("airy", -20.0, 20.0, "first(f330, 2, x)", "s.airy(x, out=(out, *more))"),
+    ("kelvin_be", 0.1, 30.0, "first(f333, 2, x, 0)", "s.ber(x, out)"),
+    ("kelvin_ke", 0.1, 30.0, "first(f334, 2, x, 0)", "s.ker(x, out)"),
 )
-SPECIAL_TYPES = {309: "dp", 312: "d", 313: "d", 307: "ddp", 329: "d", 315: "dddd", 316: "ddd", 317: "ddd", 318: "dp",
-                 319: "dp", 320: "d", 321: "dc", 322: "d", 323: "d", 324: "d", 325: "d", 327: "dd", 331: "dpp",
-                 332: "ddpppp", 386: "dddd"}
+SPECIAL_TYPES = {301: "dd", 302: "dd", 303: "cd", 304: "cd", 305: "dd", 306: "cd", 307: "ddp", 309: "dp", 312: "d",
+                 313: "d", 315: "dddd", 316: "ddd", 317: "ddd", 318: "dp", 319: "dp", 320: "d", 321: "dc", 322: "d",
+                 323: "d", 324: "d", 325: "d", 327: "dd", 328: "dd", 329: "d", 330: "dpp", 331: "dpp", 332: "ddpppp",
+                 333: "dcp", 334: "dcp", 386: "dddd"}
 SPECIAL_TOLERANCE = {"parabolic": 1e-7, "hyperg_u": 1e-6}  # Quorvan's short Gamma series; SciPy's errors
 SPECIAL_POINTS = 1000
 
@@ -301,9 +437,9 @@ def special_times(library, effort):
     functions = {f"f{number}": library.call(number, types, ctypes.c_double) for number, types in SPECIAL_TYPES.items()}
 
     def first(function, outputs, *arguments):
-        values = [ctypes.c_double() for _ in range(outputs)]
-        function(*arguments, *map(ctypes.byref, values))
-        return values[0].value
+        values = (ctypes.c_double * outputs)()
+        function(*arguments, *(ctypes.byref(values, 8 * k) for k in range(outputs)))
+        return values[0]
 
     functions["first"] = first
     functions["double"] = lambda value: ctypes.byref(ctypes.c_double(value))

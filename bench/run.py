@@ -15,11 +15,14 @@ import pathlib
 import platform
 import subprocess
 import sys
+from collections.abc import Callable
+from dataclasses import dataclass, field
 
 import rivals
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-PROGRAMS = {"fft": "fft_bench", "arrays": "array_bench", "signals": "signal_bench",
+PROGRAMS = {"fft": "fft_bench", "arrays": "array_bench", "signals": "signal_bench", "random": "random_bench",
+            "pulses": "pulse_bench", "tones": "tone_bench", "filters": "filter_bench", "linalg": "linalg_bench",
             "special": "special_bench"}
 COMMAND = "cmake --preset bench && cmake --build --preset bench && bench/run.py"
 DIFFERENCE = 0.05  # a C++ time further than this from the time through ctypes does not stand for it
@@ -33,7 +36,7 @@ class Plain:
     """Best seconds of the C++ programs, by (group, contender, size)."""
 
     def __init__(self):
-        self.times, self.context = {}, {}
+        self.times, self.context, self.program_of = {}, {}, {}
 
     def run(self, program, effort):
         progress(f"== {program.name}")
@@ -46,6 +49,7 @@ class Plain:
                 continue
             assert entry["time_unit"] == "ns", entry
             key = tuple(entry["run_name"].split("/"))
+            self.program_of[key[0]] = program.name
             self.times[key] = min(self.times.get(key, math.inf), entry["cpu_time"] * 1e-9)
 
     def get(self, group, contender, size):
@@ -249,6 +253,65 @@ def window_section(library, plain, report, effort):
                    [[c.group.removeprefix("window_"), c.size, *c.cells()] for c in found], closing(found))
 
 
+@dataclass
+class RivalSection:
+    """A table of cases of rivals.py that needs nothing of its own; wanted bounds of the ratios, where there are some."""
+    program: str
+    title: str
+    notes: str
+    cases: Callable
+    rival: str
+    prefix: str = ""
+    least: float = None
+    mean: float = None
+    # Other contenders of the C++ program, by name, with the title of their column: time over time of Quorvan.
+    others: dict = field(default_factory=dict)
+
+    def add(self, library, plain, report, effort):
+        found = compare(self.cases(library), plain, effort)
+        rows = []
+        for c in found:
+            times = [plain.times.get((c.group, other, c.size)) for other in self.others]
+            rows.append([c.group.removeprefix(self.prefix), c.size, *c.cells(),
+                         *(f"{t / c.plain:.2f}" if t else "" for t in times)])
+        report.section(self.title, self.notes,
+                       ["case", "size", "C++, us", "ctypes, us", f"{self.rival}, us", *RATIO_HEADER,
+                        *self.others.values()], rows, closing(found))
+        ratios = [c.ratio for c in found]
+        if self.mean:
+            report.goal(f"{self.title}: geometric mean", mean(ratios), ">=", self.mean)
+        if self.least:
+            report.goal(f"{self.title}: least", min(ratios), ">=", self.least)
+
+
+RIVAL_SECTIONS = (
+    RivalSection("random", "Random numbers beside NumPy's legacy generator",
+                 "Other numbers of the same distributions: their means are compared. *Plain C*: the stated recurrence "
+                 "as anybody would write it.", lambda library: rivals.random_cases(library, "legacy"), "NumPy",
+                 "random_", others={"plain": "plain C"}),
+    RivalSection("random", "Random numbers beside NumPy's new generator", "As above.",
+                 lambda library: rivals.random_cases(library, "new"), "NumPy", "random_"),
+    RivalSection("pulses", "Peak detection beside SciPy",
+                 "`PeakDetect` with windows of three on noise, where a third of the samples is a peak, beside "
+                 "`scipy.signal.find_peaks`, which finds the samples and interpolates nothing.", rivals.peak_cases,
+                 "SciPy"),
+    RivalSection("filters", "Cascades of stages beside SciPy",
+                 "A lowpass of the order before the sign, over so many samples, beside `scipy.signal.sosfilt`.",
+                 rivals.cascade_cases, "SciPy", "cascade_", least=1.0, mean=2.0),
+    RivalSection("linalg", "Matrices beside NumPy and the bare provider",
+                 "The same LAPACK and BLAS, on one thread, behind all three. *Bare LAPACK*: the routine on copies made "
+                 "by `memcpy`.", rivals.matrix_cases, "NumPy", "linalg_", least=1.0, others={"bare": "bare LAPACK"}),
+)
+
+
+def throughput_section(plain, report, program, title):
+    rows = [[group, size, micro(seconds), f"{int(size) / seconds * 1e-6:.1f}"]
+            for (group, contender, size), seconds in plain.times.items()
+            if contender == "quorvan" and plain.program_of[group] == program]
+    report.section(title, "Samples through a whole measurement.",
+                   ["measurement", "samples", "C++, us", "million samples a second"], rows)
+
+
 def special_section(library, plain, report, effort):
     rows, ratios, gsl_ratios = [], [], []
     for name, scipy_time in rivals.special_times(library, effort):
@@ -330,6 +393,13 @@ def main():
     if "signals" in chosen:
         convolution_section(library, plain, report, effort)
         window_section(library, plain, report, effort)
+    for section in RIVAL_SECTIONS:
+        if section.program in chosen:
+            section.add(library, plain, report, effort)
+    if "pulses" in chosen:
+        throughput_section(plain, report, PROGRAMS["pulses"], "Pulse and peak measurements")
+    if "tones" in chosen:
+        throughput_section(plain, report, PROGRAMS["tones"], "Tone measurements")
     if "special" in chosen:
         special_section(library, plain, report, effort)
 

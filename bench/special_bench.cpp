@@ -53,6 +53,25 @@ double GslJacobiSine(double u) {
 }
 #endif
 
+
+double AiryAi(double x) {
+    double ai, bi;
+    ZemFunc330(x, &ai, &bi);
+    return ai;
+}
+
+double Ber(double x) {
+    QvComplex out;
+    ZemFunc333(x, 0, &out);
+    return out.re;
+}
+
+double Ker(double x) {
+    QvComplex out;
+    ZemFunc334(x, 0, &out);
+    return out.re;
+}
+
 // Intervals and parameters as bench/rivals.py gives them to SciPy.
 const Case kCases[] = {
     {"gamma", 0.1, 30.0, [](double x) { return ZemFunc309(x, nullptr); }, QV_RIVAL(gsl_sf_gamma(x))},
@@ -85,6 +104,28 @@ const Case kCases[] = {
     {"hyperg_2f1_t", -0.9, 0.9, [](double x) { return ZemFunc315(x, 1.3, 0.4, 2.7); },
      QV_RIVAL(gsl_sf_hyperg_2F1(1.3, 0.4, 2.7, x))},
     {"parabolic", 0.0, 2.0, [](double x) { return ZemFunc327(x, 0.5); }, nullptr},
+
+
+    {"bessel_j0", 0.1, 50.0, [](double x) { return ZemFunc302(0, x); }, QV_RIVAL(gsl_sf_bessel_J0(x))},
+    {"bessel_y0", 0.1, 50.0, [](double x) { return ZemFunc301(0, x); }, QV_RIVAL(gsl_sf_bessel_Y0(x))},
+    {"bessel_j1", 0.1, 50.0, [](double x) { return ZemFunc302(1, x); }, QV_RIVAL(gsl_sf_bessel_J1(x))},
+    {"bessel_y1", 0.1, 50.0, [](double x) { return ZemFunc301(1, x); }, QV_RIVAL(gsl_sf_bessel_Y1(x))},
+    {"bessel_j5", 0.1, 50.0, [](double x) { return ZemFunc302(5, x); }, QV_RIVAL(gsl_sf_bessel_Jn(5, x))},
+    {"bessel_jv", 0.1, 50.0, [](double x) { return ZemFunc302(2.3, x); }, QV_RIVAL(gsl_sf_bessel_Jnu(2.3, x))},
+    {"bessel_yv", 0.1, 50.0, [](double x) { return ZemFunc301(2.3, x); }, QV_RIVAL(gsl_sf_bessel_Ynu(2.3, x))},
+    {"bessel_j40", 0.1, 100.0, [](double x) { return ZemFunc302(40.5, x); }, QV_RIVAL(gsl_sf_bessel_Jnu(40.5, x))},
+    {"spherical_j", 0.1, 50.0, [](double x) { return ZemFunc303(3, x); }, QV_RIVAL(gsl_sf_bessel_jl(3, x))},
+    {"spherical_y", 0.1, 50.0, [](double x) { return ZemFunc304(3, x); }, QV_RIVAL(gsl_sf_bessel_yl(3, x))},
+    {"bessel_i0", 0.1, 50.0, [](double x) { return ZemFunc305(0, x); }, QV_RIVAL(gsl_sf_bessel_I0(x))},
+    {"bessel_iv", 0.1, 50.0, [](double x) { return ZemFunc305(2.3, x); }, QV_RIVAL(gsl_sf_bessel_Inu(2.3, x))},
+    {"bessel_i5", 0.1, 50.0, [](double x) { return ZemFunc305(5, x); }, QV_RIVAL(gsl_sf_bessel_In(5, x))},
+    {"bessel_k0", 0.1, 50.0, [](double x) { return ZemFunc306(0, x); }, QV_RIVAL(gsl_sf_bessel_K0(x))},
+    {"bessel_k5", 0.1, 50.0, [](double x) { return ZemFunc306(5, x); }, QV_RIVAL(gsl_sf_bessel_Kn(5, x))},
+    {"struve", 0.1, 50.0, [](double x) { return ZemFunc328(0.5, x); }, nullptr},
+    {"struve_0", 0.1, 50.0, [](double x) { return ZemFunc328(0, x); }, nullptr},
+    {"airy", -20.0, 20.0, [](double x) { return AiryAi(x); }, QV_RIVAL(gsl_sf_airy_Ai(x, GSL_PREC_DOUBLE))},
+    {"kelvin_be", 0.1, 30.0, [](double x) { return Ber(x); }, nullptr},
+    {"kelvin_ke", 0.1, 30.0, [](double x) { return Ker(x); }, nullptr},
 };
 
 void Fill(Function function, const double* x, double* out) {

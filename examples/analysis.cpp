@@ -7,8 +7,6 @@
 namespace tour {
 namespace {
 
-std::int64_t Size(const std::vector<double>& x) { return static_cast<std::int64_t>(x.size()); }
-
 std::vector<double> WithoutMean(const Recording& recording) {
     const std::vector<double>& x = recording.samples;
     std::vector<double> centred(x.size());

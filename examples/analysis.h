@@ -1,6 +1,7 @@
 // What the tour measures: the steps from a recording to its readings, each one or two calls of the library.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,6 +10,9 @@
 #include "recording.h"
 
 namespace tour {
+
+// The number of samples as the library takes it.
+inline std::int64_t Size(const std::vector<double>& x) { return static_cast<std::int64_t>(x.size()); }
 
 // Throws a Failure with the library's text for a negative status.
 void Check(QvStatus status);

@@ -33,6 +33,42 @@ void Put(std::string& line, std::size_t column, const std::string& text) {
     line.replace(column, text.size(), text);
 }
 
+// The line under a picture, and the numbers under that.
+std::string Axis(double lowest, double highest, const std::string& unit) {
+    const double width = (highest - lowest) / kColumns;
+    std::string line, numbers;
+    for (int c = 0; c < kColumns; ++c) line += "─";
+    const double step = Step(highest - lowest);
+    const double lastNumber = highest - 6 * width;  // room for the unit
+    for (int k = static_cast<int>(std::ceil(lowest / step)); k * step < lastNumber; ++k)
+        Put(numbers, kMargin + static_cast<std::size_t>((k * step - lowest) / width), Text("%.4g", k * step));
+    Put(numbers, kMargin + kColumns, unit);
+    return line + "\n" + numbers + "\n";
+}
+
+// Dots, two by four a character: the braille patterns from U+2800 on.
+class Dots {
+public:
+    static constexpr int kWide = 2 * kColumns, kHigh = 4 * kRows;
+
+    void Set(int x, int y) {  // from the lower left
+        constexpr unsigned kBits[4][2] = {{0x40, 0x80}, {0x04, 0x20}, {0x02, 0x10}, {0x01, 0x08}};
+        cells_[y / 4][x / 2] |= kBits[y % 4][x % 2];
+    }
+    std::string Row(int row) const {
+        std::string text;
+        std::size_t used = 0;
+        for (const unsigned bits : cells_[row]) {
+            text += {char(0xE2), char(0xA0 + (bits >> 6)), char(0x80 + (bits & 0x3F))};
+            if (bits != 0) used = text.size();
+        }
+        return text.substr(0, used);
+    }
+
+private:
+    unsigned cells_[kRows][kColumns] = {};
+};
+
 }  // namespace
 
 std::string DrawSpectrum(const std::vector<double>& values, double df, double lowest, double highest,
@@ -66,17 +102,53 @@ std::string DrawSpectrum(const std::vector<double>& values, double df, double lo
         out += bars.substr(0, used) + "\n";
     }
 
-    out += "        0 └";
-    for (int c = 0; c < kColumns; ++c) out += "─";
-    std::string numbers;
-    const double step = Step(highest - lowest);
-    const double lastNumber = highest - 6 * width;  // room for the unit
-    for (double k = std::ceil(lowest / step); k * step < lastNumber; ++k)
-        Put(numbers, kMargin + column(k * step), Text("%.4g", k * step));
-    Put(numbers, kMargin + kColumns, "Hz");
-    out += "\n" + numbers + "\n";
+    out += "        0 └" + Axis(lowest, highest, "Hz");
     if (inside(column(mark.frequency)))
         out += std::string(kMargin + column(mark.frequency), ' ') + "▲ " + mark.text + "\n";
+    return out;
+}
+
+std::string DrawTrace(const std::vector<double>& values, double first, double step, const std::string& unit,
+                      const std::string& axis, const std::vector<double>& marks) {
+    const auto [least, most] = std::minmax_element(values.begin(), values.end());
+    const double low = *least, range = std::max(*most - low, 1e-300);
+    const double share = static_cast<double>(Dots::kWide) / static_cast<double>(values.size());
+    const auto height = [&](double value) {
+        return static_cast<int>(std::lround((value - low) / range * (Dots::kHigh - 1)));
+    };
+
+    // Each dot column holds the range of its samples, and reaches to the sample before, so that the line has no holes.
+    Dots dots;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const int x = static_cast<int>(static_cast<double>(i) * share);
+        const int to = height(values[i]), from = i == 0 ? to : height(values[i - 1]);
+        for (int y = std::min(from, to); y <= std::max(from, to); ++y) dots.Set(x, y);
+    }
+
+    std::string out = "  " + unit + "\n";
+    for (int row = kRows - 1; row >= 0; --row) {
+        if (row == kRows - 1)
+            out += Text("%9.3g ┤", *most);
+        else if (row == 0)
+            out += Text("%9.3g ┤", low);
+        else
+            out += "          │";
+        out += dots.Row(row) + "\n";
+    }
+    const double last = first + step * static_cast<double>(values.size());
+    out += "          └" + Axis(first, last, axis);
+
+    std::vector<std::string> under(kColumns, " ");
+    for (const double mark : marks) {
+        const double column = (mark - first) / (last - first) * kColumns;
+        if (column >= 0.0 && column < kColumns) under[static_cast<std::size_t>(column)] = "▲";
+    }
+    if (!marks.empty()) {
+        out += std::string(kMargin, ' ');
+        for (const std::string& character : under) out += character;
+        out.erase(out.find_last_not_of(' ') + 1);
+        out += "\n";
+    }
     return out;
 }
 

@@ -71,6 +71,34 @@ Recording ReadRecording(const std::string& path, double rate) {
     return recording;
 }
 
+Series ReadSeries(const std::string& path) {
+    std::ifstream file(path);
+    if (!file) throw Failure(path + ": " + std::strerror(errno));
+
+    Series series{{}, {}, 0};
+    std::string line;
+    std::getline(file, line);
+    for (std::size_t number = 2; std::getline(file, line); ++number) {
+        const std::optional<double> x = Number(line.substr(0, line.find(',')));
+        const std::string field = LastField(line);
+        const std::optional<double> y = Number(field);
+        if (!x || (!y && !field.empty()))
+            throw Failure(path + ", line " + std::to_string(number) + ": no pair of numbers");
+        if (!y) {
+            ++series.gaps;
+            continue;
+        }
+        series.x.push_back(*x);
+        series.y.push_back(*y);
+    }
+    if (file.bad() || series.x.size() < kFewestSamples) throw Failure(path + ": cannot be read");
+    return series;
+}
+
+std::string Example(const std::string& file) { return std::string(TOUR_DATA) + "/" + file; }
+
+Recording Electrocardiogram() { return ReadRecording(Example("ecg.csv"), 360.0); }
+
 Recording MakeTones(const std::vector<Tone>& tones, double offset, double rate, std::size_t count) {
     Recording recording{"two tones", "V", rate, std::vector<double>(count, offset)};
     const auto n = static_cast<std::int64_t>(count);

@@ -42,4 +42,29 @@ inline Status MatQrComplex(ComplexRecord* a, Count m, Count n, bool economy, Com
     return MatQr(a, m, n, economy, q, r);
 }
 
+// Method 0 MatQr in full form, 1 Givens rotations, 2 fast Givens rotations (linalg/givens.h), others -20061.
+Status MatQrMethod(double* a, Count m, Count n, std::uint32_t method, double* q, double* r) noexcept;
+
+// A·P = Q·R with the columns in the order pivots[n], zero-based. Pivot mode 0: no pivoting, the identity order; 1 and
+// 2: by the largest remaining column; others -20061. Q null: not formed; R null: over A.
+template <class T>
+Status MatQrPivot(T* a, Count m, Count n, std::uint32_t pivotMode, bool economy, Count* pivots, T* q, T* r) noexcept;
+
+// A = Q·H·Q^H with H zero below its first subdiagonal; A is triangular outside rows and columns low to high, -20017
+// unless 0 <= low <= high < n. H null: over A.
+template <class T>
+Status MatHessenberg(T* a, Count n, Count low, Count high, T* h, T* q) noexcept;
+
+// Job 0 nothing, 1 permutation, 2 scaling, 3 both, others -20061. low and high, zero-based, bound the part that is not
+// triangular; `scale` is as the provider gives it: factors from low to high, elsewhere one-based indices of
+// interchanges. `balanced` null: over A.
+template <class T>
+Status MatBalance(T* a, Count n, std::uint32_t job, Count* low, Count* high, double* scale, T* balanced) noexcept;
+
+// From the eigenvectors of the balanced matrix (columns; side 0 right, 1 left) to those of the matrix itself. -20061
+// for another job or side, -20017 where the limits or the interchanges of `scale` leave the matrix. `out` null: over V.
+template <class T>
+Status MatBalanceBack(T* v, Count n, std::uint32_t job, std::uint32_t side, Count low, Count high, const double* scale,
+                      T* out) noexcept;
+
 }  // namespace quorvan

@@ -68,6 +68,7 @@ Status MatEigenGeneral(const double* a, Count n, std::uint32_t wantVectors, Comp
                        ComplexRecord* vectors) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
     if (wantVectors > 1) return status::kInvalidSelection;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     const auto order = static_cast<std::size_t>(n);
     const ProviderBlock<double> copy = GeneralCopy(a, n, wantVectors);
@@ -93,6 +94,7 @@ Status MatEigenSymmetric(const double* a, Count n, std::uint32_t wantVectors, do
                          double* vectors) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
     if (wantVectors > 1) return status::kInvalidSelection;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     const ProviderBlock<double> copy = Copied(a, n, n);
     const Block<double> found(static_cast<std::size_t>(n));
@@ -117,6 +119,7 @@ Status MatEigenComplex(const ComplexRecord* a, Count n, Count kind, std::uint32_
     if (n < 1) return status::kSamplesNotPositive;
     if (kind != 0 && kind != 1) return status::kInvalidSelection;
     if (wantVectors > 1) return status::kInvalidSelection;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     return (kind == 0 ? General : Hermitian)(a, n, wantVectors == 1, values, vectors);
 }

@@ -28,6 +28,11 @@ Block<double> RealWork(std::size_t count) noexcept {
     return Block<double>(kIsComplex<T> ? count : 0);
 }
 
+// What a conjugate transposition is to the provider.
+template <class T>
+inline constexpr auto kConjugation =
+    kIsComplex<T> ? provider::Transposition::kConjugated : provider::Transposition::kTransposed;
+
 // Singular values
 
 inline Count Gesdd(char job, Count m, Count n, double* a, Count lda, double* s, double* u, Count ldu, double* vt,
@@ -117,6 +122,111 @@ inline Count Heevd(char job, char triangle, Count n, ComplexRecord* a, double* v
     Count info = 0;
     provider::QV_LAPACK(zheevd)(&job, &triangle, &n, a, &n, values, work, &lwork, rwork, &lrwork, iwork, &liwork, &info,
                                 1, 1);
+    return info;
+}
+
+// Schur form. `select` null: nothing is sorted, and bwork may be null.
+
+inline Count Gees(char job, provider::SelectReal select, Count n, double* a, double* re, double* im, double* vectors,
+                  double* work, Count lwork, Count* bwork) noexcept {
+    Count info = 0, chosen = 0;
+    provider::QV_LAPACK(dgees)(&job, select ? "S" : "N", select, &n, a, &n, &chosen, re, im, vectors, &n, work, &lwork,
+                               bwork, &info, 1, 1);
+    return info;
+}
+inline Count Gees(char job, provider::SelectComplex select, Count n, ComplexRecord* a, ComplexRecord* values,
+                  ComplexRecord* vectors, ComplexRecord* work, Count lwork, double* rwork, Count* bwork) noexcept {
+    Count info = 0, chosen = 0;
+    provider::QV_LAPACK(zgees)(&job, select ? "S" : "N", select, &n, a, &n, &chosen, values, vectors, &n, work, &lwork,
+                               rwork, bwork, &info, 1, 1);
+    return info;
+}
+
+// Moves the diagonal block at row `from` to row `to`, both one-based. q null: the vectors do not follow.
+inline Count Trexc(Count n, double* t, double* q, Count from, Count to, double* work) noexcept {
+    Count info = 0;
+    provider::QV_LAPACK(dtrexc)(q ? "V" : "N", &n, t, &n, q, &n, &from, &to, work, &info, 1);
+    return info;
+}
+inline Count Trexc(Count n, ComplexRecord* t, ComplexRecord* q, Count from, Count to) noexcept {
+    Count info = 0;
+    provider::QV_LAPACK(ztrexc)(q ? "V" : "N", &n, t, &n, q, &n, &from, &to, &info, 1);
+    return info;
+}
+
+// Generalised Schur form
+
+// q, z null: not formed.
+inline Count Gges(Count n, double* a, double* b, double* re, double* im, double* beta, double* q, double* z,
+                  double* work, Count lwork) noexcept {
+    Count info = 0, chosen = 0;
+    provider::QV_LAPACK(dgges)(q ? "V" : "N", z ? "V" : "N", "N", nullptr, &n, a, &n, b, &n, &chosen, re, im, beta, q,
+                               &n, z, &n, work, &lwork, nullptr, &info, 1, 1, 1);
+    return info;
+}
+
+// Q is multiplied into q; Z is formed anew.
+template <class T>
+Count Gghrd(Count n, T* a, T* b, T* q, T* z) noexcept {
+    Count info = 0;
+    const Count first = 1;
+    Provider<T>::gghrd("V", "I", &n, &first, &n, a, &n, b, &n, q, &n, z, &n, &info, 1, 1);
+    return info;
+}
+
+// The Schur form of a Hessenberg-triangular pencil; q and z are multiplied into.
+inline Count Hgeqz(Count n, double* h, double* t, double* re, double* im, double* beta, double* q, double* z,
+                   double* work, Count lwork) noexcept {
+    Count info = 0;
+    const Count first = 1;
+    provider::QV_LAPACK(dhgeqz)("S", "V", "V", &n, &first, &n, h, &n, t, &n, re, im, beta, q, &n, z, &n, work, &lwork,
+                                &info, 1, 1, 1);
+    return info;
+}
+inline Count Hgeqz(Count n, ComplexRecord* h, ComplexRecord* t, ComplexRecord* alpha, ComplexRecord* beta,
+                   ComplexRecord* q, ComplexRecord* z, ComplexRecord* work, Count lwork, double* rwork) noexcept {
+    Count info = 0;
+    const Count first = 1;
+    provider::QV_LAPACK(zhgeqz)("S", "V", "V", &n, &first, &n, h, &n, t, &n, alpha, beta, q, &n, z, &n, work, &lwork,
+                                rwork, &info, 1, 1, 1);
+    return info;
+}
+
+// All eigenvectors: `left` and `right` hold Q and Z and become the vectors; null: not wanted. work: 6n doubles, or 2n
+// records and 2n doubles.
+inline Count Tgevc(Count n, const double* s, const double* t, double* left, double* right, double* work,
+                   double*) noexcept {
+    Count info = 0, found = 0;
+    provider::QV_LAPACK(dtgevc)(!right  ? "L"
+                                : !left ? "R"
+                                        : "B",
+                                "B", nullptr, &n, s, &n, t, &n, left, &n, right, &n, &n, &found, work, &info, 1, 1);
+    return info;
+}
+inline Count Tgevc(Count n, const ComplexRecord* s, const ComplexRecord* t, ComplexRecord* left, ComplexRecord* right,
+                   ComplexRecord* work, double* rwork) noexcept {
+    Count info = 0, found = 0;
+    provider::QV_LAPACK(ztgevc)(!right  ? "L"
+                                : !left ? "R"
+                                        : "B",
+                                "B", nullptr, &n, s, &n, t, &n, left, &n, right, &n, &n, &found, work, rwork, &info, 1,
+                                1);
+    return info;
+}
+
+// Moves the diagonal block at row `from` to row `to`, both one-based. q, z null: they do not follow.
+inline Count Tgexc(Count n, double* s, double* t, double* q, double* z, Count from, Count to, double* work,
+                   Count lwork) noexcept {
+    Count info = 0;
+    const Count followQ = q != nullptr, followZ = z != nullptr;
+    provider::QV_LAPACK(dtgexc)(&followQ, &followZ, &n, s, &n, t, &n, q, &n, z, &n, &from, &to, work, &lwork, &info);
+    return info;
+}
+inline Count Tgexc(Count n, ComplexRecord* s, ComplexRecord* t, ComplexRecord* q, ComplexRecord* z, Count from,
+                   Count to) noexcept {
+    Count info = 0;
+    const Count followQ = q != nullptr, followZ = z != nullptr;
+    provider::QV_LAPACK(ztgexc)(&followQ, &followZ, &n, s, &n, t, &n, q, &n, z, &n, &from, &to, &info);
     return info;
 }
 

@@ -26,6 +26,7 @@ void CopyRows(const T* from, std::size_t rows, std::size_t width, std::size_t st
 template <class T>
 Status MatQr(T* a, Count m, Count n, bool economy, T* q, T* r) noexcept {
     if (m < 1 || n < 1) return status::kSamplesNotPositive;
+    if (!ElementsFit(m, n) || (q && !economy && !ElementsFit(m, m))) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     const Count k = std::min(m, n);
     const Count vectors = economy ? k : m;

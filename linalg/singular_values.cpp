@@ -21,33 +21,44 @@ std::size_t RealWorkCount(Count m, Count n) noexcept {
     return std::max((5 * k + 7) * k, 2 * longer * k + 2 * k * k + k);
 }
 
+// So many elements that what follows them is aligned as the provider's blocks are.
+constexpr std::size_t Padded(std::size_t count) noexcept { return (count + 3) / 4 * 4; }
+
 template <class T>
 Status Decompose(const T* a, Count m, Count n, char job, T* u, double* s, T* v) noexcept {
+    if (!ElementsFit(m, n)) return status::kOverflow;
+    if (job == kFull && !(ElementsFit(m, m) && ElementsFit(n, n))) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     const Count k = std::min(m, n);
     const bool vectors = job != kValuesOnly;
     const Count columnsU = job == kFull ? m : k, columnsV = job == kFull ? n : k;
     const std::size_t elementsU = vectors ? Elements(m, columnsU) : 0, elementsV = vectors ? Elements(n, columnsV) : 0;
 
-    const ProviderBlock<T> copy = Copied(a, m, n);
-    const ProviderBlock<T> left(elementsV), right(elementsU);  // the transpose has them the other way round
     const Block<double> values(static_cast<std::size_t>(k));
     const Block<double> rwork = RealWork<T>(RealWorkCount(m, n));
     const Block<Count> iwork(8 * static_cast<std::size_t>(k));
-    if (!copy || !left || !right || !values || !rwork || !iwork) return status::kOutOfMemory;
-
-    Count info = 0;
-    const Status memory = Queried<T>(&info, [&](T* work, Count lwork) {
-        return Gesdd(job, n, m, copy.get(), n, values.get(), left.get(), n, right.get(), columnsU, work, lwork,
-                     rwork.get(), iwork.get());
-    });
-    if (memory != status::kSuccess) return memory;
+    if (!values || !rwork || !iwork) return status::kOutOfMemory;
+    T *copy = nullptr, *left = nullptr, *right = nullptr;  // the transpose has the vectors the other way round
+    const auto solve = [&](T* work, Count lwork) {
+        return Gesdd(job, n, m, copy, n, values.get(), left, n, right, columnsU, work, lwork, rwork.get(), iwork.get());
+    };
+    // One area for all: a heap that gives large blocks back to the system keeps one of a size that it has seen.
+    const std::size_t elements = Elements(m, n);
+    const Count lwork = WorkspaceSize<T>(solve);
+    const ProviderBlock<T> area(Padded(elements) + Padded(elementsV) + Padded(elementsU) +
+                                static_cast<std::size_t>(lwork));
+    if (!area) return status::kOutOfMemory;
+    copy = area;
+    left = copy + Padded(elements);
+    right = left + Padded(elementsV);
+    std::memcpy(copy, a, elements * sizeof(T));
+    const Count info = solve(right + Padded(elementsU), lwork);
     if (info != 0) return StatusOf(info, info::kSingularValues);
 
     std::memcpy(s, values.get(), static_cast<std::size_t>(k) * sizeof(double));
     if (!vectors) return status::kSuccess;
-    std::memcpy(u, right.get(), elementsU * sizeof(T));
-    ConjugateTransposeTo(left.get(), columnsV, n, v);
+    std::memcpy(u, right, elementsU * sizeof(T));
+    ConjugateTransposeTo(left, columnsV, n, v);
     return status::kSuccess;
 }
 

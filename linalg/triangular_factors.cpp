@@ -6,7 +6,6 @@
 #include "linalg/info.h"
 #include "linalg/lapack_eigen.h"
 #include "linalg/matrix.h"
-#include "linalg/strided.h"
 
 namespace quorvan {
 namespace {
@@ -19,14 +18,15 @@ constexpr Count PaddedRows(Count m) noexcept { return m > INT32_MAX - 15 ? m : (
 template <class T>
 Status MatLu(T* a, Count m, Count n, Count* pivots, std::uint32_t* parity) noexcept {
     if (m < 1 || n < 1) return status::kSamplesNotPositive;
+    if (!ElementsFit(m, n)) return status::kOverflow;
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     *parity = 0;
     const Count lda = PaddedRows(m);
     const ProviderBlock<T> factors(Elements(lda, n));
     if (!factors) return status::kOutOfMemory;
-    TransposeStrided(a, m, n, n, factors.get(), lda);
+    TransposeTo(a, m, n, n, factors.get(), lda);
     const Count info = Getrf(m, n, factors.get(), lda, pivots);
-    TransposeStrided(factors.get(), n, m, lda, a, n);
+    TransposeTo(factors.get(), n, m, lda, a, n);
 
     const Count interchanges = std::min(m, n);
     for (Count i = 0; i < interchanges; ++i) {
@@ -40,6 +40,7 @@ Status MatLu(T* a, Count m, Count n, Count* pivots, std::uint32_t* parity) noexc
 template <class T>
 Status MatCholesky(T* a, Count n, bool upper, T* out) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     const ProviderBlock<T> factor = Copied(a, n, n);
     if (!factor) return status::kOutOfMemory;

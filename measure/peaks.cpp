@@ -32,8 +32,8 @@ struct Parabola {
 };
 
 double HalfWidth(Count w) { return (w - 1) / 2.0; }
-// How far from the middle of a window its apex may lie.
-double Reach(Count w) { return HalfWidth(w) * 0.5 + kEpsilon; }
+// How far from the middle of a window its apex may lie: its half, and ten roundings of 1.
+double Reach(Count w) { return HalfWidth(w) * 0.5 + 2.220446049250313e-15; }
 
 std::size_t BufferSize(Count w) { return 5 * static_cast<std::size_t>(w) + 3; }
 

@@ -168,7 +168,13 @@ Status SpecToneHarmonics(const double* x, Count n, std::int32_t harmonics, doubl
     freq[0] = first.frequency;
 
     const double reach = std::floor(fs / (2 * first.frequency));
-    if (harmonics > reach || harmonics < 1) harmonics = reach < n ? static_cast<std::int32_t>(reach) : n;
+    const bool all = harmonics < 1;
+    if (all || harmonics > reach) harmonics = reach < n ? static_cast<std::int32_t>(reach) : n;
+    if (all) {  // their number has not been known before
+        const std::int32_t found = std::min(harmonics, 1);
+        std::fill(amp + found, amp + harmonics, 0.0);
+        std::fill(freq + found, freq + harmonics, 0.0);
+    }
     double squares = 0;
     for (std::int32_t j = 2; j <= harmonics; ++j) {
         const double turns = j * first.frequency / fs, u = turns - std::floor(turns);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "frame/complex.h"
 #include "frame/memory.h"
@@ -24,6 +25,23 @@ void Quadratic(const ComplexRecord* c, ComplexRecord* roots) {
     const ComplexRecord q = CxMagnitude(minus) > CxMagnitude(plus) ? minus : plus;
     roots[0] = CxDivide(CxScale(q, -0.5), c[2]);
     roots[1] = CxDivide(CxScale(c[0], -2), q);
+}
+
+// Leja order (F. Leja, 1957; L. Reichel, "Newton interpolation at Leja points", BIT 30, 1990): first the greatest, then
+// always the one with the greatest product of distances to those before it. In any other order the product of many
+// factors loses digits to intermediate coefficients that are far larger than the last ones.
+void OrderRoots(ComplexRecord* roots, Count* multiplicities, Count count, double* products) {
+    for (Count i = 0; i < count; ++i) products[i] = CxMagnitude(roots[i]);
+    for (Count placed = 0; placed < count; ++placed) {
+        const Count next = static_cast<Count>(std::max_element(products + placed, products + count) - products);
+        std::swap(roots[placed], roots[next]);
+        std::swap(multiplicities[placed], multiplicities[next]);
+        std::swap(products[placed], products[next]);
+        for (Count i = placed + 1; i < count; ++i) {
+            const double distance = CxMagnitude(CxSubtract(roots[i], roots[placed]));
+            products[i] = placed == 0 ? distance : products[i] * distance;
+        }
+    }
 }
 
 // Gauss-Newton on the roots with their multiplicities held fixed: on the manifold of polynomials of this structure the
@@ -141,6 +159,9 @@ Status HigherRoots(const ComplexRecord* c, Count m, ComplexRecord* roots, Count*
     if (Status failed = PolyRootsStructure<ComplexRecord>(p, m - 1, kRootTolerance, roots, multiplicities, count))
         return failed;
     {
+        Block<double> products(static_cast<std::size_t>(*count));
+        if (!products) return status::kOutOfMemory;
+        OrderRoots(roots, multiplicities, *count, products);
         Refinement refinement(p, m - 1, roots, multiplicities, *count);
         if (!refinement) return status::kOutOfMemory;
         if (Status failed = refinement.Run()) return failed;

@@ -14,7 +14,7 @@
 namespace quorvan {
 namespace {
 
-// C + B·x + A·x², without cancellation in a real root; of a pair the root with the positive imaginary part first.
+// C + B·x + A·x², without cancellation in a real root; a pair as -B/2A + i·s/2A, then its conjugate.
 void PolyQuadratic(double constant, double linear, double square, ComplexRecord* roots) {
     const double discriminant = linear * linear - 4 * square * constant;
     if (discriminant >= 0) {
@@ -25,8 +25,8 @@ void PolyQuadratic(double constant, double linear, double square, ComplexRecord*
         return;
     }
     const double re = -linear / (2 * square), im = std::sqrt(-discriminant) / (2 * square);
-    roots[0] = {re, std::fabs(im)};
-    roots[1] = {re, -std::fabs(im)};
+    roots[0] = {re, im};
+    roots[1] = {re, -im};
 }
 
 // Descending and monic.

@@ -502,6 +502,120 @@ QV_API QvStatus ZemFunc30(double* x, int64_t n, double upper, double lower, doub
 
 /** @} */
 
+/** @defgroup bessel Bessel, Airy, Struve and Kelvin functions
+ * Functions of a real argument, returned as the value itself or written to the caller's doubles: there is no status.
+ * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN in every result.
+ * The accuracy, region by region, stands in docs/accuracy.md.
+ * @{
+ */
+
+/**
+ * SpecBesselJ.
+ * The Bessel function of the first kind J of real order. Series, recurrences and expansions for large argument or order.
+ * Whole orders take negative orders and arguments by parity; other orders give NaN for x < 0.
+ * At 0: 1 for order 0, 0 for higher and for whole orders, an infinity for others below 0. At infinity 0.
+ * @param order any real number
+ * @param x any for a whole order, at least 0 for others
+ * @code
+ * double j = QvSpecBesselJ(0.5, 2.0), y = QvSpecBesselY(1.0, 2.0);
+ * @endcode
+ */
+QV_API double ZemFunc302(double order, double x);
+#define QvSpecBesselJ ZemFunc302
+
+/**
+ * SpecBesselY.
+ * The Bessel function of the second kind Y of real order, (cos(pi v) J(v) - J(-v)) / sin(pi v), in its limit for whole v.
+ * NaN for orders below -200 and for x < 0; -Inf at 0, 0 at infinity.
+ * @param order at least -200; taken as whole within 1e-8 of a whole number
+ * @param x at least 0
+ */
+QV_API double ZemFunc301(double order, double x);
+#define QvSpecBesselY ZemFunc301
+
+/**
+ * SpecSphericalJ.
+ * The spherical Bessel function j, sqrt(pi / (2 x)) J(n + 1/2, x); order 0 is sin(x) / x. Negative x by parity.
+ * At 0: 1 for order 0, else 0. At infinity 0.
+ * @param n the order
+ * @param x any
+ */
+QV_API double ZemFunc303(uint32_t n, double x);
+#define QvSpecSphericalJ ZemFunc303
+
+/**
+ * SpecSphericalY.
+ * The spherical Bessel function y, sqrt(pi / (2 x)) Y(n + 1/2, x). NaN for x < 0, -Inf at 0, 0 at infinity.
+ * @param n the order
+ * @param x at least 0
+ */
+QV_API double ZemFunc304(uint32_t n, double x);
+#define QvSpecSphericalY ZemFunc304
+
+/**
+ * SpecBesselI.
+ * The modified Bessel function of the first kind I of real order; I(-n) = I(n) for whole orders.
+ * NaN for orders below -200, and for x < 0 unless the order is whole. At 0: 1 for order 0, else 0, also for orders below 0.
+ * @param order at least -200
+ * @param x any for a whole order, at least 0 for others
+ */
+QV_API double ZemFunc305(double order, double x);
+#define QvSpecBesselI ZemFunc305
+
+/**
+ * SpecBesselK.
+ * The modified Bessel function of the second kind K of whole order, by recurrence from orders 0 and 1.
+ * NaN for x < 0, +Inf at 0, 0 at infinity.
+ * @param n the order
+ * @param x at least 0
+ */
+QV_API double ZemFunc306(uint32_t n, double x);
+#define QvSpecBesselK ZemFunc306
+
+/**
+ * SpecStruve.
+ * The Struve function H, by its power series, its expansion for large x, or the one with the smaller estimate of its error.
+ * Whole orders take negative x by parity; other orders give NaN for x < 0. At 0 and at infinity the limit.
+ * @param order any real number
+ * @param x any for a whole order, at least 0 for others
+ */
+QV_API double ZemFunc328(double order, double x);
+#define QvSpecStruve ZemFunc328
+
+/**
+ * SpecAiry.
+ * The two Airy functions. Above 103.892 Ai is 0 and Bi +Inf; at -Inf both are 0.
+ * @param x any
+ * @param ai written: the Airy function Ai(x)
+ * @param bi written: the Airy function Bi(x)
+ */
+QV_API void ZemFunc330(double x, double* ai, double* bi);
+#define QvSpecAiry ZemFunc330
+
+/**
+ * SpecKelvinBe.
+ * The Kelvin functions ber and bei of order n: ber + i bei = J(n, x e^(3 pi i / 4)).
+ * At 0: ber is 1 for n = 0, else 0, and bei 0. NaN at infinity, where they oscillate and grow.
+ * @param x any; negative by parity
+ * @param n the order
+ * @param out written: real part ber, imaginary part bei
+ */
+QV_API void ZemFunc333(double x, uint32_t n, QvComplex* out);
+#define QvSpecKelvinBe ZemFunc333
+
+/**
+ * SpecKelvinKe.
+ * The Kelvin functions ker and kei of order n: ker + i kei = e^(-n pi i / 2) K(n, x e^(pi i / 4)).
+ * At 0: ker is +Inf, and kei has its limit, -pi/4 for n = 0. NaN for x < 0; both are 0 at infinity.
+ * @param x at least 0
+ * @param n the order
+ * @param out written: real part ker, imaginary part kei
+ */
+QV_API void ZemFunc334(double x, uint32_t n, QvComplex* out);
+#define QvSpecKelvinKe ZemFunc334
+
+/** @} */
+
 /** @defgroup complex Complex arithmetic
  * Complex numbers as pairs of doubles, real part first: arguments by value, results by address. Complex arrays are
  * split: one array of real parts, one of imaginary parts.
@@ -1088,6 +1202,394 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 
 /** @} */
 
+/** @defgroup decompositions Matrix decompositions
+ * Singular values, LU, Cholesky, QR in several methods, Hessenberg form and balancing, for real and complex matrices.
+ * A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied before they are worked on: an output
+ * may be the input itself. On an error the outputs stay as they are.
+ * @{
+ */
+
+/**
+ * MatSingularValues.
+ * The singular values of a matrix.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc195(const double* a, int64_t m, int64_t n, double* s);
+#define QvMatSingularValues ZemFunc195
+
+/**
+ * MatSingularValuesComplex (MatSingularValues).
+ * The singular values of a matrix.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc216(const QvComplex* a, int64_t m, int64_t n, QvComplex* s);
+#define QvMatSingularValuesComplex ZemFunc216
+
+/**
+ * MatSvd.
+ * The singular value decomposition A = U diag(s) V^T in economy form.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param u written, [m * min(m, n)]: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @code
+ * double a[6] = {1, 2, 3, 4, 5, 6}, u[6], s[2], v[4];
+ * QvMatSvd(a, 3, 2, u, s, v);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc193(const double* a, int64_t m, int64_t n, double* u, double* s, double* v);
+#define QvMatSvd ZemFunc193
+
+/**
+ * MatSvdComplex (MatSvd).
+ * The singular value decomposition A = U diag(s) V^H in economy form.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param u written, [m * min(m, n)]: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @param v written, [n * min(m, n)]: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc219(const QvComplex* a, int64_t m, int64_t n, QvComplex* u, QvComplex* s, QvComplex* v);
+#define QvMatSvdComplex ZemFunc219
+
+/**
+ * MatSvdMode.
+ * The singular value decomposition A = U diag(s) V^T.
+ * With U or V null only the singular values are computed, whatever the mode.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param mode 0: full, U m by m and V n by n; 1: economy
+ * @param u written, [m * (m if mode == 0 else min(m, n))], may be null: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending
+ * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc246(const double* a, int64_t m, int64_t n, int32_t mode, double* u, double* s, double* v);
+#define QvMatSvdMode ZemFunc246
+
+/**
+ * MatSvdModeComplex (MatSvdMode).
+ * The singular value decomposition A = U diag(s) V^H.
+ * With U or V null only the singular values are computed, whatever the mode.
+ * By divide and conquer (Gu and Eisenstat, 1995).
+ * An output may be the input itself.
+ * @param a read, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param mode 0: full, U m by m and V n by n; 1: economy
+ * @param u written, [m * (m if mode == 0 else min(m, n))], may be null: U, row-major, one left singular vector a column
+ * @param s written, [min(m, n)]: the singular values, descending, as pairs with zero imaginary parts
+ * @param v written, [n * (n if mode == 0 else min(m, n))], may be null: V, row-major, one right singular vector a column
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the mode is neither 0 nor 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 the matrix has an element that is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc247(const QvComplex* a, int64_t m, int64_t n, int32_t mode, QvComplex* u, QvComplex* s, QvComplex* v);
+#define QvMatSvdModeComplex ZemFunc247
+
+/**
+ * MatLu.
+ * The factors P A = L U with partial pivoting.
+ * @param a read and written, [n * n]: the matrix, row-major; becomes its factors: U on and above the diagonal, below it L without its unit diagonal
+ * @param n its rows and columns
+ * @param pivots written, [n], may be null: row i was interchanged with row pivots[i], for i = 0, 1, ...; from 0
+ * @param parity written: 1 where the number of interchanges is odd, otherwise 0
+ * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
+ * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
+ * @retval -20001 memory is exhausted; a stays as it is
+ */
+QV_API QvStatus ZemFunc118(double* a, int64_t n, int64_t* pivots, uint32_t* parity);
+#define QvMatLu ZemFunc118
+
+/**
+ * MatLuComplex (MatLu).
+ * The factors P A = L U with partial pivoting.
+ * @param a read and written, [n * n]: the matrix, row-major; becomes its factors: U on and above the diagonal, below it L without its unit diagonal
+ * @param n its rows and columns
+ * @param pivots written, [n], may be null: row i was interchanged with row pivots[i], for i = 0, 1, ...; from 0
+ * @param parity written: 1 where the number of interchanges is odd, otherwise 0
+ * @retval 20003 the matrix is singular: U has a zero on its diagonal; the factors are valid
+ * @retval -20003 n is below 1; parity stays as it is
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308; nothing is written
+ * @retval -20001 memory is exhausted; a stays as it is
+ */
+QV_API QvStatus ZemFunc213(QvComplex* a, int64_t n, int64_t* pivots, uint32_t* parity);
+#define QvMatLuComplex ZemFunc213
+
+/**
+ * MatCholesky.
+ * The Cholesky factor, A = R^T R with R upper triangular and a positive diagonal.
+ * @param a read and written, [n * n]: the matrix, row-major; only its upper triangle is factored, but all of it must be finite
+ * @param n its rows and columns
+ * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20071 the matrix is not positive definite; nothing is written
+ */
+QV_API QvStatus ZemFunc196(double* a, int64_t n, double* out);
+#define QvMatCholesky ZemFunc196
+
+/**
+ * MatCholeskyComplex (MatCholesky).
+ * The Cholesky factor, A = R^H R with R upper triangular and a positive diagonal.
+ * @param a read and written, [n * n]: the matrix, row-major; only its upper triangle is factored, but all of it must be finite
+ * @param n its rows and columns
+ * @param out written, [n * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20071 the matrix is not positive definite; nothing is written
+ */
+QV_API QvStatus ZemFunc210(QvComplex* a, int64_t n, QvComplex* out);
+#define QvMatCholeskyComplex ZemFunc210
+
+/**
+ * MatQrMethod.
+ * The full decomposition A = Q R with an orthogonal Q.
+ * Method 0 clears R below its diagonal; methods 1 and 2 leave what rounding leaves there, of the order of the double epsilon.
+ * The methods may differ in the signs of rows of R and columns of Q; method 1 and 2 pass over a column of zeros and are then in echelon form.
+ * Fast Givens rotations after Gentleman (1973); Golub and Van Loan, Matrix Computations.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param method 0: Householder reflections; 1: Givens rotations; 2: fast Givens rotations
+ * @param q written, [m * m], may be null: Q, row-major; null: not formed
+ * @param r written, [m * n], may be null: R, row-major; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the method is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc192(double* a, int64_t m, int64_t n, uint32_t method, double* q, double* r);
+#define QvMatQrMethod ZemFunc192
+
+/**
+ * MatQrPivot.
+ * The decomposition A P = Q R with column pivoting (Businger and Golub, 1965): the diagonal of R falls in magnitude.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param pivotMode 0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
+ * @param economy 0: Q is m by m; otherwise Q has min(m, n) columns
+ * @param p written, [n * n if pivotMode == 2 else n], may be null: the index, from 0, of the column of A that comes j-th; in mode 2 the matrix with p(index, j) = 1
+ * @param q written, [m * (min(m, n) if economy else m)], may be null: Q, row-major; null: not formed
+ * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc243(double* a, int64_t m, int64_t n, uint32_t pivotMode, uint32_t economy, int64_t* p, double* q, double* r);
+#define QvMatQrPivot ZemFunc243
+
+/**
+ * MatQrPivotComplex (MatQrPivot).
+ * The decomposition A P = Q R with column pivoting (Businger and Golub, 1965): the diagonal of R falls in magnitude.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param pivotMode 0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
+ * @param economy 0: Q is m by m; otherwise Q has min(m, n) columns
+ * @param p written, [n * n if pivotMode == 2 else n], may be null: the index, from 0, of the column of A that comes j-th; in mode 2 the matrix with p(index, j) = 1
+ * @param q written, [m * (min(m, n) if economy else m)], may be null: Q, row-major; null: not formed
+ * @param r written, [(min(m, n) if economy else m) * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20061 the pivot mode is above 2
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc245(QvComplex* a, int64_t m, int64_t n, uint32_t pivotMode, uint32_t economy, int64_t* p, QvComplex* q, QvComplex* r);
+#define QvMatQrPivotComplex ZemFunc245
+
+/**
+ * MatQrComplex.
+ * The full decomposition A = Q R with a unitary Q.
+ * @param a read and written, [m * n]: the matrix, row-major
+ * @param m its rows
+ * @param n its columns
+ * @param q written, [m * m], may be null: Q, row-major; null: not formed
+ * @param r written, [m * n], may be null: R, row-major, zero below its diagonal; null: over a
+ * @retval -20003 m or n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc228(QvComplex* a, int64_t m, int64_t n, QvComplex* q, QvComplex* r);
+#define QvMatQrComplex ZemFunc228
+
+/**
+ * MatHessenberg.
+ * The Hessenberg form, A = Q H Q^T, by Householder reflections.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
+ * @param q written, [n * n]: Q, row-major
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc254(double* a, int64_t n, double* h, double* q);
+#define QvMatHessenberg ZemFunc254
+
+/**
+ * MatHessenbergComplex (MatHessenberg).
+ * The Hessenberg form, A = Q H Q^H, by Householder reflections.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param h written, [n * n], may be null: H, row-major, zero below its first subdiagonal; null: over a
+ * @param q written, [n * n]: Q, row-major
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc255(QvComplex* a, int64_t n, QvComplex* h, QvComplex* q);
+#define QvMatHessenbergComplex ZemFunc255
+
+/**
+ * MatBalance.
+ * Permutes and scales a matrix by a similarity that brings rows and columns to like norms (Parlett and Reinsch, 1969).
+ * The factors are powers of two, so that scaling rounds nothing.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param job 0: none; 1: permutation; 2: scaling; 3: both
+ * @param low written: the first row, from 0, of the part that is not triangular
+ * @param high written: its last row
+ * @param scale written, [n]: from low to high the factors of rows and columns; elsewhere the number, from 1, of the row that was interchanged
+ * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc248(double* a, int64_t n, uint32_t job, int64_t* low, int64_t* high, double* scale, double* balanced);
+#define QvMatBalance ZemFunc248
+
+/**
+ * MatBalanceComplex (MatBalance).
+ * Permutes and scales a matrix by a similarity that brings rows and columns to like norms (Parlett and Reinsch, 1969).
+ * The factors are powers of two, so that scaling rounds nothing.
+ * @param a read and written, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param job 0: none; 1: permutation; 2: scaling; 3: both
+ * @param low written: the first row, from 0, of the part that is not triangular
+ * @param high written: its last row
+ * @param scale written, [n]: from low to high the factors of rows and columns; elsewhere the number, from 1, of the row that was interchanged
+ * @param balanced written, [n * n], may be null: the balanced matrix, row-major; null: over a
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc249(QvComplex* a, int64_t n, uint32_t job, int64_t* low, int64_t* high, double* scale, QvComplex* balanced);
+#define QvMatBalanceComplex ZemFunc249
+
+/**
+ * MatBalanceBack.
+ * Transforms the eigenvectors of a balanced matrix to those of the matrix that was balanced.
+ * @param v read and written, [n * n]: the eigenvectors of the balanced matrix, row-major, one a column
+ * @param n rows and columns
+ * @param job as it was balanced
+ * @param side 0: right eigenvectors; 1: left ones
+ * @param low as balancing gave it
+ * @param high as balancing gave it
+ * @param scale read, [n]: as balancing gave it
+ * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
+ * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc250(double* v, int64_t n, uint32_t job, uint32_t side, int64_t low, int64_t high, const double* scale, double* out);
+#define QvMatBalanceBack ZemFunc250
+
+/**
+ * MatBalanceBackComplex (MatBalanceBack).
+ * Transforms the eigenvectors of a balanced matrix to those of the matrix that was balanced.
+ * @param v read and written, [n * n]: the eigenvectors of the balanced matrix, row-major, one a column
+ * @param n rows and columns
+ * @param job as it was balanced
+ * @param side 0: right eigenvectors; 1: left ones
+ * @param low as balancing gave it
+ * @param high as balancing gave it
+ * @param scale read, [n]: as balancing gave it
+ * @param out written, [n * n], may be null: the eigenvectors of the matrix itself; null: over v
+ * @retval -20003 n is below 1
+ * @retval -20061 the job is above 3 or the side above 1
+ * @retval -20046 the matrix has more than 2^31 - 1 elements
+ * @retval -20017 not 0 <= low <= high < n, or scale names a row outside the matrix
+ * @retval -20001 memory is exhausted
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc251(QvComplex* v, int64_t n, uint32_t job, uint32_t side, int64_t low, int64_t high, const double* scale, QvComplex* out);
+#define QvMatBalanceBackComplex ZemFunc251
+
+/** @} */
+
 /** @defgroup direct_filters Direct-form and smoothing filters
  * Filters that take plain coefficient arrays. The transfer function of the direct form is
  * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
@@ -1394,6 +1896,222 @@ QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
 
 /** @} */
 
+/** @defgroup eigenproblems Eigenproblems
+ * Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
+ * eigenvalues in a chosen order along the diagonal.
+ * Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it. Inputs are
+ * copied before they are worked on. On an error the outputs stay as they are.
+ * Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal ones keep
+ * their places.
+ * @{
+ */
+
+/**
+ * MatEigenGeneral.
+ * The eigenvalues of a real matrix, A x = lambda x, by the QR algorithm.
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues; pairs stand together, the one with the positive imaginary part first
+ * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ * @code
+ * double a[4] = {0, 1, -1, 0};
+ * QvComplex values[2], vectors[4];
+ * QvMatEigenGeneral(a, 2, 1, values, vectors);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc201(const double* a, int64_t n, uint32_t wantVectors, QvComplex* values, QvComplex* vectors);
+#define QvMatEigenGeneral ZemFunc201
+
+/**
+ * MatEigenSymmetric.
+ * The eigenvalues of a symmetric matrix, by divide and conquer (Cuppen, 1981).
+ * Symmetry is not tested: the lower triangle is not used.
+ * @param a read, [n * n]: the matrix, row-major; its upper triangle counts, but all of it must be finite
+ * @param n its rows and columns
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues, ascending
+ * @param vectors written, [n * n], may be null: the eigenvectors, orthonormal; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc202(const double* a, int64_t n, uint32_t wantVectors, double* values, double* vectors);
+#define QvMatEigenSymmetric ZemFunc202
+
+/**
+ * MatEigenComplex.
+ * The eigenvalues of a complex matrix, A x = lambda x.
+ * @param a read, [n * n]: the matrix, row-major; of a Hermitian one the upper triangle counts
+ * @param n its rows and columns
+ * @param kind 0: general; 1: Hermitian
+ * @param wantVectors 0: eigenvalues alone; 1: vectors too
+ * @param values written, [n]: the eigenvalues; of a Hermitian matrix ascending, with zero imaginary parts
+ * @param vectors written, [n * n], may be null: the right eigenvectors, of Euclidean length 1; not used without vectors
+ * @retval -20003 n is below 1
+ * @retval -20061 the kind is neither 0 nor 1, or wantVectors is above 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc211(const QvComplex* a, int64_t n, int32_t kind, uint32_t wantVectors, QvComplex* values, QvComplex* vectors);
+#define QvMatEigenComplex ZemFunc211
+
+/**
+ * MatSchur.
+ * The Schur form, A = Q T Q^T, ordered by exchanges of neighbours (Bai and Demmel, 1993).
+ * With an order, a pair whose imaginary part is rounding alone (at most n epsilon beside its real part, and epsilon beside the sum of all eigenvalues) becomes two real eigenvalues: its block is cleared beside the diagonal.
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param vectors written, [n * n], may be null: Q, row-major; null: not formed
+ * @param t written, [n * n]: T, row-major, triangular but for a block of two rows for each pair
+ * @param values written, [n]: the eigenvalues in the order of the diagonal of T
+ * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc258(const double* a, int64_t n, uint32_t sort, double* vectors, double* t, QvComplex* values);
+#define QvMatSchur ZemFunc258
+
+/**
+ * MatSchurComplex (MatSchur).
+ * The Schur form, A = Q T Q^H, ordered by exchanges of neighbours (Bai and Demmel, 1993).
+ * @param a read, [n * n]: the matrix, row-major
+ * @param n its rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param vectors written, [n * n], may be null: Q, row-major; null: not formed
+ * @param t written, [n * n]: T, row-major, triangular
+ * @param values written, [n]: the eigenvalues in the order of the diagonal of T
+ * @retval 20005 two eigenvalues are too close for an exchange; the form is valid, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ */
+QV_API QvStatus ZemFunc259(const QvComplex* a, int64_t n, uint32_t sort, QvComplex* vectors, QvComplex* t, QvComplex* values);
+#define QvMatSchurComplex ZemFunc259
+
+/**
+ * MatEigenGeneralised.
+ * The generalised eigenvalues, A x = lambda B x, by the QZ method (Moler and Stewart, 1973).
+ * Where beta is 0 the quotient is what the division gives: an infinite real part, and NaN for 0 / 0.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param values written, [n]: the eigenvalues alpha / beta
+ * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc252(const double* a, const double* b, int64_t n, QvComplex* values, QvComplex* right, QvComplex* left);
+#define QvMatEigenGeneralised ZemFunc252
+
+/**
+ * MatEigenGeneralisedComplex (MatEigenGeneralised).
+ * The generalised eigenvalues, A x = lambda B x, by the QZ method (Moler and Stewart, 1973).
+ * Where beta is 0 the quotient is what the division gives: both parts NaN.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param values written, [n]: the eigenvalues alpha / beta
+ * @param right written, [n * n], may be null: the right eigenvectors; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, y^H A = lambda y^H B; null: not formed
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ */
+QV_API QvStatus ZemFunc253(const QvComplex* a, const QvComplex* b, int64_t n, QvComplex* values, QvComplex* right, QvComplex* left);
+#define QvMatEigenGeneralisedComplex ZemFunc253
+
+/**
+ * MatQz.
+ * The generalised Schur form A = Q S Z^T, B = Q T Z^T by the QZ method (Moler and Stewart, 1973), ordered by exchanges of neighbours (Kagstrom, 1993).
+ * Infinite eigenvalues come last in ascending and first in descending order.
+ * Exchanges keep the quotients; alpha and beta are those that were found before the exchanges.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param s written, [n * n]: S, row-major, upper triangular, but for a block of two rows for each pair
+ * @param t written, [n * n]: T, row-major, upper triangular
+ * @param q written, [n * n], may be null: Q, row-major; null: not formed
+ * @param z written, [n * n], may be null: Z, row-major; null: not formed
+ * @param alpha written, [n]: the numerators of the eigenvalues, in the order of the diagonal
+ * @param beta written, [n]: their denominators; 0 for an infinite eigenvalue
+ * @param right written, [n * n], may be null: the right eigenvectors, beta A x = alpha B x; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
+ * @retval 20005 a first form cannot be ordered and a second does not converge; the first is given, its order not complete
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge, or with vectors a pair is so nearly real that it has none; nothing is written
+ * @retval -20999 the provider fails
+ * @retval -20073 eigenvalues are too close to be exchanged, in a second form that is tried as well; nothing is written
+ */
+QV_API QvStatus ZemFunc256(const double* a, const double* b, int64_t n, uint32_t sort, double* s, double* t, double* q, double* z, QvComplex* alpha, double* beta, QvComplex* right, QvComplex* left);
+#define QvMatQz ZemFunc256
+
+/**
+ * MatQzComplex (MatQz).
+ * The generalised Schur form A = Q S Z^H, B = Q T Z^H by the QZ method (Moler and Stewart, 1973), ordered by exchanges of neighbours (Kagstrom, 1993).
+ * Infinite eigenvalues come last in ascending and first in descending order.
+ * Exchanges keep the quotients; alpha and beta are those that were found before the exchanges.
+ * @param a read, [n * n]: the matrix A, row-major
+ * @param b read, [n * n]: the matrix B, row-major
+ * @param n their rows and columns
+ * @param sort the order of the eigenvalues, 0 to 4
+ * @param s written, [n * n]: S, row-major, upper triangular
+ * @param t written, [n * n]: T, row-major, upper triangular
+ * @param q written, [n * n], may be null: Q, row-major; null: not formed
+ * @param z written, [n * n], may be null: Z, row-major; null: not formed
+ * @param alpha written, [n]: the numerators of the eigenvalues, in the order of the diagonal
+ * @param beta written, [n]: their denominators, with zero imaginary parts; 0 for an infinite eigenvalue
+ * @param right written, [n * n], may be null: the right eigenvectors, beta A x = alpha B x; null: not formed
+ * @param left written, [n * n], may be null: the left eigenvectors, beta y^H A = alpha y^H B; null: not formed
+ * @retval -20061 the order is above 4; tested first
+ * @retval -20003 n is below 1
+ * @retval -20046 a matrix has more than 2^31 - 1 elements
+ * @retval -20068 an element is NaN or infinite, the largest double, or at or below -1.7976931348623e308
+ * @retval -20001 memory is exhausted
+ * @retval -20062 the iteration did not converge; nothing is written
+ * @retval -20999 the provider fails
+ * @retval -20073 eigenvalues are too close to be exchanged; nothing is written
+ */
+QV_API QvStatus ZemFunc257(const QvComplex* a, const QvComplex* b, int64_t n, uint32_t sort, QvComplex* s, QvComplex* t, QvComplex* q, QvComplex* z, QvComplex* alpha, QvComplex* beta, QvComplex* right, QvComplex* left);
+#define QvMatQzComplex ZemFunc257
+
+/** @} */
+
 /** @defgroup elliptic Elliptic, hypergeometric and integral functions
  * Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is no status.
  * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN, in every output.
@@ -1651,6 +2369,1099 @@ QV_API QvStatus ZemFunc91(const double* x, int64_t n, QvIirFilter* filter, doubl
  */
 QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, QvIirStateComplex* state, QvComplex* y);
 #define QvIirCascadeApplyComplex ZemFunc466
+
+/** @} */
+
+/** @defgroup fir_equiripple Equiripple FIR design
+ * Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the Remez
+ * exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner, IEEE Trans.
+ * Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs.
+ * Multiband filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error
+ * reaches plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written.
+ * A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
+ * Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirRemezDesign.
+ * Designs a filter for any number of bands.
+ * Multiband filters and differentiators begin at 0; filters end at fs/2, Hilbert transformers leave out 0. Antisymmetric
+ * filters of odd length are zero at fs/2 and must end before: by 0.01 or 0.001 in the unit of fs. A slope below 0.0001
+ * has its absolute error weighted.
+ * @param bands the number of bands
+ * @param desired read, [bands]: the gain of each band; for a differentiator the slope over f/fs
+ * @param weights read, [bands]: the weight of each band's error; for a differentiator of the relative error
+ * @param fs the sampling rate
+ * @param edges read, [2 * bands]: lower and upper edge of each band, ascending
+ * @param kind 1 multiband filter, 2 differentiator, 3 Hilbert transformer; others antisymmetric, without checks
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20003 bands is below 1
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative
+ * @retval -20031 a weight or gain is not finite
+ * @retval -20023 a weight is not above 0 or a gain is negative
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20023 the edges do not ascend
+ * @retval -20031 the first or last edge is not what the kind wants
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 an antisymmetric filter has 3 taps, or a Hilbert transformer less than 6
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * double gain[2] = {1, 0}, weight[2] = {1, 10}, edges[4] = {0, 100, 150, 500}, h[41], delta;
+ * QvFirRemezDesign(2, gain, weight, 1000.0, edges, 1, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc65(int32_t bands, const double* desired, const double* weights, double fs, const double* edges, int32_t kind, int32_t taps, double* h, double* delta);
+#define QvFirRemezDesign ZemFunc65
+
+/**
+ * FirRemezBands.
+ * FirRemezDesign with a record for each band, and kinds that count from 0.
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param bands read, [count]: gain, lower edge, upper edge and weight of each band
+ * @param count the number of bands
+ * @param kind 0 multiband filter, 1 differentiator, 2 Hilbert transformer
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3, count is below 1, or a value of a record is infinite
+ * @retval -20001 memory is exhausted
+ * @retval -20023 as FirRemezDesign, which also refuses NaN (-20031)
+ * @retval -20020 the last edge is above fs/2
+ * @retval -20033 a multiband filter of even length has a gain in its last band
+ * @retval -20031 the design is refused or fails, as in FirRemezDesign
+ */
+QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t count, int32_t kind, double* h, double* delta);
+#define QvFirRemezBands ZemFunc408
+
+/**
+ * FirRemezLowpass.
+ * A lowpass with equal weights.
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ * @code
+ * QvFirRemezLowpass(1000.0, 100.0, 150.0, 41, h, &delta);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, double* h, double* delta);
+#define QvFirRemezLowpass ZemFunc69
+
+/**
+ * FirRemezHighpass.
+ * A highpass with equal weights.
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, double* h, double* delta);
+#define QvFirRemezHighpass ZemFunc68
+
+/**
+ * FirRemezBandpass.
+ * A bandpass with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandpass ZemFunc66
+
+/**
+ * FirRemezBandstop.
+ * A bandstop with equal weights.
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param taps the number of coefficients, at least 3
+ * @param h written, [taps]: the coefficients
+ * @param delta written: the peak weighted error
+ * @retval -20031 taps is below 3
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4, int32_t taps, double* h, double* delta);
+#define QvFirRemezBandstop ZemFunc67
+
+/**
+ * FirRemezFilterLowpass.
+ * Designs a lowpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, double* y);
+#define QvFirRemezFilterLowpass ZemFunc472
+
+/**
+ * FirRemezFilterHighpass.
+ * Designs a highpass with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, double* y);
+#define QvFirRemezFilterHighpass ZemFunc473
+
+/**
+ * FirRemezFilterBandpass.
+ * Designs a bandpass with equal weights and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandpass ZemFunc474
+
+/**
+ * FirRemezFilterBandstop.
+ * Designs a bandstop with equal weights and filters samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, double* y);
+#define QvFirRemezFilterBandstop ZemFunc475
+
+/**
+ * FirRemezFilterComplexLowpass.
+ * Designs a lowpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param fpass edge of the passband
+ * @param fstop edge of the stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double fs, double fpass, double fstop, QvComplex* y);
+#define QvFirRemezFilterComplexLowpass ZemFunc476
+
+/**
+ * FirRemezFilterComplexHighpass.
+ * Designs a highpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param fstop edge of the stopband
+ * @param fpass edge of the passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double fs, double fstop, double fpass, QvComplex* y);
+#define QvFirRemezFilterComplexHighpass ZemFunc477
+
+/**
+ * FirRemezFilterComplexBandpass.
+ * Designs a bandpass with equal weights and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3
+ * @param fs the sampling rate
+ * @param f1 end of the lower stopband
+ * @param f2 begin of the passband
+ * @param f3 end of the passband
+ * @param f4 begin of the upper stopband
+ * @param y written, [n + taps - 1]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandpass ZemFunc478
+
+/**
+ * FirRemezFilterComplexBandstop.
+ * Designs a bandstop with equal weights and filters complex samples with it, by Fourier transforms.
+ * Unlike the design, it makes an even number of taps odd: y then has n + taps samples.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients, at least 3; an even number is raised by one
+ * @param fs the sampling rate
+ * @param f1 end of the lower passband
+ * @param f2 begin of the stopband
+ * @param f3 end of the stopband
+ * @param f4 begin of the upper passband
+ * @param y written, [n + taps - taps % 2]: the output: the whole convolution; must not overlap x
+ * @retval -20003 n is below 1
+ * @retval -20031 taps is below 3
+ * @retval -20046 the result exceeds 2^31 - 1 samples
+ * @retval -20031 fs is not finite
+ * @retval -20023 fs is not above 0
+ * @retval -20031 an edge is not finite
+ * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
+ * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
+ */
+QV_API QvStatus ZemFunc479(const QvComplex* x, int64_t n, int32_t taps, double fs, double f1, double f2, double f3, double f4, QvComplex* y);
+#define QvFirRemezFilterComplexBandstop ZemFunc479
+
+/** @} */
+
+/** @defgroup fir_narrowband Narrowband FIR design
+ * Filters with a very narrow transition, as two stages with few multiplications: a model filter whose taps stand
+ * `factor` samples apart, and an image suppressor that removes the copies of its response (Y. Neuvo, Dong C.-Y. and
+ * S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984). The factor with the least sum of Kaiser's order
+ * estimates is taken; where none gains, a single filter is designed. Both stages are equiripple and each spends at most
+ * half of the deviation, so that the cascade stays within it. Bands beyond fs/4 are mirrored, or designed as the
+ * complement, whose output is added to the delayed input.
+ * The record belongs to the caller, between FirNarrowbandCreate and FirNarrowbandRelease, and takes one design.
+ * @{
+ */
+
+/**
+ * FirNarrowbandCreate.
+ * A record with all fields zero; null when memory is exhausted.
+ */
+QV_API QvFirNarrowband* ZemFunc491(void);
+#define QvFirNarrowbandCreate ZemFunc491
+
+/**
+ * FirNarrowbandRelease.
+ * Frees both arrays of taps and the record.
+ * @param filter handle, may be null: the record; null does nothing
+ */
+QV_API void ZemFunc492(QvFirNarrowband* filter);
+#define QvFirNarrowbandRelease ZemFunc492
+
+/**
+ * FirNarrowbandDesign.
+ * Designs a filter into the record; arrays that it held are not freed.
+ * Lowpass and bandpass want f1 < f2, highpass and bandstop f1 > f2. Each stage begins with the estimated order and
+ * grows by a twentieth until its error is small enough.
+ * @param fs the sampling rate
+ * @param f1 edge of the passband of a lowpass or highpass; full width of the passband about the centre
+ * @param f2 edge of the stopband of a lowpass or highpass; full width of the stopband about the centre
+ * @param center centre of a bandpass or bandstop, inside 0 to fs/2; else ignored
+ * @param ripple linear deviation of the passband
+ * @param attenuation of the stopband, in dB
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param filter handle: a fresh record; changed on success alone
+ * @retval -20031 a width, an edge, the centre or a deviation is out of its range, the kind is above 3, or an order is negative
+ * @retval -20001 memory is exhausted, or a stage needs more than 2045 cosine functions
+ * @retval -20023 a band reaches beyond 0 or fs/2
+ * @retval -20031 the exchange fails
+ * @code
+ * QvFirNarrowband* filter = QvFirNarrowbandCreate();
+ * QvFirNarrowbandDesign(1000.0, 10.0, 12.0, 0.0, 0.01, 60.0, 0, filter);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc409(double fs, double f1, double f2, double center, double ripple, double attenuation, uint32_t kind, QvFirNarrowband* filter);
+#define QvFirNarrowbandDesign ZemFunc409
+
+/**
+ * FirNarrowbandFilter.
+ * Filters samples: the whole convolution with both stages, in modes 3 to 5 added to the delayed input.
+ * The products are added themselves, without transforms. Modes outside 0 to 5 add no input.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output: n + model_count - 1 samples for a factor of 1, otherwise (model_count - 1) factor + n + suppressor_count - 1; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc410(const double* x, int64_t n, QvFirNarrowband* filter, double* y);
+#define QvFirNarrowbandFilter ZemFunc410
+
+/**
+ * FirNarrowbandFilterComplex.
+ * Filters the two parts of complex samples as two real signals.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param filter handle: a designed record
+ * @param y written, []: the output, as long as that of FirNarrowbandFilter; must not overlap x
+ * @retval -20003 n, or a number of taps, is below 1
+ * @retval -20046 the output exceeds 2^31 - 1 samples
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc411(const QvComplex* x, int64_t n, QvFirNarrowband* filter, QvComplex* y);
+#define QvFirNarrowbandFilterComplex ZemFunc411
+
+/** @} */
+
+/** @defgroup fir_windows FIR design by window
+ * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
+ * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
+ * Signal Processing, chapter 7). With t = i - (taps - 1)/2 and w = 2 pi f/fs the lowpass is sin(w t)/(pi t), the
+ * bandpass the difference of two lowpasses; highpass and bandstop are a unit pulse less these. The passband is not
+ * scaled to a gain of exactly 1.
+ * Frequencies are in the unit of the sampling rate fs. Taps are symmetric about the middle; the delay is (taps - 1)/2.
+ * After an error h is undefined. The filters write the whole convolution, with both transients, and y must not overlap
+ * x. Statuses are tested in the order in which they are listed.
+ * @{
+ */
+
+/**
+ * FirIdealResponse.
+ * The ideal response, without a window.
+ * The angles of the sines are accumulated from tap to tap.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ */
+QV_API QvStatus ZemFunc79(uint32_t kind, double fs, double fl, double fh, int32_t taps, double* h);
+#define QvFirIdealResponse ZemFunc79
+
+/**
+ * FirDesignWindow.
+ * The ideal response under a window of any code. One tap is left as it is, whatever the window.
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param taps the number of coefficients
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param h written, [taps]: the coefficients
+ * @retval -20061 the kind is above 3
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * double h[63];
+ * QvFirDesignWindow(0, 1000.0, 40.0, 0.0, 63, QV_WINDOW_BLACKMAN, 0.0, h);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc335(uint32_t kind, double fs, double fl, double fh, int32_t taps, int32_t window, double parameter, double* h);
+#define QvFirDesignWindow ZemFunc335
+
+/**
+ * FirDesignLowpass.
+ * A lowpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirDesignLowpass(1000.0, 40.0, 63, h, 4);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc189(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignLowpass ZemFunc189
+
+/**
+ * FirDesignHighpass.
+ * A highpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc188(double fs, double fc, int32_t taps, double* h, int32_t window);
+#define QvFirDesignHighpass ZemFunc188
+
+/**
+ * FirDesignBandpass.
+ * A bandpass under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc186(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandpass ZemFunc186
+
+/**
+ * FirDesignBandstop.
+ * A bandstop under one of five windows, whose short codes are not those of QV_WINDOW_.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param window 1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc187(double fs, double fl, double fh, int32_t taps, double* h, int32_t window);
+#define QvFirDesignBandstop ZemFunc187
+
+/**
+ * FirDesignKaiserLowpass.
+ * A lowpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc112(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserLowpass ZemFunc112
+
+/**
+ * FirDesignKaiserHighpass.
+ * A highpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc111(double fs, double fc, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserHighpass ZemFunc111
+
+/**
+ * FirDesignKaiserBandpass.
+ * A bandpass under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc109(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandpass ZemFunc109
+
+/**
+ * FirDesignKaiserBandstop.
+ * A bandstop under a Kaiser window.
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param taps the number of coefficients
+ * @param h written, [taps]: the coefficients
+ * @param beta of the window; negative: 4.5
+ * @retval -20021 taps is below 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc110(double fs, double fl, double fh, int32_t taps, double* h, double beta);
+#define QvFirDesignKaiserBandstop ZemFunc110
+
+/**
+ * FirFilterWindow.
+ * Designs any kind as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFirFilterWindow(x, 1000, 63, 2, 1000.0, 40.0, 60.0, QV_WINDOW_KAISER, 6.0, y);  // 1062 samples
+ * @endcode
+ */
+QV_API QvStatus ZemFunc480(const double* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindow ZemFunc480
+
+/**
+ * FirFilterWindowLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc481(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowLowpass ZemFunc481
+
+/**
+ * FirFilterWindowHighpass.
+ * Designs a highpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc482(const double* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowHighpass ZemFunc482
+
+/**
+ * FirFilterWindowBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc483(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandpass ZemFunc483
+
+/**
+ * FirFilterWindowBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc484(const double* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, double* y);
+#define QvFirFilterWindowBandstop ZemFunc484
+
+/**
+ * FirFilterWindowComplex.
+ * Designs any kind as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param kind 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop
+ * @param fs the sampling rate
+ * @param fl the cutoff of a lowpass or highpass, the lower edge of a band
+ * @param fh the upper edge of a band; else ignored
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20061 the kind is above 3
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh in a band kind
+ * @retval -20033 taps is even in a highpass or bandstop: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc485(const QvComplex* x, int64_t n, int32_t taps, uint32_t kind, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplex ZemFunc485
+
+/**
+ * FirFilterWindowComplexLowpass.
+ * Designs a lowpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc486(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexLowpass ZemFunc486
+
+/**
+ * FirFilterWindowComplexHighpass.
+ * Designs a highpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fc the cutoff frequency, 6 dB down
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 fc is above fs/2
+ * @retval -20023 fs or fc is not above 0
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc487(const QvComplex* x, int64_t n, int32_t taps, double fs, double fc, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexHighpass ZemFunc487
+
+/**
+ * FirFilterWindowComplexBandpass.
+ * Designs a bandpass as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc488(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandpass ZemFunc488
+
+/**
+ * FirFilterWindowComplexBandstop.
+ * Designs a bandstop as FirDesignWindow does and filters complex samples with it, by Fourier transforms.
+ * @param x read, [n]: the samples
+ * @param n the number of samples
+ * @param taps the number of coefficients
+ * @param fs the sampling rate
+ * @param fl the lower edge
+ * @param fh the upper edge
+ * @param window a QV_WINDOW_ code
+ * @param parameter of a Kaiser, Chebyshev or Gaussian window, as WinApplySymmetric takes it
+ * @param y written, [n + taps - 1]: the output
+ * @retval -20003 n is below 1
+ * @retval -20021 taps is below 1
+ * @retval -20046 n + taps - 1 exceeds 2^31 - 1
+ * @retval -20020 an edge is above fs/2
+ * @retval -20023 fs or an edge is not above 0, or fl is not below fh
+ * @retval -20033 taps is even: the response would be 0 at fs/2
+ * @retval -20061 the window is none that can be symmetric, and taps is above 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc489(const QvComplex* x, int64_t n, int32_t taps, double fs, double fl, double fh, int32_t window, double parameter, QvComplex* y);
+#define QvFirFilterWindowComplexBandstop ZemFunc489
+
+/** @} */
+
+/** @defgroup fit_bounds Fit bounds, goodness of fit and sample removal
+ * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients come
+ * in as arguments; three numbers for its goodness; and the removal of samples before it.
+ * A confidence band (type 0) is where the mean response lies with the given probability, a prediction band (type 1)
+ * where a new observation does. Both come from the linearised model: with J the derivatives, G = (sum of |w| J' J)^+,
+ * s^2 = sum of |w| (f - y)^2 / (n - p) and t the quantile of Student's distribution with n - p degrees of freedom, the
+ * half-width is t s sqrt(J G J'), for a new observation t s sqrt(J G J' + 1/|w|).
+ * @{
+ */
+
+/**
+ * FitBoundsLine.
+ * The band of a fitted line, y = slope x + intercept. The method is exact for normal errors.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; their sign counts in the information matrix of a confidence band; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param slope the slope
+ * @param intercept the intercept
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param slopeHalfWidth written: of the confidence interval of slope; type 0 only
+ * @param interceptHalfWidth written: of the confidence interval of intercept; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * QvFitLine(x, y, n, curve, &slope, &intercept, &error);
+ * QvFitBoundsLine(x, y, NULL, n, 0, 0.95, slope, intercept, upper, lower, &ds, &di);
+ * @endcode
+ */
+QV_API QvStatus ZemFunc293(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double slope, double intercept, double* upper, double* lower, double* slopeHalfWidth, double* interceptHalfWidth);
+#define QvFitBoundsLine ZemFunc293
+
+/**
+ * FitBoundsExponential.
+ * The band of a fitted exponential, y = a exp(b x). The derivatives are exp(b x) and a x exp(b x).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the rate
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc291(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsExponential ZemFunc291
+
+/**
+ * FitBoundsPower.
+ * The band of a fitted power, y = a x^b. The derivatives are x^b and a x^b ln x.
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the exponent
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc295(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsPower ZemFunc295
+
+/**
+ * FitBoundsLogarithm.
+ * The band of a fitted logarithm, y = a log(b x). The derivatives are log(b x) and a / (b ln base).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas, of the sign of b
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param a the factor
+ * @param b the scale of x
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param aHalfWidth written: of the confidence interval of a; type 0 only
+ * @param bHalfWidth written: of the confidence interval of b; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20007 n is below 3
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc294(const double* x, const double* y, const double* weights, int64_t n, double base, uint32_t type, double level, double a, double b, double* upper, double* lower, double* aHalfWidth, double* bHalfWidth);
+#define QvFitBoundsLogarithm ZemFunc294
+
+/**
+ * FitBoundsGaussian.
+ * The band of a fitted Gaussian, y = a exp(-((x - m) / s)^2 / 2). The derivatives are e, a z e / s and a z^2 e / s with z = (x - m) / s, e = exp(-z^2 / 2).
+ * On an error the bands stay unwritten; with type 0 the half-widths become 0, except for -20061 and -20046.
+ * @param x read, [n]: the abscissas
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights, by magnitude; null: all 1
+ * @param n the number of samples
+ * @param type 0 the confidence band, 1 the prediction band
+ * @param level the probability, between 0 and 1
+ * @param amplitude a
+ * @param centre m
+ * @param width s, not 0
+ * @param upper written, [n]: the upper band
+ * @param lower written, [n]: the lower band
+ * @param amplitudeHalfWidth written: of the confidence interval of amplitude; type 0 only
+ * @param centreHalfWidth written: of the confidence interval of centre; type 0 only
+ * @param widthHalfWidth written: of the confidence interval of width; type 0 only
+ * @retval -20061 the type is above 1
+ * @retval -20069 n is below 4
+ * @retval -20026 the width is 0
+ * @retval -20068 a coefficient, or a derivative times a weight, is not finite
+ * @retval -20053 the level is not between 0 and 1
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc292(const double* x, const double* y, const double* weights, int64_t n, uint32_t type, double level, double amplitude, double centre, double width, double* upper, double* lower, double* amplitudeHalfWidth, double* centreHalfWidth, double* widthHalfWidth);
+#define QvFitBoundsGaussian ZemFunc292
+
+/**
+ * FitGoodness.
+ * Sum of squared errors, coefficient of determination and root mean squared error of a fit.
+ * The mean is that of y without weights. On an error nothing is written.
+ * @param y read, [n]: the ordinates
+ * @param fitted read, [n]: the fitted curve
+ * @param weights read, [n], may be null: the weights, with their sign; null: all 1
+ * @param n the number of samples
+ * @param dof the degrees of freedom, below n; below 1: n - 2
+ * @param sse written: sum of w (y - f)^2
+ * @param rSquare written: 1 - sse / sum of w (y - mean)^2; of a constant y 1 for sse = 0, infinity otherwise
+ * @param rmse written: sqrt(sse / dof)
+ * @retval -20006 n is below 2
+ * @retval -20052 dof is n or above
+ */
+QV_API QvStatus ZemFunc284(const double* y, const double* fitted, const double* weights, int64_t n, int64_t dof, double* sse, double* rSquare, double* rmse);
+#define QvFitGoodness ZemFunc284
+
+/**
+ * FitRemoveOutOfRange.
+ * Removes the samples that do not lie strictly inside the range.
+ * The three counts are written whatever the status, except for -20046. With -20010, and -20003 for nothing to remove,
+ * they tell what would be kept and removed while the arrays stay; after other errors n is 0 and the others are the
+ * former n. A sample of NaN stays.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param mode 0 by y, 1 by x, 2 by x and y
+ * @param limits read, [limitCount]: the range, in either order; in mode 2 that of x, then that of y
+ * @param limitCount at least 2, in mode 2 at least 4
+ * @param removed written, [capacity]: the indices of the samples removed, ascending
+ * @param capacity read and written: in the room for indices, out the number of samples removed
+ * @param removedCount written: the number of samples removed
+ * @retval -20046 n or capacity does not fit 32 bits
+ * @retval -20003 n or limitCount is below 1; or there is nothing to remove
+ * @retval -20061 the mode is above 2
+ * @retval -20006 modes 0 and 1: fewer than two limits
+ * @retval -20069 mode 2: fewer than four limits
+ * @retval -20068 a limit is NaN
+ * @retval -20010 there are more samples to remove than capacity
+ * @code
+ * int64_t n = 5, room = 5, count, gone[5];
+ * double range[2] = {0, 10}, x[5] = {1, 2, 3, 4, 5}, y[5] = {1, -1, 9, 10, 3};
+ * QvFitRemoveOutOfRange(x, y, NULL, &n, 0, range, 2, gone, &room, &count);  // keeps 1, 3, 5; gone are 1, 3
+ * @endcode
+ */
+QV_API QvStatus ZemFunc297(double* x, double* y, double* weights, int64_t* n, uint32_t mode, const double* limits, int32_t limitCount, int64_t* removed, int64_t* capacity, int64_t* removedCount);
+#define QvFitRemoveOutOfRange ZemFunc297
+
+/**
+ * FitRemoveByIndex.
+ * Removes samples by their indices. On an error nothing is written.
+ * @param x read and written, [n]: the abscissas; those kept stand in front
+ * @param y read and written, [n]: the ordinates
+ * @param weights read and written, [n], may be null: the weights
+ * @param n read and written: in the number of samples, out of those kept
+ * @param indices read, [count]: the samples to remove, in any order; one may be named more than once
+ * @param count the number of indices
+ * @retval -20046 n, count or an index does not fit 32 bits
+ * @retval -20003 n or count is below 1
+ * @retval -20017 an index is not from 0 to n - 1
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc296(double* x, double* y, double* weights, int64_t* n, const int64_t* indices, int64_t count);
+#define QvFitRemoveByIndex ZemFunc296
 
 /** @} */
 
@@ -3250,6 +5061,159 @@ QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, in
 
 /** @} */
 
+/** @defgroup linear_fits Linear and polynomial fits
+ * Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which some
+ * coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions at
+ * observation i. Weights count by magnitude.
+ * The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
+ * coefficients one alone is not written.
+ * @{
+ */
+
+/**
+ * FitGeneralLinear.
+ * The coefficients c that minimise |y - X c|.
+ * 0 and 6 give the solution of smallest norm: 0 drops singular values of 0, 6 those at or below m s(0) 2.2e-16. The
+ * normal equations (4, 5) are faster for many observations and square the condition number. NaN in y shows in the
+ * coefficients; NaN in the design too with selector 4.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param coefficients written, [n]: the coefficients
+ * @param selector 0 singular values; 1, 2, 3 QR; 4 LU, 5 Cholesky of the normal equations; 6 singular values truncated
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 an element of the design (selectors 0 to 3, 6) or of the normal matrix (5) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double design[6] = {1, 0, 1, 1, 1, 2}, y[3] = {1, 3, 5}, c[2];
+ * QvFitGeneralLinear(design, 3, 2, y, c, 0);  // 1 and 2: y = 1 + 2 x
+ * @endcode
+ */
+QV_API QvStatus ZemFunc239(const double* design, int64_t m, int64_t n, const double* y, double* coefficients, uint32_t selector);
+#define QvFitGeneralLinear ZemFunc239
+
+/**
+ * FitGeneralLinearEx.
+ * The coefficients that minimise the sum of ((y - X c) / deviation)^2.
+ * With the selectors 4 and 5 the covariance is written before the coefficients are solved for.
+ * @param design read, [m * n]: the basis functions at the observations
+ * @param m the number of observations, at least n
+ * @param n the number of coefficients
+ * @param y read, [m]: the observations
+ * @param deviations read, [m], may be null: the standard deviations of the observations; 0 weighs 1; null: all 1
+ * @param selector as for QvFitGeneralLinear
+ * @param fitted written, [m], may be null: the fitted curve, X c; only together with the error
+ * @param coefficients written, [n]: the coefficients
+ * @param covariance written, [n * n], may be null: the covariance of the coefficients, (X' W X)^-1 with W the weights
+ * @param meanSquaredError written, may be null: sum of w (y - f)^2 / m; only together with the curve
+ * @retval -20021 n is below 1
+ * @retval -20037 m is below n
+ * @retval -20061 the selector is above 6
+ * @retval -20046 the design has more than 2^31 - 1 elements
+ * @retval -20041 selectors 1 to 4: the system is singular, exactly
+ * @retval -20071 selector 5: the normal matrix is not positive definite
+ * @retval -20068 a scaled element of the design (selectors 0 to 3, 6) or of the normal matrix (5; 4 with a covariance) is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc86(const double* design, int64_t m, int64_t n, const double* y, const double* deviations, uint32_t selector, double* fitted, double* coefficients, double* covariance, double* meanSquaredError);
+#define QvFitGeneralLinearEx ZemFunc86
+
+/**
+ * FitPolynomial.
+ * The polynomial of least squares, by singular values. Powers above 25 are not fitted: their coefficients are 0.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order
+ * @param order the degree of the polynomial
+ * @param fitted written, [n], may be null: the fitted curve; only together with the error
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20103 the order is negative
+ * @retval -20037 n is not above the order
+ * @retval -20046 n times the number of powers is above 2^31 - 1
+ * @retval -20068 a power of an abscissa is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ * @code
+ * double x[4] = {0, 1, 2, 3}, y[4] = {1, 2, 5, 10}, curve[4], c[3], error;
+ * QvFitPolynomial(x, y, 4, 2, curve, c, &error);  // 1, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc137(double* x, const double* y, int64_t n, int32_t order, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomial ZemFunc137
+
+/**
+ * FitPolynomialConstrained.
+ * The polynomial of least squares among those with the given coefficients.
+ * Powers above 25 are not fitted, unless fewer than two below are free: then up to the second free one. Without given
+ * coefficients a curve without an error is not written.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc298(double* x, const double* y, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialConstrained ZemFunc298
+
+/**
+ * FitPolynomialWeighted.
+ * QvFitPolynomialConstrained with weights.
+ * @param x read and written, [n]: the abscissas; the fitted curve when fitted is null and the error is wanted
+ * @param y read, [n]: the ordinates
+ * @param weights read, [n], may be null: the weights; null: all 1
+ * @param n the number of samples, more than the order less fixedCount
+ * @param order the degree of the polynomial
+ * @param fixedOrders read, [fixedCount], may be null: the powers whose coefficients are given; others than 0 to order do nothing
+ * @param fixedValues read, [fixedCount], may be null: their coefficients; of several for one power the last holds
+ * @param fixedCount the number of given coefficients
+ * @param algorithm 0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param coefficients written, [order + 1]: the coefficients in ascending power
+ * @param meanSquaredError written, may be null: sum of |w| (y - f)^2 / n
+ * @retval -20061 the algorithm is above 3
+ * @retval -20103 the order or fixedCount is negative
+ * @retval -20037 n is not above the order less fixedCount, or below the number of free coefficients
+ * @retval -20046 n times the number of free powers is above 2^31 - 1
+ * @retval -20041 algorithms 1 and 2: the system is singular, exactly
+ * @retval -20071 algorithm 3: the normal matrix is not positive definite
+ * @retval -20068 a power of an abscissa times its weight is not finite (algorithm 2 does not test it)
+ * @retval -20062 the singular values did not converge
+ * @retval -20003 all coefficients are given, the curve or the error is wanted, and n is below 1
+ * @retval -20001 memory is exhausted
+ * @retval 20031 the order is above 25
+ */
+QV_API QvStatus ZemFunc361(double* x, const double* y, const double* weights, int64_t n, int32_t order, const int32_t* fixedOrders, const double* fixedValues, int32_t fixedCount, uint32_t algorithm, double* fitted, double* coefficients, double* meanSquaredError);
+#define QvFitPolynomialWeighted ZemFunc361
+
+/** @} */
+
 /** @defgroup matrices Solving, inversion and matrix operations
  * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
  * at the
@@ -4062,6 +6026,200 @@ QV_API void ZemFunc470(void* block);
 
 /** @} */
 
+/** @defgroup model_fits Line, exponential, power, logarithm and Gaussian fits
+ * Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least
+ * absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the one before
+ * and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it
+ * ends when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+ * On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
+ * @{
+ */
+
+/**
+ * FitLine.
+ * The line of least squares, y = a x + b. Equal abscissas give what the division by 0 gives, and no error.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[3] = {0, 1, 2}, y[3] = {1, 3, 5}, curve[3], slope, intercept, error;
+ * QvFitLine(x, y, 3, curve, &slope, &intercept, &error);  // 2 and 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc117(const double* x, double* y, int64_t n, double* fitted, double* slope, double* intercept, double* meanSquaredError);
+#define QvFitLine ZemFunc117
+
+/**
+ * FitLineRobust.
+ * The line y = a x + b by one of three methods.
+ * The methods 1 and 2 draw two samples' line exactly, whatever the weights, with the residue 0. Method 1 alternates
+ * weighted medians of slope and intercept.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param slope written: a of y = a x + b
+ * @param intercept written: b
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20055 method 1: two and more abscissas are 0
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc288(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* slope, double* intercept, double* residue);
+#define QvFitLineRobust ZemFunc288
+
+/**
+ * FitExponential.
+ * The exponential y = a exp(b x) by the line through (x, ln |y|) with the weights y^2, without iteration.
+ * Samples of the sign of the minority, and zeros, take no part; a tie takes the positive ones.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the error is wanted
+ * @param n the number of samples
+ * @param fitted written, [n], may be null: the fitted curve; give the error with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param meanSquaredError written, may be null: sum of (y - f)^2 / n
+ * @retval -20006 n is below 2
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20068 an abscissa or an ordinate of that sign is not finite
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc73(const double* x, double* y, int64_t n, double* fitted, double* a, double* b, double* meanSquaredError);
+#define QvFitExponential ZemFunc73
+
+/**
+ * FitExponentialRobust.
+ * The model y = a exp(b x) by one of three methods.
+ * Least squares starts from the line through (x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a exp(b x)
+ * @param b written: b, per unit of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc286(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitExponentialRobust ZemFunc286
+
+/**
+ * FitPower.
+ * The model y = a x^b by one of three methods.
+ * Least squares starts from the line through (ln x, ln |y|) of the samples with the sign of the majority and makes at most
+ * 101 Gauss-Newton steps. Method 1 makes at most 50 refits of at most 51 steps.
+ * @param x read, [n]: the abscissas, above 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a x^b
+ * @param b written: b, the exponent
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or an abscissa or a derivative is not finite
+ * @retval -20141 all weights but one are 0
+ * @retval -20140 an abscissa is at or below 0
+ * @retval -20037 fewer than two samples have the sign of the majority
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc290(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitPower ZemFunc290
+
+/**
+ * FitLogarithm.
+ * The model y = a log(b x) by one of three methods, each over the line through (log |x|, y).
+ * With a = 0, b is the sign of x.
+ * @param x read, [n]: the abscissas, all above or all below 0
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param base the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param a written: a of y = a log(b x)
+ * @param b written: b, of the sign of x
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20006 n is below 2
+ * @retval -20068 a weight is NaN, or the leverages overflow (method 2)
+ * @retval -20141 all weights but one are 0
+ * @retval -20036 an abscissa is 0, or they differ in sign (the text speaks of y)
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ */
+QV_API QvStatus ZemFunc289(const double* x, double* y, const double* weights, int64_t n, double base, uint32_t method, double tolerance, double* fitted, double* a, double* b, double* residue);
+#define QvFitLogarithm ZemFunc289
+
+/**
+ * FitGaussian.
+ * The Gaussian y = a exp(-((x - m) / s)^2 / 2) by one of three methods.
+ * Without a guess the peak and the samples above a tenth of it give the start; a peak that stands alone gives the
+ * result, with its neighbours. At most 501 steps up the gradient, halved while the error grows. The residue of least
+ * squares is that of the last trial, which may have been rejected, unless the start was best.
+ * @param x read, [n]: the abscissas
+ * @param y read and written, [n]: the ordinates; the fitted curve when fitted is null and the residue is wanted
+ * @param weights read, [n], may be null: the weights, by magnitude; all 0 or null: all 1
+ * @param n the number of samples
+ * @param method 0 least squares, 1 least absolute residuals, 2 bisquare
+ * @param tolerance the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0: 0.0001
+ * @param guess read, [3], may be null: amplitude, centre and width to start from; one that is not finite: none
+ * @param fitted written, [n], may be null: the fitted curve; give the residue with it
+ * @param amplitude written: a of y = a exp(-((x - m) / s)^2 / 2)
+ * @param centre written: m
+ * @param width written: s, at least 0
+ * @param residue written, may be null: sum of |w| (y - f)^2 / n; of least absolute residuals the sum of |w (y - f)| / n
+ * @retval -20061 the method is above 2
+ * @retval -20007 n is below 3
+ * @retval -20068 a weight is NaN, or an abscissa is not finite
+ * @retval -20141 all weights but one or two are 0
+ * @retval -20026 the width is 0, or a lone peak lacks a neighbour of its sign on one side
+ * @retval -20104 methods 1 and 2: a residual is NaN
+ * @retval -20062 the singular values did not converge
+ * @retval -20001 memory is exhausted
+ * @code
+ * double x[5] = {-2, -1, 0, 1, 2}, y[5] = {0.27, 1.21, 2, 1.21, 0.27}, curve[5], a, m, s, residue;
+ * QvFitGaussian(x, y, NULL, 5, 0, -1, NULL, curve, &a, &m, &s, &residue);  // about 2, 0, 1
+ * @endcode
+ */
+QV_API QvStatus ZemFunc287(const double* x, double* y, const double* weights, int64_t n, uint32_t method, double tolerance, const double* guess, double* fitted, double* amplitude, double* centre, double* width, double* residue);
+#define QvFitGaussian ZemFunc287
+
+/** @} */
+
 /** @defgroup multiple_roots Multiple polynomial roots and lag products
  * @{
  */
@@ -4081,6 +6239,7 @@ QV_API void ZemFunc470(void* block);
  * @retval -20111 all coefficients are 0
  * @retval -20021 the polynomial is a constant
  * @retval -20062 the refinement or an eigenvalue did not converge; nothing is written
+ * @retval -20068 a coefficient divided by the leading one, or the refinement, leaves the range of doubles, from degree 3 on
  * @retval -20001 memory is exhausted
  * @code
  * QvComplex c[4] = {{-1, 0}, {3, 0}, {-3, 0}, {1, 0}};
@@ -4415,6 +6574,7 @@ QV_API void ZemFunc261(QvFftPlan* plan);
  * @retval -20111 all coefficients are 0
  * @retval -20021 the polynomial is a constant
  * @retval -20062 an eigenvalue or a singular value did not converge; nothing is written
+ * @retval -20068 a coefficient divided by the leading one leaves the range of doubles, from degree 3 on
  * @retval -20001 memory is exhausted
  * @code
  * double c[4] = {-1, 3, -3, 1};
@@ -5464,7 +7624,9 @@ QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const d
  * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
  * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
  * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
- * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off.
+ * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off. Less than
+ * 0.8 bins below half the rate a tone of a real record of odd length can read a bin or more off, by its phase; of an
+ * even length it reads right up to there.
  * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
  * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
  * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
@@ -5503,7 +7665,8 @@ QV_API QvStatus ZemFunc87(const double* power, int64_t n, int64_t fftSize, int32
  * A fundamental, its harmonics and the distortion of a time record.
  * The fundamental is the largest bin near the guess, interpolated under a Hanning window without the leakage of its
  * image; it is synthesised and subtracted, and the harmonics are taken from the rest. Those beyond fs/2 stay 0.
- * After a failure, what has not been found is 0.
+ * After a failure, what has not been found is 0; a number of harmonics below 1 is turned into theirs once the
+ * fundamental is known, and before that both arrays stay as they are.
  * @param x read, [n]
  * @param harmonics how many, the fundamental included; below 1: all up to fs/2, n at most
  * @param fs sampling rate

@@ -4,6 +4,7 @@
 
 #include "frame/types.h"
 #include "stats/special/digamma.h"
+#include "stats/special/double_double.h"
 #include "stats/special/gamma.h"
 #include "stats/special/ln_gamma.h"
 #include "stats/special/log_remainder.h"
@@ -33,13 +34,11 @@ double PeakCorrection(double a, double b) noexcept {
     return LnGammaCorrection(a) + LnGammaCorrection(b) - LnGammaCorrection(a + b);
 }
 
-// What ln Gamma(a + b) lacks because the sum was rounded, to first order; by D. E. Knuth's two-sum; 0 where first
-// order is not enough.
+// What ln Gamma(a + b) lacks because the sum was rounded, to first order; 0 where first order is not enough.
 double LnGammaSlip(double a, double b) noexcept {
-    const double sum = a + b, from_b = sum - a;
-    const double rounded = (a - (sum - from_b)) + (b - from_b);
-    if (!(rounded != 0 && std::fabs(rounded) < 1e-10)) return 0;
-    const double slip = rounded * SpecDigamma(sum);
+    const DoubleDouble sum = ExactSum(a, b);
+    if (!(sum.low != 0 && std::fabs(sum.low) < 1e-10)) return 0;
+    const double slip = sum.low * SpecDigamma(sum.high);
     return std::fabs(slip) < 1e-3 ? slip : 0;
 }
 

@@ -11,6 +11,14 @@ bool IsPole(double x) noexcept { return x <= 0 && x == std::floor(x); }
 
 double ReciprocalGamma(double x) noexcept { return IsPole(x) ? 0 : 1 / GammaValue(x); }
 
+BelowGamma BesidePole(DoubleDouble z) noexcept {
+    const double pole = std::nearbyint(z.high);
+    if (z.low == 0 || pole > 0 || std::fabs(z.high - pole) > 0.25) return {z.high, 1};
+    // 1/Gamma is linear there to the last place.
+    const double argument = z.high != pole ? z.high : std::nextafter(pole, z.low > 0 ? HUGE_VAL : -HUGE_VAL);
+    return {argument, ((z.high - pole) + z.low) / (argument - pole)};
+}
+
 double GammaWeight(double exponent, double base, double power, double above0, double above1, double below0,
                    double below1) noexcept {
     if (IsPole(below0) || IsPole(below1)) return 0;

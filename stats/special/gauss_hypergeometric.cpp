@@ -19,14 +19,16 @@ constexpr double kNearOne = 0.9;
 constexpr int kLongest = 10000;
 constexpr double kAccepted = 48 * kEpsilon;  // estimate with which no slow form is tried
 
-// a, b, c with the differences c - a, c - b and c - a - b, which the transformations exchange without rounding anew.
+// a, b, c with the differences c - a, c - b and c - a - b, which the transformations exchange without rounding anew;
+// and what rounding took from the first two, which then may stand for a or b.
 struct Parameters {
     double a, b, c, ca, cb, d;
+    double a_rest = 0, b_rest = 0, ca_rest = 0, cb_rest = 0;
 
-    Parameters Euler() const noexcept { return {ca, cb, c, a, b, -d}; }
+    Parameters Euler() const noexcept { return {ca, cb, c, a, b, -d, ca_rest, cb_rest, a_rest, b_rest}; }
     // 2F1 = (1-x)^-a times that of a, c-b, c at x/(x-1).
-    Parameters Pfaff() const noexcept { return {a, cb, c, ca, b, b - a}; }
-    Parameters Exchanged() const noexcept { return {b, a, c, cb, ca, d}; }
+    Parameters Pfaff() const noexcept { return {a, cb, c, ca, b, b - a, a_rest, cb_rest, ca_rest, b_rest}; }
+    Parameters Exchanged() const noexcept { return {b, a, c, cb, ca, d, b_rest, a_rest, cb_rest, ca_rest}; }
 };
 
 // x with 1 - x, which is known better than by subtraction.
@@ -85,8 +87,11 @@ Estimate TwoTerms(const Parameters& p, Argument at) noexcept {
     if (p.d == std::floor(p.d)) return {kNaN, kInf};
     const Estimate first = PowerSeries({p.a, p.b, 1 - p.d, 0, 0, 0}, at.rest);
     const Estimate second = PowerSeries({p.ca, p.cb, 1 + p.d, 0, 0, 0}, at.rest);
-    const double one = GammaWeight(0, 1, 0, p.c, p.d, p.ca, p.cb) * first.value;
-    const double two = GammaWeight(0, at.rest, p.d, p.c, -p.d, p.a, p.b) * second.value;
+    const BelowGamma a = BesidePole({p.a, p.a_rest}), b = BesidePole({p.b, p.b_rest});
+    const BelowGamma ca = BesidePole({p.ca, p.ca_rest}), cb = BesidePole({p.cb, p.cb_rest});
+    const double one = GammaWeight(0, 1, 0, p.c, p.d, ca.argument, cb.argument) * ca.factor * cb.factor * first.value;
+    const double two =
+        GammaWeight(0, at.rest, p.d, p.c, -p.d, a.argument, b.argument) * a.factor * b.factor * second.value;
     const double sum = one + two;
     if (std::isinf(sum) && !std::isinf(one) != !std::isinf(two)) return {sum, first.error + second.error};
     const double rest = std::fabs(one) * first.error + std::fabs(two) * second.error;
@@ -203,8 +208,8 @@ double Evaluate(double x, double a, double b, double c, double cut) noexcept {
     if (std::isinf(a) || std::isinf(b) || std::isinf(c)) return kNaN;
     if (x == 0 || ((a == 0 || b == 0) && c != 0)) return 1;
     if (x < 1 && (b == c || a == c) && std::isfinite(x)) return std::pow(1 - x, b == c ? -a : -b);
-    const DoubleDouble ca = ExactSum(c, -a), difference = ca + DoubleDouble{-b, 0};
-    const Parameters p{a, b, c, ca.high, c - b, difference.high};
+    const DoubleDouble ca = ExactSum(c, -a), cb = ExactSum(c, -b), difference = ca + DoubleDouble{-b, 0};
+    const Parameters p{a, b, c, ca.high, cb.high, difference.high, 0, 0, ca.low, cb.low};
 
     const bool a_ends = IsPole(a), b_ends = IsPole(b);
     if (IsPole(c) && !(a_ends && a > c) && !(b_ends && b > c)) return kInf;

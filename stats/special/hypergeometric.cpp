@@ -75,8 +75,10 @@ Estimate Transformed(double a, double b, double x, bool long_sum) noexcept {
     Estimate sum = long_sum ? LongSeries(difference, b, -x) : PowerSeries(difference.high, b, -x);
     sum.value *= std::exp(x);
     if (!long_sum && difference.low != 0) {
-        // d ln 1F1 / d ln(b - a) is at most about |x|.
-        sum.error += std::fabs(difference.low / difference.high) * (std::fabs(x) < 1 ? std::fabs(x) : 1);
+        // d ln 1F1 / d ln(b - a) is at most about |x|; but beside 0, -1, ... the rounding counts over the distance.
+        const double whole = std::nearbyint(difference.high), x1 = std::fmin(std::fabs(x), 1);
+        const double distance = whole <= 0 ? std::fabs(difference.high - whole) : difference.high;
+        sum.error += std::fabs(difference.low / distance) * x1;
     }
     return sum;
 }
@@ -87,13 +89,15 @@ Estimate Transformed(double a, double b, double x, bool long_sum) noexcept {
 // the first for x > 0, the second for x < 0; the other counts as error. A series that ends takes the second.
 Estimate Asymptotic(double a, double b, double x) noexcept {
     const double size = std::fabs(x);
+    const BelowGamma difference = BesidePole(ExactSum(b, -a));
     if (IsPole(a)) {
         const Estimate sum = DivergentSeries(a, a - b + 1, -1 / x);
-        const double weight = GammaWeight(0, size, -a, b, 1, b - a, 1) * (x > 0 && std::fmod(a, 2) != 0 ? -1 : 1);
+        const double sign = x > 0 && std::fmod(a, 2) != 0 ? -1 : 1;
+        const double weight = GammaWeight(0, size, -a, b, 1, difference.argument, 1) * (sign * difference.factor);
         return Judged(weight * sum.value, 0, kAsymptoticFactor * std::fabs(weight) * sum.error);
     }
     const double growing = GammaWeight(x, size, a - b, b, 1, a, 1);
-    const double algebraic = GammaWeight(0, size, -a, b, 1, b - a, 1);
+    const double algebraic = GammaWeight(0, size, -a, b, 1, difference.argument, 1) * difference.factor;
     const Estimate sum = x > 0 ? DivergentSeries(b - a, 1 - a, 1 / x) : DivergentSeries(a, a - b + 1, -1 / x);
     const double weight = x > 0 ? growing : algebraic, other = x > 0 ? algebraic : growing;
     if (std::isinf(weight) && x > 0 && std::isfinite(other) && sum.error < 0.1) return {weight * sum.value, 0};

@@ -28,7 +28,7 @@ double BesidePeak(double a, double x) noexcept {
 }
 
 // x^a e^-x / Gamma(a + 1). From a = 13 on against the peak, so that no large logarithms cancel.
-double PowerOverGamma(double a, double x) noexcept {
+double CommonFactor(double a, double x) noexcept {
     if (a >= 13) return std::exp(BesidePeak(a, x) - LnGammaCorrection(a)) / std::sqrt(kTwoPi * a);
     if (x > 2000) return 0;
     const double half = std::exp(-0.5 * x);
@@ -37,7 +37,7 @@ double PowerOverGamma(double a, double x) noexcept {
 
 // P: x^a e^-x / Gamma(a+1) (1 + x/(a+1) + x^2/((a+1)(a+2)) + ...), for x <= 1 or x <= a.
 double Series(double a, double x) noexcept {
-    const double factor = PowerOverGamma(a, x);
+    const double factor = CommonFactor(a, x);
     if (factor < kLeastFactor) return 0;
     double r = a, term = 1, sum = 1;
     do {
@@ -50,7 +50,7 @@ double Series(double a, double x) noexcept {
 
 // Q: x^a e^-x / Gamma(a) times Legendre's continued fraction, for x >= 1 and x >= a.
 double Fraction(double a, double x) noexcept {
-    const double factor = a * PowerOverGamma(a, x);
+    const double factor = a * CommonFactor(a, x);
     if (factor < kLeastFactor) return 0;
     double y = 1 - a, z = x + y + 1, c = 0;
     double p2 = 1, q2 = x, p1 = x + 1, q1 = z * x;

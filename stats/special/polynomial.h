@@ -29,7 +29,7 @@ constexpr double ChebyshevSum(double x, const double (&c)[N]) noexcept {
     for (std::size_t i = 1; i < N; ++i) {
         b2 = b1;
         b1 = b0;
-        b0 = x * b1 - b2 + c[i];
+        b0 = x * b1 + (c[i] - b2);  // the difference is ready while the product still waits for b1
     }
     return 0.5 * (b0 - b2);
 }

@@ -12,14 +12,14 @@ namespace {
 constexpr double kHalfPi = 0.5 * kPi;
 constexpr double kEulerGamma = 0.5772156649015329;
 
-struct SineCosine {
+struct Integrals {
     double si, ci;
 };
 
 // f = FN(z)/(x FD(z)), g = z GN(z)/GD(z), z = 1/x^2.
 template <std::size_t A, std::size_t B, std::size_t C, std::size_t D>
-SineCosine ByAuxiliary(double x, const double (&fn)[A], const double (&fd)[B], const double (&gn)[C],
-                       const double (&gd)[D]) noexcept {
+Integrals ByAuxiliary(double x, const double (&fn)[A], const double (&fd)[B], const double (&gn)[C],
+                      const double (&gd)[D]) noexcept {
     const double z = 1 / (x * x), s = std::sin(x), c = std::cos(x);
     const PolynomialPair fs = Polynomials<true>(z, fn, fd), gs = Polynomials<true>(z, gn, gd);
     const double f = fs.first / (x * fs.second), g = z * gs.first / gs.second;
@@ -27,7 +27,7 @@ SineCosine ByAuxiliary(double x, const double (&fn)[A], const double (&fd)[B], c
 }
 
 // Both at once for x >= 0; the compiler drops the one that a caller leaves.
-inline SineCosine Both(double x) noexcept {
+inline Integrals Both(double x) noexcept {
     static constexpr double kSN[] = {-8.39167827910303881427E-11, 4.62591714427012837309E-8,
                                      -9.75759303843632795789E-6,  9.76945438170435310816E-4,
                                      -4.13470316229406538752E-2,  1.00000000000000000302E0};

@@ -37,9 +37,31 @@ double StepDown(double a, double u, double above, double steps, double x, double
     return std::ldexp(u, removed);
 }
 
-// a = 0, -1, -2, ...
+// a = -n, n = 0, 1, ...: sum of C(n, k) (-b-n+1)(-b-n+2)...(-b-k) x^k, k from n down to 0, in pairs of doubles.
+Estimate Polynomial(double x, double n, double b) noexcept {
+    DoubleDouble sum{1, 0}, term{1, 0};  // over x^n
+    double largest = 1;
+    for (double k = n - 1; k >= 0; k -= 1) {
+        const DoubleDouble factor{-(k + 1), 0}, divisor = ExactProduct(n - k, x);
+        term = term * (ExactSum(b, k) * factor / divisor);
+        sum = sum + term;
+        largest = std::fmax(largest, std::fabs(term.high));
+        if (!(largest < 1e300)) return {kNaN, kInf};
+    }
+    const double power = std::pow(x, n);
+    if (!(std::fabs(power) > 1e-290)) return {kNaN, kInf};
+    return JudgedPair(sum.high, largest).Times(power);
+}
+
+// a = 0, -1, -2, ... For b below 0 the recurrence is not stable all the way, and the powers of x are summed instead.
 double Terminating(double x, double a, double b) noexcept {
-    return -a > kMostSteps ? kNaN : StepDown(0, 1, 0, -a, x, b);
+    constexpr double kLongestSum = 200;
+    if (-a > kMostSteps) return kNaN;
+    if (b < 0 && x != 0 && -a <= kLongestSum) {
+        const Estimate sum = Polynomial(x, -a, b);
+        if (sum.error <= kAccepted) return sum.value;
+    }
+    return StepDown(0, 1, 0, -a, x, b);
 }
 
 Estimate Asymptotic(double x, double a, double b) noexcept {
@@ -47,11 +69,16 @@ Estimate Asymptotic(double x, double a, double b) noexcept {
     return Judged(std::pow(x, -a) * sum.value, 0, std::pow(x, -a) * sum.error);
 }
 
+// a - b + 1, the first parameter of x^(b-1) U(a, b, x) = U(a-b+1, 2-b, x), A&S 13.1.29.
+DoubleDouble Mirrored(double a, double b) noexcept { return ExactSum(a, -b) + DoubleDouble{1, 0}; }
+
 // Gamma(1-b)/Gamma(a-b+1) 1F1(a; b; x) + Gamma(b-1)/Gamma(a) x^(1-b) 1F1(a-b+1; 2-b; x). Beside whole b both Gammas are
 // near poles, where what their arguments lose by rounding counts over the distance.
 Estimate FromTwo(double x, double a, double b) noexcept {
-    const double first = GammaWeight(0, 1, 0, 1 - b, 1, a - b + 1, 1) * SpecHyperg1F1(x, a, b);
-    const double second = GammaWeight(0, x, 1 - b, b - 1, 1, a, 1) * SpecHyperg1F1(x, a - b + 1, 2 - b);
+    const DoubleDouble a1 = Mirrored(a, b);
+    const BelowGamma below = BesidePole(a1);
+    const double first = GammaWeight(0, 1, 0, 1 - b, 1, below.argument, 1) * below.factor * SpecHyperg1F1(x, a, b);
+    const double second = GammaWeight(0, x, 1 - b, b - 1, 1, a, 1) * SpecHyperg1F1(x, a1.high, 2 - b);
     const double lost = std::fabs(ExactSum(1, -b).low) + std::fabs(ExactSum(2, -b).low);
     const double roundings = 4 + lost / (kEpsilon * std::fabs(b - std::nearbyint(b)));
     return Judged(first + second, roundings * (std::fabs(first) + std::fabs(second)), 0);
@@ -60,12 +87,14 @@ Estimate FromTwo(double x, double a, double b) noexcept {
 // b = n + 1, n = 0, 1, ...: with (a)_k = a (a+1) ... (a+k-1),
 //   (-1)^(n+1)/(n! Gamma(a-n)) sum of (a)_k/((n+1)_k k!) x^k (ln x + psi(a+k) - psi(1+k) - psi(n+1+k)), k from 0 on
 //   + 1/Gamma(a) sum of (k-1)! (1-a+k)_(n-k)/(n-k)! x^-k, k = 1 to n.
-Estimate Limit(double x, double a, double b) noexcept {
+// `difference` is a - n, which may lie beside a pole.
+Estimate Limit(double x, double a, double b, DoubleDouble difference) noexcept {
     const double n = b - 1;
     if (n > 100) return {kNaN, kInf};
     double weight = std::fmod(n, 2) != 0 ? 1 : -1, factor = 1;
     double psi = std::log(x) + SpecDigamma(a) - SpecDigamma(1) - SpecDigamma(n + 1);
-    weight *= GammaWeight(0, 1, 0, 1, 1, a - n, n + 1);
+    const BelowGamma below = BesidePole(difference);
+    weight *= GammaWeight(0, 1, 0, 1, 1, below.argument, n + 1) * below.factor;
     double sum = 0, largest = 0, term;
     for (double k = 0; k < 500; k += 1) {
         term = factor * psi;
@@ -148,10 +177,19 @@ double Positive(double x, double a, double b) noexcept {
         if (asymptotic.error <= kAsymptotic) return asymptotic.value;
     }
     const bool whole = b == std::floor(b), mirrored = whole && b < 1;
-    // U(a, b, x) = x^(1-b) U(a-b+1, 2-b, x), 13.1.29.
-    const double mirror = std::pow(x, 1 - b), a1 = a - b + 1, b1 = 2 - b;
+    const DoubleDouble shifted = Mirrored(a, b);
+    const double mirror = std::pow(x, 1 - b), a1 = shifted.high, b1 = 2 - b;
     if (x < 8) {
-        const Estimate closed = !whole ? FromTwo(x, a, b) : mirrored ? Limit(x, a1, b1).Times(mirror) : Limit(x, a, b);
+        Estimate closed{kNaN, kInf};
+        if (!whole) {
+            closed = FromTwo(x, a, b);
+        } else if (!mirrored) {
+            closed = Limit(x, a, b, shifted);
+        } else {
+            closed = Limit(x, a1, b1, {a, 0}).Times(mirror);
+            // psi(a1) grows as the distance to a pole falls.
+            if (a1 < 0.5) closed.error += std::fabs(shifted.low / (a1 - std::nearbyint(a1)));
+        }
         if (closed.error <= kAccepted) return closed.value;
     }
     if (a < 0 && a1 > 0) {
@@ -162,7 +200,10 @@ double Positive(double x, double a, double b) noexcept {
 }
 
 double AtZero(double a, double b) noexcept {
-    if (b < 1) return GammaWeight(0, 1, 0, 1 - b, 1, a - b + 1, 1);
+    if (b < 1) {
+        const BelowGamma below = BesidePole(Mirrored(a, b));
+        return GammaWeight(0, 1, 0, 1 - b, 1, below.argument, 1) * below.factor;
+    }
     return std::copysign(kInf, ReciprocalGamma(a));
 }
 

@@ -5,7 +5,8 @@ namespace quorvan {
 
 // U(a, b, x), the solution of Kummer's equation that falls as x^-a (F. G. Tricomi, 1947). The argument x stands before
 // the parameters. Complex at x < 0 and NaN there, but for a or a - b + 1 = 0, -1, -2, ... with a real power.
-//   a or a - b + 1 = 0, -1, ...   a polynomial, by recurrence in a (times x^(1-b))
+//   a or a - b + 1 = 0, -1, ...   a polynomial (times x^(1-b)): recurrence in a, or for b < 0
+//                                 its powers in pairs of doubles
 //   large x                       x^-a 2F0(a, a-b+1; -1/x)             Abramowitz and Stegun 13.5.2
 //   b not whole                   from two 1F1                         13.1.3
 //   b whole                       its limit, with psi and ln x         13.1.6

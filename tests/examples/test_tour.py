@@ -1,6 +1,7 @@
 """The tour as its user sees it: the readings it prints, and one clear line for a file that it cannot use."""
 
 import csv
+import functools
 import math
 import os
 import pathlib
@@ -10,7 +11,8 @@ import subprocess
 import numpy as np
 import pytest
 
-RECORDING = pathlib.Path(__file__).resolve().parents[2] / "examples" / "data" / "ecg.csv"
+DATA = pathlib.Path(__file__).resolve().parents[2] / "examples" / "data"
+RECORDING = DATA / "ecg.csv"
 RATE = 360.0
 
 
@@ -22,18 +24,30 @@ def numbers(text):
     """The rows of a table: name to the numbers behind it, and the unit."""
     rows = {}
     for line in text.splitlines():
-        match = re.fullmatch(r"\s+([a-z].*?\S)\s{2,}([-+\d.e ]*\d)(?:\s+(\S+))?(?:,? .*)?", line)
+        match = re.fullmatch(r"\s+([A-Za-z].*?\S)\s{2,}([-+\d.e ]*\d)(?:\s+(\S+))?(?:,? .*)?", line)
         if match:
             rows[match[1].strip()] = ([float(v) for v in match[2].split()], (match[3] or "").rstrip(","))
     return rows
 
 
+CHAPTERS = ("rhythm", "beats", "shape", "filters", "tones", "amplifier", "trend", "sunspots", "matrices")
+
+
+@functools.cache
+def text(name):
+    run = tour("--chapter", name)
+    assert run.returncode == 0 and run.stderr == ""
+    assert run.stdout.startswith(f"── {name}: ")
+    return run.stdout
+
+
+def chapter(name):
+    return numbers(text(name))
+
+
 @pytest.fixture(scope="module")
 def sections():
-    run = tour()
-    assert run.returncode == 0 and run.stderr == ""
-    heart, _, tones = run.stdout.partition("two tones:")
-    return numbers(heart), numbers(tones)
+    return chapter("rhythm"), chapter("tones")
 
 
 @pytest.fixture(scope="module")
@@ -172,5 +186,22 @@ def test_bad_rate_is_refused(rate):
 
 
 def test_too_many_arguments_show_the_usage():
-    run = tour(RECORDING, 360, 1)
-    assert run.returncode == 1 and run.stderr == "tour: usage: tour [FILE [SAMPLES_PER_SECOND]]\n"
+    for arguments in ((RECORDING, 360, 1), ("--chapter",), ("--chapter", "beats", 1)):
+        run = tour(*arguments)
+        assert run.returncode == 1 and run.stdout == ""
+        assert run.stderr == "tour: usage: tour [FILE [SAMPLES_PER_SECOND] | --chapter NAME]\n"
+
+
+def test_unknown_chapter_is_told_the_known_ones():
+    run = tour("--chapter", "weather")
+    assert run.returncode == 1 and run.stdout == ""
+    assert run.stderr == f"tour: no chapter 'weather'; there are: {', '.join(CHAPTERS)}\n"
+
+
+def test_whole_tour_is_all_chapters_each_on_one_screen():
+    run = tour()
+    assert run.returncode == 0 and run.stderr == ""
+    assert run.stdout == "".join(text(name) for name in CHAPTERS)
+    for name in CHAPTERS:
+        lines = text(name).splitlines()
+        assert len(lines) <= 30 and max(map(len, lines)) <= 100, name

@@ -1,5 +1,5 @@
 // The test for positive definiteness.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

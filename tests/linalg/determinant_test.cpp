@@ -1,5 +1,5 @@
 // Determinant and trace.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

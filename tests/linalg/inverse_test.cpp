@@ -1,5 +1,5 @@
 // Inverses and pseudo-inverses.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

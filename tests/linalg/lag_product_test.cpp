@@ -1,5 +1,5 @@
 // The normal matrices of linear prediction.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

@@ -1,5 +1,5 @@
 // Norms, condition numbers and ranks of matrices, norms of vectors.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

@@ -1,5 +1,5 @@
 // Products of matrices and vectors, and transposition.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

@@ -2,7 +2,7 @@
 #include <dlfcn.h>
 
 #include "linalg/provider.h"
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // One right-hand side on a square matrix, on a triangle, and on the factors of a matrix.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

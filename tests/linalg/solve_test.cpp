@@ -1,5 +1,5 @@
 // Systems of a named kind.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

@@ -1,5 +1,5 @@
 // Matrices built from vectors.
-#include "tests/linalg/dense.h"
+#include "tests/linalg/matrices.h"
 
 namespace quorvan::testing::dense {
 namespace {

@@ -110,7 +110,12 @@ TEST(PeakDetect, KeepsTheBetterOfPeaksLessThanASampleApart) {
 TEST(PeakDetect, WantsTheApexInTheMiddleHalfOfTheWindow) {
     EXPECT_EQ(Found({0, 1, 1}, {3}).size(), 1u) << "half a sample from the middle";
     EXPECT_EQ(Found({0, 1, 1 + 1e-9}, {3}), (Peaks{}));
-    EXPECT_EQ(Found({0, 1, 1 + kEpsilon}, {3}).size(), 1u) << "a rounding beyond is forgiven";
+    // The vertex of 0, 1, 1 + e is at 1/2 + e and a rounding of it, e² being far below.
+    EXPECT_EQ(Found({0, 1, 1 + 9 * kEpsilon}, {3}).size(), 1u) << "nine roundings beyond are forgiven";
+    EXPECT_EQ(Found({0, 1, 1 + 11 * kEpsilon}, {3}), (Peaks{})) << "eleven are not";
+    // The same before the middle, where the first window has none before it.
+    EXPECT_EQ(Found({1 + 9 * kEpsilon, 1, 0}, {3}).size(), 1u);
+    EXPECT_EQ(Found({1 + 11 * kEpsilon, 1, 0}, {3}), (Peaks{}));
 }
 
 TEST(PeakDetect, IgnoresCurvaturesBelow1em10) {
@@ -284,9 +289,14 @@ TEST(PeakDetect, FindsNothingInConstantsAndPassesByNan) {
     EXPECT_EQ(Found({0, 1, 0, kNaN, 0, 2, 0}, {3}), (Peaks{{1, 1, -2}, {5, 2, -4}}));
 }
 
-TEST(PeakDetect, KeepsNothingBehindTheLastBlock) {
+// The blocks that live when this thread has its state and no stream.
+long BlocksWithoutAStream() {
     Refused({0, 1, 0}, Stream(3, true, true));
-    const long live = LiveBlocks();
+    return LiveBlocks();
+}
+
+TEST(PeakDetect, KeepsNothingBehindTheLastBlock) {
+    const long live = BlocksWithoutAStream();
     Found({0, 1, 0}, Stream(3, true, false));
     EXPECT_EQ(LiveBlocks(), live + 2) << "a stream holds its state and its buffer";
     Found({0, 1, 0}, Stream(3, true, false));
@@ -296,7 +306,7 @@ TEST(PeakDetect, KeepsNothingBehindTheLastBlock) {
 }
 
 TEST(PeakDetect, RefusesAWidthAndReleasesTheStream) {
-    const long live = LiveBlocks();
+    const long live = BlocksWithoutAStream();
     for (Size width : {Size{2}, Size{0}, Size{-1}, kWidest + 1}) {
         Found({0, 1, 0}, Stream(3, true, false));
         EXPECT_EQ(Refused({0, 1, 0}, Stream(width, false, false)), -20061) << width;
@@ -307,7 +317,7 @@ TEST(PeakDetect, RefusesAWidthAndReleasesTheStream) {
 }
 
 TEST(PeakDetect, RefusesABlockShorterThanTheWidthAndReleasesTheStream) {
-    const long live = LiveBlocks();
+    const long live = BlocksWithoutAStream();
     EXPECT_EQ(Refused({0, 1}, Stream(3, true, false)), -20013);
     EXPECT_EQ(Refused({}, Stream(3, true, false)), -20013);
     EXPECT_EQ(LiveBlocks(), live);
@@ -320,7 +330,7 @@ TEST(PeakDetect, RefusesABlockShorterThanTheWidthAndReleasesTheStream) {
 }
 
 TEST(PeakDetect, RefusesALaterBlockWithoutAStreamOrWithAnotherWidth) {
-    const long live = LiveBlocks();
+    const long live = BlocksWithoutAStream();
     EXPECT_EQ(Refused({0, 1, 0}, Stream(3, false, false)), -20064);
     EXPECT_EQ(Refused({0, 1, 0}, Stream(3, false, true)), -20064);
     Found({0, 1, 0}, Stream(3, true, false));

@@ -43,7 +43,7 @@ def by_least_squares(x, width, threshold, polarity):
             if abs(-b1 / (2 * b2)) < abs(v):
                 v, at, (c0, c1, c2) = -b1 / (2 * b2), p - 1, (b0, b1, b2)
         y = c0 + c1 * v + c2 * v * v
-        if abs(v) > half / 2 + 2 * EPS or sign * c2 >= 0 or sign * (y - threshold) <= 0:
+        if abs(v) > half / 2 + 20 * EPS or sign * c2 >= 0 or sign * (y - threshold) <= 0:
             continue
         peak = (at + half + v, y, 2 * c2)
         if kept and abs(peak[0] - kept[-1][0]) < 1:

@@ -55,6 +55,21 @@ def test_clean_single_tones(qv, n, make, scale):
         assert turns_apart(at, phase) <= 400 * n * bound
 
 
+@pytest.mark.parametrize("n, nearest", [(64, 0.1), (1000, 0.1), (65, 0.8), (1001, 0.8)])
+def test_single_real_tones_next_to_half_the_rate(qv, n, nearest):
+    """Where tone and image share their bins. A record of odd length has no bin at half the rate to tell them apart."""
+    for below in np.linspace(nearest, 3, 30):
+        f = 0.5 - below / n
+        for phase in range(-180, 180, 15):
+            freq, amp, found = single(qv, sine(n, f, 1.5, phase))
+            # Tone and image cancel but for a part of a tenth, and that of its square tells the frequency: a hundred
+            # times the 1e-10 bins of a tone that stands alone.
+            assert abs(freq - f) * n < 1e-8
+            if below >= 1:
+                assert amp == pytest.approx(1.5, rel=1e-7)
+                assert turns_apart(found, phase) < 1e-5
+
+
 @pytest.mark.parametrize("dt", [1e-6, 0.5, 300.0])
 def test_frequency_is_in_the_unit_of_the_rate(qv, dt):
     freq, amp, _ = single(qv, sine(500, 0.123), dt)

@@ -132,6 +132,11 @@ TEST(SpecToneHarmonics, EndsAtAHarmonicInTheLastBin) {
     EXPECT_NEAR(out.amp[0], 1, 1e-10);
     EXPECT_TRUE(out.amp[1] == 0 && out.thd[0] == 0);
     EXPECT_EQ(Analyze(x, 1, 1, 0.25, out), 0);
+    Analysis all(64);
+    EXPECT_EQ(Analyze(x, 0, 1, 0.25, all), -20017);
+    EXPECT_NEAR(all.amp[0], 1, 1e-10);
+    EXPECT_TRUE(all.amp[1] == 0 && all.freq[1] == 0) << "the second is the last one";
+    EXPECT_TRUE(all.amp[2] == kUnwritten && all.freq[2] == kUnwritten);
 }
 
 TEST(SpecToneHarmonics, RefusesInItsOrder) {

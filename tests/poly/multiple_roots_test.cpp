@@ -87,6 +87,19 @@ TEST(PolyRootsMultiple, KeepRandomProductsOfRepeatedRoots) {
     }
 }
 
+// A product of so many factors, taken around the circle and not across it, loses six digits: the test's own goes
+// across.
+TEST(PolyRootsMultiple, KeepManySimpleRootsToTheirRounding) {
+    std::vector<Root> roots;
+    for (int i = 0; i < 20; ++i) {
+        const int k = i * 7 % 20;
+        const Complex z = std::polar(1 + k / 100.0, kTwoPi * (2 * k + 1) / 80);
+        roots.push_back({z, 1});
+        roots.push_back({std::conj(z), 1});
+    }
+    ExpectRoots(roots, 1e-14);
+}
+
 TEST(PolyRootsMultiple, PutTheRootZeroLast) {
     // z³(z - 1)²(z + i)²
     Records c = FromRoots({{1, 2}, {Complex(0, -1), 2}});
@@ -128,6 +141,13 @@ TEST(PolyRootsMultiple, StatusesStandInOrder) {
     EXPECT_EQ(ZemFunc300(Records{{0, 0}, {0, 0}}, 2, roots), -20111);
     EXPECT_EQ(ZemFunc300(Records{{0, 0}}, 1, roots), -20111);
     EXPECT_EQ(ZemFunc300(Records{{3, 1}, {0, 0}}, 2, roots), -20021);
+    EXPECT_TRUE(Untouched(roots));
+}
+
+TEST(PolyRootsMultiple, OfCoefficientsWhoseQuotientsOverflowAreRefusedByTheScreenOfTheMatrix) {
+    const Records c{{1e300, 0}, {1, 0}, {1, 0}, {1e-300, 0}};
+    Records roots = RecordOutput(3);
+    EXPECT_EQ(ZemFunc300(c, 4, roots), -20068);
     EXPECT_TRUE(Untouched(roots));
 }
 

@@ -83,10 +83,11 @@ TEST(PolyRootsReal, OfAQuadraticAvoidCancellation) {
     const std::vector<Complex> roots = Roots({1, -1e8, 1});
     EXPECT_NEAR(roots[0].real(), 1e8, 1e-7);
     EXPECT_NEAR(roots[1].real(), 1e-8, 1e-23);
-    // -2 x² + 2 x - 5: of the pair the root with the positive imaginary part stands first.
-    const std::vector<Complex> pair = Roots({-5, 2, -2});
-    EXPECT_EQ(pair[0], Complex(0.5, 1.5));
-    EXPECT_EQ(pair[1], Complex(0.5, -1.5));
+}
+
+TEST(PolyRootsReal, OfAPairTheRootWithTheSignOfTheLeadingCoefficientStandsFirst) {
+    EXPECT_EQ(Roots({5, -2, 2}), (std::vector<Complex>{{0.5, 1.5}, {0.5, -1.5}}));
+    EXPECT_EQ(Roots({-5, 2, -2}), (std::vector<Complex>{{0.5, -1.5}, {0.5, 1.5}}));
 }
 
 TEST(PolyRootsReal, HighZeroCoefficientsLowerTheDegree) {
@@ -147,6 +148,13 @@ TEST(PolyRootsReal, RefuseCoefficientsThatDoNotPassTheScreen) {
 TEST(PolyRootsReal, RefuseASizeBelowOne) {
     EXPECT_EQ(ZemFunc299(nullptr, 0, nullptr), -20003);
     EXPECT_EQ(ZemFunc299(nullptr, 0x80000000u, nullptr), -20003) << "beyond the counts";
+}
+
+TEST(PolyRootsReal, OfCoefficientsWhoseQuotientsOverflowAreRefusedByTheScreenOfTheMatrix) {
+    const Reals c{1e300, 1, 1, 1e-300};
+    Records roots = RecordOutput(3);
+    EXPECT_EQ(ZemFunc299(c, 4, roots), -20068);
+    EXPECT_TRUE(Untouched(roots));
 }
 
 TEST(PolyRootsReal, EndForEveryPolynomial) {

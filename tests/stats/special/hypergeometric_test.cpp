@@ -105,6 +105,12 @@ TEST(SpecHyperg1F1, KeepsItsAccuracyWhereThePlainSeriesCancelsToNothing) {
     }
 }
 
+// b - a rounds, and beside 0, -1, ... what it loses counts over the small distance (values of mpmath at 60 digits).
+TEST(SpecHyperg1F1, KeepsItsAccuracyWhereTheDifferenceOfItsParametersLiesBesideAPole) {
+    ExpectClose(M(2, -2.0000000000115903, -196.44815766841634), 0.000327536129662853471, 64);
+    ExpectClose(M(30, -24.99999700356427, -268.7675185780084), 2.33894626161907521e-22, 64);
+}
+
 TEST(SpecHyperg1F1, SaysNaNWhereNoDigitIsLeft) { EXPECT_TRUE(std::isnan(M(194, 0.6, -193))); }
 
 TEST(SpecHypergU, HasItsElementaryForms) {
@@ -130,6 +136,23 @@ TEST(SpecHypergU, SatisfiesItsOwnTransformation) {
             for (double x : {0.05, 0.7, 3.0, 9.0, 30.0}) {
                 ExpectClose(U(a, b, x), std::pow(x, 1 - b) * U(a - b + 1, 2 - b, x), 512);
             }
+        }
+    }
+}
+
+// The same of a - b + 1.
+TEST(SpecHypergU, KeepsItsAccuracyWhereTheDifferenceOfItsParametersLiesBesideAPole) {
+    ExpectClose(U(-12.00000000000002, 16, 2), 1532398502027530.63, 256);
+}
+
+// The recurrence in a passes its own zero factor there: U(-12) is of the size of b + 11, U(-11) of 11!.
+TEST(SpecHypergU, SumsItsPowersWhereTheRecurrenceForNegativeBIsNotStable) {
+    ExpectClose(U(-17, -11.00000000000054, 0.072040179878623), -0.00289195183488186433, 64);
+    // x^2 - 2 (b+1) x + b (b+1), in closed form.
+    for (double b : {-0.25, -0.999999, -2.5, -40.0}) {
+        for (double x : {-2.0, 0.125, 3.0}) {
+            const double exact = x * x - 2 * (b + 1) * x + b * (b + 1);
+            EXPECT_NEAR(U(-2, b, x), exact, 16 * kU * (x * x + std::fabs(2 * (b + 1) * x) + std::fabs(b * (b + 1))));
         }
     }
 }
@@ -252,6 +275,11 @@ TEST_P(SpecHyperg2F1, IsNaNForNaNAndInfiniteParameters) {
     EXPECT_TRUE(std::isnan(f(1, 1, 2, kNaN)));
     EXPECT_TRUE(std::isnan(f(0, 1, 2, kNaN)));
     EXPECT_TRUE(std::isnan(f(1, 1, 1, kNaN)));
+}
+
+TEST_P(SpecHyperg2F1, KeepsItsAccuracyWhereTheDifferenceOfItsParametersLiesBesideAPole) {
+    ExpectClose(GetParam()(-16.999999397858872, 3, 4.622264741986563e-06, 0.9983387004722749), -0.00179738757971915715,
+                256);
 }
 
 TEST_P(SpecHyperg2F1, HasNoStepAtItsCuts) {

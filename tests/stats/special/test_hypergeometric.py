@@ -7,6 +7,7 @@ estimates of the error and take the first below 48 epsilon, so 200 u is the gene
 the Gammas go through logarithms, 2 u for each unit of the largest of them comes on top. Other bounds have their own comment.
 """
 
+import math
 import sys
 
 import mpmath
@@ -94,7 +95,11 @@ region(F, "abs(b - a) < a/1000, x in [-500, 500]",
        derived(cloud(8, 160, uniform(-500, 500), uniform(0.1, 10), uniform(-1e-3, 1e-3)), lambda x, b, d: (x, b * (1 + d), b)),
        1600)
 region(F, "x in [-1e15, -100], a, b in [-5, 5]",
-       derived(cloud(9, 160, logs(100, 1e15), uniform(-5, 5), uniform(-5, 5)), lambda x, a, b: (-x, a, b)), 1600)
+       derived(cloud(9, 160, logs(100, 1e15), uniform(-5, 5), uniform(-5, 5)), lambda x, a, b: (-x, a, b)), 200)
+# b - a beside the poles of its Gamma: what its rounding takes is a multiple of the distance, and has to be put back.
+region(F, "x in [-300, -20], a = 1 to 10, b within 1e-12 to 0.01 of -5 to 0",
+       derived(cloud(40, 100, uniform(-300, -20), whole(1, 10), whole(-5, 0), logs(1e-12, 1e-2), uniform(-1, 1)),
+               lambda x, a, b, d, s: (x, a, b + math.copysign(d, s))), 400)
 region(F, "abs(x), a, b in [1e-10, 100]",
        derived(cloud(10, 200, logs(1e-10, 1), logs(1e-10, 100), logs(1e-10, 100), uniform(-1, 1)),
                lambda x, a, b, s: (x if s > 0 else -x, a, b)), 200, scipy=1e-13)
@@ -103,6 +108,11 @@ region(F, "abs(x), abs(a), abs(b) <= 50", cloud(11, 240, uniform(-50, 50), unifo
 
 # U(a, b, x). The recurrence keeps relative errors only where U has no zero, so a < 0 is as good as the terms of its last step.
 F = "SpecHypergU"
+# Sums of powers in pairs of doubles, and the limit with a - b + 1 beside a pole.
+region(F, "x in (0, 50], a = -1 to -25, b in [-25, 0)", cloud(41, 80, uniform(0, 50), whole(-25, -1), uniform(-25, 0)), 200)
+region(F, "x in (0, 2], a within 1e-13 to 0.01 of -12 to -1, b = 2 to 20",
+       derived(cloud(42, 60, uniform(0, 2), whole(-12, -1), whole(2, 20), logs(1e-13, 1e-2), uniform(-1, 1)),
+               lambda x, a, b, d, s: (x, a + math.copysign(d, s), b)), 4000)
 region(F, "x in (0, 1], a, b in (0, 10]", cloud(12, 80, uniform(0, 1), uniform(0, 10), uniform(0, 10)), 200)
 region(F, "x in (0, 1], a in (0, 10], b = -5 to 10", cloud(13, 80, uniform(0, 1), uniform(0, 10), whole(-5, 10)), 400)
 region(F, "x in [1, 10], a, b in (0, 10]", cloud(14, 80, uniform(1, 10), uniform(0, 10), uniform(0, 10)), 200)

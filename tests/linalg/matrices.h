@@ -2,8 +2,10 @@
 // to judge results by.
 #pragma once
 
+#include <cfloat>
 #include <cmath>
 #include <complex>
+#include <functional>
 #include <type_traits>
 
 #include "quorvan/quorvan.h"
@@ -50,6 +52,18 @@ QV_TWINS(Turned, 177, 217);
 QV_TWINS(BuildSpecial, 208, 227);
 QV_TWINS(VectorNorm, 394, 395);
 QV_TWINS(LagProduct, 415, 416);
+QV_TWINS(SingularValues, 195, 216);
+QV_TWINS(Svd, 193, 219);
+QV_TWINS(SvdMode, 246, 247);
+QV_TWINS(Lu, 118, 213);
+QV_TWINS(Cholesky, 196, 210);
+QV_TWINS(QrPivot, 243, 245);
+QV_TWINS(Hessenberg, 254, 255);
+QV_TWINS(Balance, 248, 249);
+QV_TWINS(BalanceBack, 250, 251);
+QV_TWINS(Schur, 258, 259);
+QV_TWINS(Generalised, 252, 253);
+QV_TWINS(QzForm, 256, 257);
 #undef QV_TWINS
 
 // An element; reals leave the imaginary part out.
@@ -158,15 +172,74 @@ Guarded<T> OfKind(int kind, int n, unsigned seed, double rest = 0) {
     return out;
 }
 
+// An n by n matrix without special features but a diagonal that makes it well conditioned.
+template <class T>
+Guarded<T> Sound(int n, unsigned seed = 1) {
+    Guarded<T> a = Random<T>(static_cast<std::size_t>(n) * n, seed);
+    for (int i = 0; i < n; ++i) {
+        T& d = a[i * n + i];
+        if constexpr (std::is_same_v<T, double>)
+            d += n + i;
+        else
+            d.re += n + i;
+    }
+    return a;
+}
+
+// B·B^H + I, positive definite.
+template <class T>
+Guarded<T> Definite(int n, unsigned seed = 2) {
+    return OfKind<T>(1, n, seed);
+}
+
 template <class T>
 bool SameElements(const Guarded<T>& a, const Guarded<T>& b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
+
+// The largest element of |left·right - expected|, left m by k, right k by n.
+template <class L, class R, class E>
+double Misfit(const Guarded<L>& left, const Guarded<R>& right, const Guarded<E>& expected, int m, int k, int n) {
+    long double worst = 0;
+    for (int i = 0; i < m; ++i)
+        for (int j = 0; j < n; ++j) {
+            Long sum = -Wide(expected[i * n + j]);
+            for (int l = 0; l < k; ++l) sum += Wide(left[i * k + l]) * Wide(right[l * n + j]);
+            worst = std::max(worst, std::abs(sum));
+        }
+    return static_cast<double>(worst);
+}
+
+// A backward error of the provider's on matrices of this size with elements of modulus up to `largest`.
+inline double Bound(int n, double largest = 1) { return 10 * n * n * DBL_EPSILON * largest; }
 
 // Values that the screen refuses; half of them are finite.
 inline const double kRefused[] = {
     kNaN, kInf, -kInf, 1.7976931348623157e308, -1.7976931348623e308, -1.7976931348623157e308};
 // The largest that pass.
 inline const double kBarelyPassed[] = {1.7976931348623155e308, -1.7976931348622998e308};
+
+// `call(a)` must refuse every kind of element at the first, a middle and the last place, in either part.
+template <class T>
+void ExpectScreened(const Guarded<T>& sound, const std::function<Status(Guarded<T>&)>& call) {
+    for (double bad : kRefused)
+        for (std::size_t place : {std::size_t{0}, sound.size() / 2, sound.size() - 1}) {
+            Guarded<T> a = sound;
+            if constexpr (std::is_same_v<T, double>) {
+                a[place] = bad;
+                EXPECT_EQ(call(a), -20068) << bad << " at " << place;
+            } else {
+                a[place].re = bad;
+                EXPECT_EQ(call(a), -20068) << bad << " at " << place;
+                a[place] = {0, bad};
+                EXPECT_EQ(call(a), -20068) << bad << "i at " << place;
+            }
+        }
+    Guarded<T> a = sound;
+    EXPECT_NE(call(a), -20068);
+}
+
+// The smallest order of a square matrix whose elements need more than 32 bits to count.
+inline constexpr Size kTooManyElements = 46341;
 
 }  // namespace quorvan::testing::dense

@@ -1,0 +1,206 @@
+"""A Python function as text: signature, documentation, body, stub; a part of tools/python_binding.py."""
+
+import re
+import textwrap
+
+import python_choices as choices
+from python_names import parameter_name, translated
+
+LETTERS = {"double": "d", "complex": "z", "int32": "i", "uint32": "u", "int64": "l", "model": "m"}
+WIDTH = 110
+
+
+class Text:
+    """What Function writes of itself; it brings `export`, `name`, `parameters`, `results` and the lines of the body."""
+
+    @property
+    def arrays(self):
+        return [r for r in self.results if r.array]
+
+    @property
+    def result_class(self):
+        return "".join(word.capitalize() for word in self.name.split("_")) + "Result"
+
+    def signature(self, stub=False):
+        parts = []
+        for p in self.parameters:
+            text = p.name + (f": {p.type}" if stub else "")
+            if p.default is not None:
+                text += f" = {p.default}" if stub else f"={p.default}"
+            parts.append(text)
+        if self.arrays:
+            if stub:
+                kinds = [r.type if r.type.endswith("None") else r.type + " | None" for r in self.arrays]
+                kind = kinds[0] if len(kinds) == 1 else f"tuple[{', '.join(kinds)}] | None"
+                parts += ["*", f"out: {kind} = ..."]
+            else:
+                parts += ["*", "out=None"]
+        return ", ".join(parts)
+
+    @property
+    def has_class(self):
+        return len(self.results) > 1 and self.export.result != "double"
+
+    @property
+    def returns(self):
+        if self.export.result == "double":
+            return "float"
+        if self.export.result == "text":
+            return "str"
+        if self.export.result.startswith("handle"):
+            return self.export.result.split()[1]
+        if not self.results:
+            return "None"
+        return self.results[0].type if len(self.results) == 1 else self.result_class
+
+    def body(self):
+        export, lines = self.export, []
+        arguments = ", ".join(p.name for p in self.parameters)
+        if self.twin:
+            arrays = [p.name for p in self.parameters if p.type.startswith("ArrayLike")]
+            out = ", out=out" if self.arrays else ""
+            # by name: the two may order their parameters differently
+            given = ", ".join(f"{p.name}={p.name}" for p in self.parameters)
+            lines += [f"if rt.is_complex({', '.join(arrays)}):", f"    return {self.twin}({given}{out})"]
+        if self.elementwise:
+            lines += [f"if rt.many({arguments}):", f"    return rt.each({self.name}, {arguments})"]
+        many = len(self.arrays) > 1
+        slots = {r.slot: f"_out[{i}]" if many else "out" for i, r in enumerate(self.arrays)}
+        if many:
+            lines.append(f'_out = rt.outs(out, {len(self.arrays)}, "{self.name}")')
+        takes = [line for line in self.before if " = rt.array(" in line or "is None else rt.array(" in line]
+        others = [line for line in self.before if line not in takes]
+        lines += takes + self.size_lines + others
+        lines = [self.with_slot(line, slots) for line in lines]
+        call = f"_{export.symbol}({', '.join(self.call[a.name] for a in export.arguments)})"
+        if export.name.endswith("Release"):
+            p = self.parameters[0]
+            return lines + [f'rt.release({p.name}, "{p.argument.type}", _{export.symbol})']
+        if export.result.startswith("handle"):
+            return lines + [f'return rt.adopt("{export.result.split()[1]}", {call}, "{self.name}")']
+        if export.result == "double":
+            return lines + [f"return {call}"]
+        if export.result == "text":
+            return lines + [f"return {call}.decode()"]
+        lines.append(f"status = {call}" if export.result == "status" else call)
+        lines += [line for line in self.behind if "reraise" in line]
+        if export.result == "status":
+            lines.append(f'rt.check(status, "{self.name}")')
+        lines += [line for line in self.behind if "reraise" not in line]
+        values = [r.value.replace("{out}", slots.get(r.slot, "out")) for r in self.results]
+        if len(values) == 1:
+            lines.append(f"return {values[0]}")
+        elif values:
+            lines.append(f"return {self.result_class}({', '.join(values)})")
+        return lines
+
+    @staticmethod
+    def with_slot(line, slots):
+        line, _, name = line.partition("#")
+        return line.replace("{out}", slots.get(name, "out"))
+
+    def documentation(self, names):
+        export = self.export
+        sentences = re.sub(r"A null [^.]*\. ?", "", " ".join(export.sentences)).strip()
+        head, _, rest = (re.split(r"(?<![. ])(?<![ (][A-Z])\.( )(?=[A-Z])", sentences, 1) + ["", ""])[:3]
+        text = [head.rstrip(".") + ".", ""]
+        if rest:
+            text += [rest, ""]
+        if self.parameters:
+            text += ["Parameters", "----------"]
+            for p in self.parameters:
+                default = "" if p.default is None else f", default {p.default}"
+                text += [f"{p.name} : {p.words}{default}"]
+                text += ["    " + p.meaning] if p.meaning else []
+            if self.arrays:
+                which = f"the array for `{self.arrays[0].name}`" if len(self.arrays) == 1 else (
+                    "arrays for " + ", ".join(f"`{r.name}`" for r in self.arrays) + ", each may be None")
+                text += ["out : array or None" if len(self.arrays) == 1 else "out : tuple or None",
+                         f"    {which}; an input, to work in place"]
+            text += [""]
+        text += ["Returns", "-------"]
+        if export.result == "status":
+            text += [line for r in self.results
+                     for line in [f"{r.name} : {r.words}"] + (["    " + r.meaning] if r.meaning else [])] or ["None"]
+        else:
+            text += [self.returns] if not self.results else [f"{r.name} : {r.words}" for r in self.results]
+        text += [""]
+        for title, kind, sign in (("Raises", "QuorvanError", -1), ("Warns", "QuorvanWarning", 1)):
+            statuses = [(code, why) for code, why in export.statuses if code * sign > 0]
+            if statuses:
+                text += [title, "-" * len(title), kind]
+                text += [f"    {code}: {why}" for code, why in statuses] + [""]
+        notes = []
+        if self.elementwise:
+            notes.append("Arrays are taken element by element, with broadcasting.")
+        if self.twin:
+            notes.append(f"Complex arrays go to `{self.twin}`.")
+        notes += [remark for pattern, remark in choices.REMARKS.items() if re.fullmatch(pattern, export.name)]
+        notes.append(f"The function {export.symbol} ({export.name}) of the C library.")
+        text += ["Notes", "-----", " ".join(notes), ""]
+        text += ["Example", "-------", f">>> {self.example()}"]
+        words = "\n".join(re.sub(r"[;,] null(:| writes| ).*", "", line) if line.startswith("    ") else line
+                          for line in text)
+        words = translated(words, names, export.name)
+        for a in export.arguments:
+            if a.name != parameter_name(a.name):
+                words = re.sub(rf"\b{a.name}\b", parameter_name(a.name), words)
+        return [piece for line in words.split("\n") for piece in self.wrapped(line)]
+
+    @staticmethod
+    def wrapped(line):
+        indent = " " * (len(line) - len(line.lstrip()))
+        if line.startswith(">>>"):
+            return [line]
+        return textwrap.wrap(line.strip(), WIDTH, initial_indent=indent, subsequent_indent=indent,
+                             break_long_words=False, break_on_hyphens=False) or [""]
+
+    @staticmethod
+    def folded(line):
+        """A line of code, cut behind commas where it is too long."""
+        if len(line) <= 118:
+            return [line]
+        indent = " " * (len(line) - len(line.lstrip()) + 4)
+        pieces = textwrap.wrap(line.strip(), 118, initial_indent=indent[4:], subsequent_indent=indent + "    ",
+                               break_long_words=False, break_on_hyphens=False)
+        return pieces
+
+    def example(self):
+        call = f"qv.{self.name}({', '.join(p.name for p in self.parameters if p.default is None)})"
+        names = [r.name for r in self.results]
+        if self.export.result in ("double",):
+            names = ["value"]
+        elif self.export.result.startswith("handle"):
+            names = [re.sub(r"(?<!^)([A-Z])", r"_\1", self.returns).lower()]
+        names = names if len(names) < 4 else ["result"]
+        return f"{', '.join(names)} = {call}" if names else call
+
+    def text(self, names):
+        lines = []
+        if self.has_class:
+            lines += [f"class {self.result_class}(NamedTuple):", f'    """What `{self.name}` gives."""', ""]
+            lines += [f"    {r.name}: {r.type.replace('NDArray', 'np.ndarray').split('[')[0]}" if "NDArray" in r.type
+                      else f"    {r.name}: {r.type.replace('WindowProperties', 'rt.WindowProperties')}"
+                      for r in self.results] + ["", ""]
+        lines.append(f"def {self.name}({self.signature()}):")
+        doc = self.documentation(names)
+        lines.append(f'    r"""{doc[0]}')
+        lines += ["    " + line if line else "" for line in doc[1:]] + ['    """']
+        lines += [piece for line in self.body() for piece in self.folded("    " + line)]
+        letters = "".join("p" if a.direction in ("in", "out", "inout", "alloc", "handle") else
+                          "l" if a.direction == "size" else LETTERS[a.type] for a in self.export.arguments)
+        result = "handle" if self.export.result.startswith("handle") else self.export.result
+        bind = f'_{self.export.symbol} = rt.bind("{self.export.symbol}", "{result}", "{letters}")'
+        return bind + "\n\n\n" + "\n".join(lines) + "\n"
+
+    def stub(self):
+        lines = []
+        if self.has_class:
+            lines += [f"class {self.result_class}(NamedTuple):", *(f"    {r.name}: {r.type}" for r in self.results), ""]
+        if not self.elementwise:
+            return lines + [f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ..."]
+        arrays = ", ".join(f"{p.name}: ArrayLike" + (" | None = None" if p.default == "None" else "")
+                           for p in self.parameters)
+        returns = {"float": "NDArray[np.float64]", "complex": "NDArray[np.complex128]"}.get(self.returns, self.returns)
+        return lines + ["@overload", f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ...",
+                        "@overload", f"def {self.name}({arrays}) -> {returns}: ..."]
