@@ -82,7 +82,6 @@ int main(void) {
     Fill(state, 19, 5);
     SHOW(QvFilterFir(x, N, y, state, 20, out), out, N);
     SHOW(QvFilterMedian(x, N, 3, 2, out), out, N);
-    SHOW(QvDeconvolve(x, N, y, 5, out), out, N - 4);
     SHOW(QvStatModeOfHistogram(x, N, -1, 1, 20, value), value, 1);
     return 0;
 }
