@@ -4,12 +4,13 @@ PREFIX ?= /usr/local
 # Debian's own, which the packages of tools/packages.sh belong to.
 PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 
-.PHONY: help demo check check-sanitizers check-all docs gallery bench picture format tidy install clean
+.PHONY: help demo check check-windows check-sanitizers check-all docs gallery bench picture format tidy install clean
 
 help:
 	@echo 'make demo       the tour: readings from real recordings'
 	@echo 'make check      build and run all tests'
 	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
+	@echo 'make check-windows  build quorvan.dll with MinGW-w64 and run its tests under Wine'
 	@echo 'make docs       the reference pages, with search, in build/reference/html'
 	@echo 'make gallery    draw docs/gallery again, each picture with the lines that made it'
 	@echo 'make bench      speed beside FFTW, NumPy and SciPy, as ratios'
@@ -44,6 +45,15 @@ check-sanitizers:
 # The full suite comes last: its summary is the last word.
 check-all: check-sanitizers
 	@$(MAKE) --no-print-directory check
+
+# The release build of this system's library is the measure of the bits.
+check-windows:
+	@tools/packages.sh build test windows
+	cmake --preset release
+	cmake --build --preset release --target quorvan --parallel $(JOBS)
+	JOBS=$(JOBS) WINEPREFIX=$(CURDIR)/build/windows/wine tools/windows_provider.sh build/windows/provider
+	$(call built,windows)
+	ctest --preset windows --parallel $(JOBS)
 
 docs:
 	@tools/packages.sh docs

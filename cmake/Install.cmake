@@ -1,5 +1,5 @@
-# The installed form: versioned shared object, headers, the CMake package quorvan and a pkg-config file. Two components:
-# what a program needs that runs (runtime), and what one needs that is built (development).
+# The installed form: versioned shared object or Windows module, headers, the CMake package quorvan and a pkg-config
+# file. Two components: what a program needs that runs (runtime), and what one needs that is built (development).
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -28,6 +28,19 @@ install(FILES ${PROJECT_BINARY_DIR}/quorvan-config.cmake ${PROJECT_BINARY_DIR}/q
 file(RELATIVE_PATH QUORVAN_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/quorvan.pc.in ${PROJECT_BINARY_DIR}/quorvan.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/quorvan.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+# The archive for Windows, by cpack in the build folder: module, import library, headers, documents.
+if(WIN32)
+    set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME quorvan-${PROJECT_VERSION}-windows-x86_64)
+    set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+    set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+    set(CPACK_STRIP_FILES ON)
+    set(CPACK_VERBATIM_VARIABLES ON)
+    include(CPack)
+    return()
+endif()
 
 # Debian packages, by `cpack` in the build folder: libquorvan0 and libquorvan-dev.
 set(CPACK_GENERATOR DEB)

@@ -9,15 +9,43 @@ endforeach()
 set(QUORVAN_TARGET_UNITS ${QUORVAN_UNITS})
 list(FILTER QUORVAN_TARGET_UNITS INCLUDE REGEX "\\.target\\.cpp$")
 list(FILTER QUORVAN_UNITS EXCLUDE REGEX "\\.target\\.cpp$")
+# The units that know the system: frame/platform_posix*, frame/platform_windows*.
+if(WIN32)
+    list(FILTER QUORVAN_UNITS EXCLUDE REGEX "/frame/platform_posix[^/]*$")
+else()
+    list(FILTER QUORVAN_UNITS EXCLUDE REGEX "/frame/platform_windows[^/]*$")
+endif()
 # The allocators stand apart: the tests link others that fail on request and tell mixed blocks.
 set(QUORVAN_HEAP ${PROJECT_SOURCE_DIR}/frame/memory.cpp ${PROJECT_SOURCE_DIR}/linalg/provider_memory.cpp)
 list(REMOVE_ITEM QUORVAN_UNITS ${QUORVAN_HEAP})
+# So does the entry of a Windows module: a test program has another.
+if(WIN32)
+    set(QUORVAN_MODULE ${PROJECT_SOURCE_DIR}/frame/platform_windows_module.cpp)
+    set(QUORVAN_PROGRAM ${PROJECT_SOURCE_DIR}/frame/platform_windows_program.cpp)
+    list(REMOVE_ITEM QUORVAN_UNITS ${QUORVAN_MODULE} ${QUORVAN_PROGRAM})
+endif()
 
 # The linear algebra provider: LAPACK and CBLAS with 32-bit integers under their generic names, so that the system's
 # alternatives decide (OpenBLAS, the reference libraries, ...). Debian's libblas carries the CBLAS entries.
-find_library(QUORVAN_LAPACK NAMES lapack REQUIRED)
-find_library(QUORVAN_BLAS NAMES blas REQUIRED)
-set(QUORVAN_PROVIDER ${QUORVAN_LAPACK} ${QUORVAN_BLAS})
+if(NOT WIN32)
+    find_library(QUORVAN_LAPACK NAMES lapack REQUIRED)
+    find_library(QUORVAN_BLAS NAMES blas REQUIRED)
+    set(QUORVAN_PROVIDER ${QUORVAN_LAPACK} ${QUORVAN_BLAS})
+endif()
+# On Windows the provider is a module that the library finds when it is loaded, and binds name by name. The names are
+# those of linalg/provider.h, and its allocator.
+if(WIN32)
+    set(header ${PROJECT_SOURCE_DIR}/linalg/provider.h)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header})
+    file(STRINGS ${header} lines REGEX "^[A-Za-z].* (QV_LAPACK\\(|cblas_)")
+    set(names "QV_PROVIDER_NAME(MKL_malloc)\nQV_PROVIDER_NAME(MKL_free)\n")
+    foreach(line IN LISTS lines)
+        string(REGEX MATCH "(QV_LAPACK\\(|cblas_)[a-z0-9_]+" name "${line}")
+        string(REPLACE "QV_LAPACK(" "" name "${name}")
+        string(APPEND names "QV_PROVIDER_NAME(${name})\n")
+    endforeach()
+    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/generated/provider_names.inc CONTENT "${names}")
+endif()
 
 # What every unit is compiled with. No contraction and no fast-math: stated orders of operations hold everywhere.
 add_library(quorvan_options INTERFACE)
@@ -26,6 +54,15 @@ target_compile_definitions(quorvan_options INTERFACE QUORVAN_BUILDING)
 target_compile_options(quorvan_options INTERFACE
     -Wall -Wextra -Wpedantic -Wno-psabi -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti
     $<$<CONFIG:Release>:-O3>)
+if(WIN32)
+    target_include_directories(quorvan_options INTERFACE ${PROJECT_BINARY_DIR}/generated)
+    target_compile_definitions(quorvan_options INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX)
+endif()
+if(MINGW)
+    # The stack of 64-bit Windows is aligned to 16 bytes, and GCC does not align a frame further: wide registers must be
+    # spilled by moves that need no alignment.
+    target_compile_options(quorvan_options INTERFACE -Wa,-muse-unaligned-vector-move)
+endif()
 if(QUORVAN_SANITIZE)
     target_compile_options(quorvan_options INTERFACE -fsanitize=${QUORVAN_SANITIZE} -fno-omit-frame-pointer
                            -fno-sanitize-recover=all)
@@ -45,6 +82,7 @@ set(QUORVAN_FLAGS_avx2 -mavx2 -mfma)
 set(QUORVAN_FLAGS_avx512 -Wno-maybe-uninitialized -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
 
 add_library(quorvan_core OBJECT ${QUORVAN_UNITS})
+set_source_files_properties(${PROJECT_SOURCE_DIR}/frame/platform_windows_math.cpp PROPERTIES COMPILE_OPTIONS -fno-builtin)
 target_link_libraries(quorvan_core PRIVATE quorvan_options)
 set(QUORVAN_OBJECTS $<TARGET_OBJECTS:quorvan_core>)
 foreach(set IN LISTS QUORVAN_TARGET_SETS)
@@ -64,14 +102,20 @@ foreach(unit IN LISTS QUORVAN_TARGET_UNITS)
     endif()
 endforeach()
 
-add_library(quorvan SHARED ${QUORVAN_OBJECTS} ${QUORVAN_HEAP})
+add_library(quorvan SHARED ${QUORVAN_OBJECTS} ${QUORVAN_HEAP} ${QUORVAN_MODULE})
 add_library(quorvan::quorvan ALIAS quorvan)
 target_link_libraries(quorvan PRIVATE quorvan_options)
 target_include_directories(quorvan INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                            $<INSTALL_INTERFACE:include>)
-set_target_properties(quorvan PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0
-                      LINK_DEPENDS ${PROJECT_SOURCE_DIR}/exports/quorvan.map)
-if(NOT WIN32)
+if(WIN32)
+    # Exactly the names of the module-definition file, and nothing that a machine might lack.
+    set_target_properties(quorvan PROPERTIES PREFIX "" IMPORT_PREFIX "lib"
+                          LINK_DEPENDS ${PROJECT_SOURCE_DIR}/exports/quorvan.def)
+    target_sources(quorvan PRIVATE ${PROJECT_SOURCE_DIR}/exports/quorvan.def)
+    target_link_options(quorvan PRIVATE -static -Wl,--no-undefined)
+else()
+    set_target_properties(quorvan PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 0
+                          LINK_DEPENDS ${PROJECT_SOURCE_DIR}/exports/quorvan.map)
     target_link_options(quorvan PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/exports/quorvan.map -Wl,--no-undefined)
 endif()
 target_link_libraries(quorvan PRIVATE ${QUORVAN_PROVIDER} m)
@@ -80,3 +124,7 @@ target_link_libraries(quorvan PRIVATE ${QUORVAN_PROVIDER} m)
 add_library(quorvan_testable STATIC EXCLUDE_FROM_ALL ${QUORVAN_OBJECTS}
             ${PROJECT_SOURCE_DIR}/tests/support/failing_heap.cpp)
 target_link_libraries(quorvan_testable PUBLIC quorvan_options ${QUORVAN_PROVIDER} m)
+if(WIN32)
+    target_sources(quorvan_testable INTERFACE ${QUORVAN_PROGRAM})
+    target_link_options(quorvan_testable PUBLIC -static)
+endif()

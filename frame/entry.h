@@ -14,7 +14,7 @@
 
 // A second exported name for the same entry, at the same address.
 #define QV_EXPORT_ALIAS(result, name, entry, ...) \
-    extern "C" QV_API result name(__VA_ARGS__) __attribute__((alias(#entry)))
+    extern "C" QV_API result name(__VA_ARGS__) __attribute__((alias(#entry), nothrow))
 
 namespace quorvan {
 

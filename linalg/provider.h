@@ -7,14 +7,8 @@
 
 #include <cstddef>
 
+#include "frame/platform.h"
 #include "frame/types.h"
-
-// How the linker knows a Fortran routine.
-#ifdef _WIN32
-#define QV_LAPACK(name) name
-#else
-#define QV_LAPACK(name) name##_
-#endif
 
 namespace quorvan::provider {
 

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "frame/memory.h"
+#include "frame/platform.h"
 #include "linalg/provider_memory.h"
 
 namespace quorvan {
@@ -28,8 +29,8 @@ void* Allocate(std::size_t bytes, std::uint64_t allocator) {
     if (allocations++ == fail_at) return nullptr;
     const std::size_t lead = allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16;
     if (bytes > SIZE_MAX / 2) return nullptr;
-    void* start = nullptr;
-    if (posix_memalign(&start, alignof(Tag), lead + bytes) != 0) return nullptr;
+    void* start = AlignedAllocate(lead + bytes, alignof(Tag));
+    if (!start) return nullptr;
     ++live_blocks;
     auto* block = static_cast<unsigned char*>(start) + lead;
     reinterpret_cast<std::uint64_t*>(block)[-1] = allocator;
@@ -46,7 +47,7 @@ void Release(void* block, std::uint64_t allocator) {
     }
     tag = 0;
     --live_blocks;
-    std::free(static_cast<unsigned char*>(block) - (allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16));
+    AlignedFree(static_cast<unsigned char*>(block) - (allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16));
 }
 
 }  // namespace

@@ -173,7 +173,8 @@ TEST(SpecCosineIntegral, IsMinusInfinityAtZeroAndEvenInItsRealPart) {
 }
 
 TEST(SpecSineIntegral, HasItsLeadingFormsFarAway) {
-    for (double x : {Above(1e9), 1e12, 1e300}) {
+    // Volatile: a sine that the compiler evaluates may differ in the last bit from the one that the library calls.
+    for (volatile double x : {Above(1e9), 1e12, 1e300}) {
         EXPECT_EQ(Si(x), kHalfPi - std::cos(x) / x);
         EXPECT_EQ(Ci(x), std::sin(x) / x);
     }

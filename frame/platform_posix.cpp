@@ -1,8 +1,9 @@
-#include "frame/platform.h"
-
 #include <atomic>
 #include <cerrno>
+#include <cstdlib>
 #include <unistd.h>
+
+#include "frame/platform.h"
 
 namespace quorvan {
 namespace {
@@ -20,8 +21,8 @@ extern "C" void QuorvanThreadEnded(void*) {
 
 }  // namespace
 
-std::mutex& PlanMutex() noexcept {
-    static constinit std::mutex mutex;
+PlainMutex& PlanMutex() noexcept {
+    static constinit PlainMutex mutex;
     return mutex;
 }
 
@@ -30,12 +31,12 @@ void RecursiveMutex::Create() noexcept {
     if (pthread_mutexattr_init(&attributes) != 0) return;
     pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_RECURSIVE);
     pthread_mutexattr_setrobust(&attributes, PTHREAD_MUTEX_ROBUST);
-    created_ = pthread_mutex_init(&mutex_, &attributes) == 0;
+    created_ = pthread_mutex_init(&native_, &attributes) == 0;
     pthread_mutexattr_destroy(&attributes);
 }
 
 void RecursiveMutex::Close() noexcept {
-    if (created_) pthread_mutex_destroy(&mutex_);
+    if (created_) pthread_mutex_destroy(&native_);
     created_ = false;
 }
 
@@ -43,8 +44,8 @@ void RecursiveMutex::Lock() noexcept {
     if (!created_) return;
     // The last owner ended with it: what it guards is whole all the same, since no owner ends in the middle of a
     // change.
-    if (pthread_mutex_lock(&mutex_) == EOWNERDEAD) {
-        pthread_mutex_consistent(&mutex_);
+    if (pthread_mutex_lock(&native_) == EOWNERDEAD) {
+        pthread_mutex_consistent(&native_);
         holds_ = 0;
     }
     ++holds_;
@@ -53,7 +54,7 @@ void RecursiveMutex::Lock() noexcept {
 void RecursiveMutex::Unlock() noexcept {
     if (!created_) return;
     --holds_;
-    pthread_mutex_unlock(&mutex_);
+    pthread_mutex_unlock(&native_);
 }
 
 void RecursiveMutex::ReleaseAll() noexcept {
@@ -78,5 +79,12 @@ void IgnoreThreadEnds() noexcept {
     thread_ends_noticed = false;
     thread_end_handler = nullptr;
 }
+
+void* AlignedAllocate(std::size_t bytes, std::size_t alignment) noexcept {
+    void* block = nullptr;
+    return posix_memalign(&block, alignment, bytes) == 0 ? block : nullptr;
+}
+
+void AlignedFree(void* block) noexcept { std::free(block); }
 
 }  // namespace quorvan
