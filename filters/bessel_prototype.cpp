@@ -40,7 +40,7 @@ void BesselMatrix(Count n, double* matrix) {
     if (n > 1) matrix[1] = 1;
     for (std::size_t i = 1; i < row; ++i) {
         const double element = 1 / (2.0 * static_cast<double>(i) + 1);
-        matrix[i * row + i - 1] = i + 1 < row ? -element : -1 / (2.0 * n - 1);
+        matrix[i * row + i - 1] = -element;
         if (i + 1 < row) matrix[i * row + i + 1] = element;
     }
 }

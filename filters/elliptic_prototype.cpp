@@ -27,7 +27,7 @@ void IirEllipticSections(const IirPrototype& prototype, SectionSink sink) noexce
     double h = odd ? 1 : 1 / std::sqrt(epsilon * epsilon + 1);
     for (Size j = odd ? 2 : 1; j <= n - 1; j += 2) {
         const auto [s, c, d] = JacobiSnCnDn(static_cast<double>(j) * K / n, kc);
-        const double E = 1 - d * d * s0 * s0;
+        const double E = 1 - d * d * (s0 * s0);
         const double sigma = c * d * s0 * c0 / E, omega = s * d0 / E;
         sink({PrototypeSection::kPairWithZeros, 0, 0, sigma, omega * omega + sigma * sigma, 1 / (k * s), h});
         h = 1;

@@ -8,8 +8,6 @@
 namespace quorvan {
 namespace {
 
-bool IsBand(std::uint32_t kind) { return kind == kBandpass || kind == kBandstop; }
-
 // One of a highpass or bandstop response, whose even lengths are forced to zero at fs/2.
 bool PassesNyquist(std::uint32_t kind) { return kind == kHighpass || kind == kBandstop; }
 

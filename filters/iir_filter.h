@@ -2,17 +2,14 @@
 // lines that complex data needs beside it.
 #pragma once
 
+#include "filters/iir_kind.h"
 #include "frame/memory.h"
 #include "frame/types.h"
 
 namespace quorvan {
 
-enum IirKind : std::uint32_t { kLowpass, kHighpass, kBandpass, kBandstop };
-
 using IirFilter = ::QvIirFilter;
 using IirStateComplex = ::QvIirStateComplex;
-
-constexpr bool IsBand(std::uint32_t kind) noexcept { return kind >= kBandpass; }
 
 // Coefficients of one stage: w feedback, w + 1 feedforward. Band kinds have twice the analog order, in as many stages.
 constexpr Count StageWidth(std::uint32_t kind) noexcept { return IsBand(kind) ? 4 : 2; }

@@ -7,4 +7,6 @@ namespace quorvan {
 
 enum IirKind : std::uint32_t { kLowpass, kHighpass, kBandpass, kBandstop };
 
+constexpr bool IsBand(std::uint32_t kind) noexcept { return kind >= kBandpass; }
+
 }  // namespace quorvan

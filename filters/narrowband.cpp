@@ -132,7 +132,7 @@ bool Prepare(double fs, double f1, double f2, double center, double ripple, doub
     work.deviation = q.delta1 / 2;
     work.weight = work.deviation / q.delta2;
     if (q.e1 <= 0 || q.e2 <= q.e1 || q.e2 >= half || q.delta2 <= 0 || q.delta1 <= 0) return false;
-    return kind < kBandpass || (center > 0 && center < half);
+    return !IsBand(kind) || (center > 0 && center < half);
 }
 
 }  // namespace
@@ -154,7 +154,7 @@ Status FirNarrowbandDesign(double fs, double f1, double f2, double center, doubl
                            std::uint32_t kind, FirNarrowband* filter) noexcept {
     Work work{};
     if (!Prepare(fs, f1, f2, center, ripple, attenuation, kind, work)) return status::kFilterNotDesignable;
-    const bool band = kind >= kBandpass;
+    const bool band = IsBand(kind);
     const NarrowbandPlan plan = band ? FirNarrowbandFactorBand(work.request) : FirNarrowbandFactor(work.request);
     const Status failure = DesignStages(work, plan, band);
     if (failure < 0) return failure;

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <initializer_list>
 
 #include "filters/narrowband.h"
 #include "frame/memory.h"
@@ -68,14 +67,14 @@ Status FirNarrowbandFilterComplex(const ComplexRecord* x, Count n, const FirNarr
                                   ComplexRecord* y) noexcept {
     if (const Status failure = CheckSizes(n, *filter)) return failure;
     const Size length = n + Span(*filter) - 1;
-    const Block<double> work(static_cast<std::size_t>(n) + static_cast<std::size_t>(length));
+    const Block<double> work(static_cast<std::size_t>(n) + 2 * static_cast<std::size_t>(length));
     if (!work) return status::kOutOfMemory;
-    double *const part = work, *const filtered = work + n;
-    for (double ComplexRecord::*const member : {&ComplexRecord::re, &ComplexRecord::im}) {
-        for (Count i = 0; i < n; ++i) part[i] = x[i].*member;
-        if (const Status failure = FirNarrowbandFilter(part, n, filter, filtered); failure < 0) return failure;
-        for (Size i = 0; i < length; ++i) y[i].*member = filtered[i];
-    }
+    double *const part = work, *const re = work + n, *const im = re + length;
+    for (Count i = 0; i < n; ++i) part[i] = x[i].re;
+    if (const Status failure = FirNarrowbandFilter(part, n, filter, re); failure < 0) return failure;
+    for (Count i = 0; i < n; ++i) part[i] = x[i].im;
+    if (const Status failure = FirNarrowbandFilter(part, n, filter, im); failure < 0) return failure;
+    for (Size i = 0; i < length; ++i) y[i] = {re[i], im[i]};
     return status::kSuccess;
 }
 

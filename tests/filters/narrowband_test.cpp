@@ -448,11 +448,15 @@ TEST(FirNarrowband, EveryAllocationFails) {
     const Records z = RandomRecords(10);
     ExpectEveryAllocationFails([&] {
         Reals y = Output(26);
-        return ZemFunc410(x, 10, &filter, y);
+        const Status status = ZemFunc410(x, 10, &filter, y);
+        EXPECT_EQ(Untouched(y), status != 0);
+        return status;
     });
     ExpectEveryAllocationFails([&] {
         Records y = RecordOutput(26);
-        return ZemFunc411(z, 10, &filter, y);
+        const Status status = ZemFunc411(z, 10, &filter, y);
+        EXPECT_EQ(Untouched(y), status != 0) << "neither part";
+        return status;
     });
 }
 
