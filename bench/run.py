@@ -22,8 +22,8 @@ import rivals
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAMS = {"fft": "fft_bench", "arrays": "array_bench", "signals": "signal_bench", "random": "random_bench",
-            "pulses": "pulse_bench", "tones": "tone_bench", "filters": "filter_bench", "linalg": "linalg_bench",
-            "special": "special_bench"}
+            "pulses": "pulse_bench", "tones": "tone_bench", "filters": "filter_bench", "fir": "fir_bench",
+            "linalg": "linalg_bench", "eigen": "linalg_eigen_bench", "fits": "fit_bench", "special": "special_bench"}
 COMMAND = "cmake --preset bench && cmake --build --preset bench && bench/run.py"
 DIFFERENCE = 0.05  # a C++ time further than this from the time through ctypes does not stand for it
 
