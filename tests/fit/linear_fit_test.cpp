@@ -456,6 +456,26 @@ TEST(FitPolynomialWeighted, WeightsOfZeroExceptOneShowAsRankDeficiency) {
     EXPECT_EQ(c.values(), (Values{0, 0}));
 }
 
+TEST(FitPolynomialWeighted, OneWeightOfATallDesignLeavesAnExactZeroWhereverItStands) {
+    constexpr int kN = 70;
+    Reals x(kN), y(kN), c = Output(2);
+    for (int i = 0; i < kN; ++i) {
+        x[i] = 0.3 + 0.1 * i;
+        y[i] = 1 / (1.0 + i);
+    }
+    for (int at = 0; at < kN; ++at)
+        for (double weight : {0.7, 2.0, 3.3}) {
+            Reals weights(kN);
+            for (int i = 0; i < kN; ++i) weights[i] = i == at ? weight : 0;
+            EXPECT_EQ(ZemFunc361(x, y, weights, kN, 1, nullptr, nullptr, 0, 1, nullptr, c, nullptr), -20041) << at;
+            // The shortest solution of c0 + c1 x = y.
+            EXPECT_EQ(ZemFunc361(x, y, weights, kN, 1, nullptr, nullptr, 0, 0, nullptr, c, nullptr), 0);
+            const double square = 1 + x[at] * x[at];
+            EXPECT_NEAR(c[0], y[at] / square, 1e-14) << at;
+            EXPECT_NEAR(c[1], y[at] * x[at] / square, 1e-14) << at;
+        }
+}
+
 TEST(FitPolynomialWeighted, AWeightOfNaNIsRefusedWhereTheDesignIsScreened) {
     Reals x = kX, c = Output(2);
     for (std::uint32_t algorithm : {0u, 1u, 3u})
