@@ -90,7 +90,7 @@ constexpr bool UsesSingularValues(std::uint32_t selector) {
     return selector == kFitSingularValues || selector == kFitTruncatedSingularValues;
 }
 
-// Of a tall design only R and Q'y are needed: the singular values of R and its V are those of the design. *reduced
+// Of a narrow design only R and Q'y are needed: the singular values of R and its V are those of the design. *reduced
 // tells whether the numbers allowed it.
 Status ByReduction(const Observations& data, const double* weights, std::uint32_t selector, double* coefficients,
                    double* covariance, bool* reduced) {
@@ -140,7 +140,7 @@ Status Solve(const Observations& data, const double* weights, double* coefficien
     if (selector == kFitNormalLu || selector == kFitNormalCholesky)
         return ByNormalEquations(data, weights, selector == kFitNormalCholesky, coefficients, covariance);
 
-    if (data.n <= kTallQrColumns && data.m / 2 >= data.n) {
+    if (data.n <= kTallQrColumns) {
         bool reduced = false;
         const Status status = ByReduction(data, weights, selector, coefficients, covariance, &reduced);
         if (status != status::kSuccess || reduced) return status;

@@ -1,5 +1,5 @@
-// QR of a matrix with many more rows than columns, together with a right-hand side, without forming Q: what least
-// squares need of it. Compiled for each instruction set.
+// QR of a matrix with few columns and at least as many rows, together with a right-hand side, without forming Q: what
+// least squares need of it. Compiled for each instruction set.
 #pragma once
 
 #include <cstddef>

@@ -40,7 +40,11 @@ void Reflect(double* columns, std::ptrdiff_t stride, std::ptrdiff_t rows, Count 
         const double alpha = row[j];
         const double beta = -__builtin_copysign(__builtin_sqrt(alpha * alpha + below), alpha);
         const double tau = (beta - alpha) / beta, scale = 1 / (alpha - beta);
-        for (std::ptrdiff_t i = 0; i < rows; ++i) v[i] *= scale;
+        // The first column of all: divided, a row that stands alone (the others weigh 0) leaves zeros without a rest.
+        if (alpha == 0)
+            for (std::ptrdiff_t i = 0; i < rows; ++i) v[i] /= -beta;
+        else
+            for (std::ptrdiff_t i = 0; i < rows; ++i) v[i] *= scale;
         row[j] = beta;
         for (Count k = j + 1; k <= n; ++k) {
             double* column = columns + k * stride;

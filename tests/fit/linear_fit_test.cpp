@@ -206,13 +206,13 @@ TEST(FitGeneralLinearEx, WithDeviationsTheChecksStayTheSame) {
     EXPECT_EQ(error, kUnwritten);
 }
 
-// Tall designs go through a triangle that blocks of rows are folded into.
+// Designs of up to 32 columns go through a triangle that blocks of rows are folded into.
 
-TEST(FitGeneralLinear, TallDesignsLeaveAResidualOrthogonalToTheColumnsOnEverySet) {
+TEST(FitGeneralLinear, NarrowDesignsLeaveAResidualOrthogonalToTheColumnsOnEverySet) {
     ForEachTarget([] {
         for (const Size m : {2, 7, 15, 16, 17, 63, 64, 65, 127, 128, 129, 1000})
             for (const Size n : {1, 2, 3, 7, 32}) {
-                if (m < 2 * n) continue;
+                if (m < n) continue;
                 const Reals design = RandomReals(m * n, 5), y = RandomReals(m, 6), sigma(m, 0.5);
                 for (std::uint32_t selector : {0u, 3u, 6u})
                     for (const double* deviations : {static_cast<const double*>(nullptr), sigma.data()}) {
@@ -256,6 +256,12 @@ TEST(FitGeneralLinear, EveryAllocationFails) {
         ExpectEveryAllocationFails(
             [&] { return ZemFunc86(kLineDesign, 4, 2, kLine, kLine, selector, curve, c, cov, &error); });
     }
+    // Sizes whose squares would overflow take the way over the full factors.
+    Reals huge = kLineDesign;
+    for (double& v : huge) v *= 1e130;
+    for (std::uint32_t selector : {0u, 1u, 6u})
+        ExpectEveryAllocationFails(
+            [&] { return ZemFunc86(huge, 4, 2, kLine, kLine, selector, curve, c, nullptr, &error); });
 }
 
 // Polynomials. The three entries with what they share; algorithm 0 and no weights where an entry has no such argument.
@@ -454,6 +460,27 @@ TEST(FitPolynomialWeighted, WeightsOfZeroExceptOneShowAsRankDeficiency) {
     EXPECT_EQ(ZemFunc361(x, y, Reals{0, 0, 0}, 3, 1, nullptr, nullptr, 0, 1, nullptr, c, nullptr), -20041);
     EXPECT_EQ(ZemFunc361(x, y, Reals{0, 0, 0}, 3, 1, nullptr, nullptr, 0, 0, nullptr, c, nullptr), 0);
     EXPECT_EQ(c.values(), (Values{0, 0}));
+}
+
+TEST(FitPolynomialWeighted, OneWeightLeavesAnExactZeroWhereverItStands) {
+    for (int n : {2, 3, 4, 70}) {
+        Reals x(n), y(n), c = Output(2);
+        for (int i = 0; i < n; ++i) {
+            x[i] = 0.3 + 0.1 * i;
+            y[i] = 1 / (1.0 + i);
+        }
+        for (int at = 0; at < n; ++at)
+            for (double weight : {0.7, 2.0, 3.3}) {
+                Reals weights(n);
+                for (int i = 0; i < n; ++i) weights[i] = i == at ? weight : 0;
+                EXPECT_EQ(ZemFunc361(x, y, weights, n, 1, nullptr, nullptr, 0, 1, nullptr, c, nullptr), -20041) << at;
+                // The shortest solution of c0 + c1 x = y.
+                EXPECT_EQ(ZemFunc361(x, y, weights, n, 1, nullptr, nullptr, 0, 0, nullptr, c, nullptr), 0);
+                const double square = 1 + x[at] * x[at];
+                EXPECT_NEAR(c[0], y[at] / square, 1e-14) << at;
+                EXPECT_NEAR(c[1], y[at] * x[at] / square, 1e-14) << at;
+            }
+    }
 }
 
 TEST(FitPolynomialWeighted, AWeightOfNaNIsRefusedWhereTheDesignIsScreened) {

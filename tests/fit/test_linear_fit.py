@@ -8,6 +8,7 @@ at x = 0 to 20 (condition number 6e6): exact in 1 and 2, with the deviations of 
 import csv
 import pathlib
 import re
+from fractions import Fraction
 
 import numpy as np
 import pytest
@@ -208,3 +209,61 @@ def test_trend_and_season_through_the_general_fit(qv):
         assert status == 0
         assert np.allclose(c, truth, rtol=1e-9)
         assert error < 1e-9
+
+
+def solve_exactly(a, b):
+    """Gauss-Jordan elimination in rationals."""
+    rows = [list(row) + [v] for row, v in zip(a, b)]
+    for k in range(len(rows)):
+        pivot = next(i for i in range(k, len(rows)) if rows[i][k] != 0)
+        rows[k], rows[pivot] = rows[pivot], rows[k]
+        for i in range(len(rows)):
+            if i != k:
+                factor = rows[i][k] / rows[k][k]
+                rows[i] = [u - factor * v for u, v in zip(rows[i], rows[k])]
+    return [row[-1] / row[k] for k, row in enumerate(rows)]
+
+
+def constrained_in_rationals(x, y, w, order, last):
+    """The fit with the coefficients `last` fixed, up to its top order: coefficients, curve and error."""
+    free = [j for j in range(order + 1) if j not in last]
+    top = order if order <= 25 or len(free) < 2 else max(25, free[1])
+    kept = [j for j in free if j <= top]
+    xs, ws = [Fraction(v) for v in x], [abs(Fraction(v)) for v in w]
+    c = [Fraction(last.get(j, 0)) for j in range(order + 1)]
+
+    def curve():
+        return [sum(c[j] * v ** j for j in range(order + 1)) for v in xs]
+
+    rest = [Fraction(v) - f for v, f in zip(y, curve())]
+    normal = [[sum(u * v ** (j + k) for u, v in zip(ws, xs)) for k in kept] for j in kept]
+    right = [sum(u * v ** j * r for u, v, r in zip(ws, xs, rest)) for j in kept]
+    for j, value in zip(kept, solve_exactly(normal, right)):
+        c[j] = value
+    f = curve()
+    error = sum(u * (a - Fraction(b)) ** 2 for u, a, b in zip(ws, f, y)) / len(xs)
+    return [float(v) for v in c], [float(v) for v in f], float(error)
+
+
+@pytest.mark.parametrize("algorithm", range(4))
+@pytest.mark.parametrize("order, free", [
+    (2, ()), (2, (1,)), (4, (0, 3)), (25, (0, 25)), (26, (2, 26)), (28, (3, 27, 28)), (33, (32, 33)), (33, (1, 4, 30)),
+    (30, (29,)), (28, ())])
+def test_constrained_polynomials_follow_exact_rationals(qv, order, free, algorithm):
+    rng = np.random.default_rng(order + 100 * len(free))
+    n = order + 5
+    x, y, w = rng.uniform(-1, 1, n), rng.normal(size=n), rng.uniform(0.2, 2, n) * rng.choice([-1, 1], n)
+    # Orders out of range do nothing, and the last of two values for an order holds.
+    fixed = [j for j in range(order + 1) if j not in free]
+    orders = np.array([fixed[0], -3, order + 1] + fixed, dtype=np.int32)
+    values = rng.normal(size=len(orders))
+    truth, curve, error = constrained_in_rationals(x, y, w, order, dict(zip(orders[3:].tolist(), values[3:])))
+    for null_curve in (False, True):
+        at, c, f, e = x.copy(), np.full(order + 1, np.nan), np.full(n, np.nan), np.full(1, np.nan)
+        status = qv.ZemFunc361(at, y, w, n, order, orders, values, len(orders), algorithm, None if null_curve else f, c, e)
+        assert status == (20031 if order > 25 else 0)
+        # At most three columns, of powers whose smallest sizes make the condition of the normal matrix some 1e6.
+        assert np.allclose(c, truth, rtol=1e-9, atol=1e-9)
+        assert np.allclose(at if null_curve else f, curve, rtol=1e-11, atol=1e-11)
+        assert np.isclose(e[0], error, rtol=1e-10, atol=1e-14)
+        assert null_curve or np.array_equal(at, x)
