@@ -69,7 +69,8 @@ NarrowbandPlan FirNarrowbandFactorBand(const NarrowbandRequest& q) noexcept {
     plan.model_order = SingleOrder(q, plan.transition);
     double best = plan.model_order;
     const double last = std::trunc(q.fs / (4 * q.e2));
-    if (!(best <= INT32_MAX)) return plan;  // beyond every design
+    if (!(best >= 0 && best <= INT32_MAX))
+        return plan;  // no design has it; a negative order would not grow by a factor
     for (double L = 2; L <= last; ++L) {
         // Images stand less than fs/L apart: from here on the suppressor alone costs more.
         if (StageOrder(q, q.fs / L) >= best) break;
