@@ -1,6 +1,7 @@
 #include "filters/narrowband_factor.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace quorvan {
 namespace {
@@ -48,7 +49,7 @@ double SuppressorWidth(const NarrowbandRequest& q, double L, Folded folded) {
 NarrowbandPlan FirNarrowbandFactor(const NarrowbandRequest& q) noexcept {
     NarrowbandPlan plan;
     double L = std::floor(q.fs / (std::sqrt((q.e2 - q.e1) * q.fs) + q.e1 + q.e2) + 0.5);
-    while (L > 1 && L * q.e2 >= q.fs / 2) --L;
+    while (L > 1 && L <= INT32_MAX && L * q.e2 >= q.fs / 2) --L;  // beyond it no filter comes, and 1 may be lost in L
     const double single = SingleOrder(q, q.e2 - q.e1);
     plan.suppressor_order = L == 1 ? 0 : StageOrder(q, q.fs / L - q.e2 - q.e1);
     plan.model_order = StageOrder(q, L * q.e2 - L * q.e1);
@@ -68,7 +69,8 @@ NarrowbandPlan FirNarrowbandFactorBand(const NarrowbandRequest& q) noexcept {
     plan.model_order = SingleOrder(q, plan.transition);
     double best = plan.model_order;
     const double last = std::trunc(q.fs / (4 * q.e2));
-    if (!(best <= INT32_MAX)) return plan;  // beyond every design
+    if (!(best >= 0 && best <= INT32_MAX))
+        return plan;  // no design has it; a negative order would not grow by a factor
     for (double L = 2; L <= last; ++L) {
         // Images stand less than fs/L apart: from here on the suppressor alone costs more.
         if (StageOrder(q, q.fs / L) >= best) break;

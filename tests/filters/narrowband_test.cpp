@@ -307,6 +307,12 @@ TEST(FirNarrowbandDesign, RefusesOrdersThatAreNegativeOrNoNumbers) {
     EXPECT_EQ(StatusOf({1, 1e-300, 2e-300, 0, 0.01, 60, kLow}), -20031);
 }
 
+TEST(FirNarrowbandDesign, EndsForAFactorThatLosesItsUnits) {
+    // The product of width and rate underflows, so that the factor is fs / (e1 + e2), far above 2^53.
+    EXPECT_LT(StatusOf({kInf, 1e300, 0.2, 0.25, 0.6, 0.25, kStop}), 0) << "without an end of the factors";
+    EXPECT_LT(StatusOf({1e-200, 1e-300, std::nextafter(1e-300, 1), 0, 0.01, 60, kLow}), 0);
+}
+
 TEST(FirNarrowbandDesign, MoreFunctionsThanTheExchangeTakesGiveItsStatus) {
     EXPECT_EQ(StatusOf({1, 0.2, 0.2000002, 0, 0.001, 100, kLow}), -20001);
 }
