@@ -301,6 +301,16 @@ RIVAL_SECTIONS = (
     RivalSection("linalg", "Matrices beside NumPy and the bare provider",
                  "The same LAPACK and BLAS, on one thread, behind all three. *Bare LAPACK*: the routine on copies made "
                  "by `memcpy`.", rivals.matrix_cases, "NumPy", "linalg_", least=1.0, others={"bare": "bare LAPACK"}),
+    RivalSection("eigen", "Decompositions and eigenvalues beside NumPy and the bare provider", "As above.",
+                 rivals.decomposition_cases, "NumPy", least=1.0, others={"lapack": "bare LAPACK"}),
+    RivalSection("fir", "FIR and median filters, equiripple designs beside SciPy",
+                 "`fir_direct` beside `lfilter`; `fir_window`, with its design in the call, beside `fftconvolve` with taps "
+                 "made beforehand; `median` beside `medfilt`; `exchange` beside `remez`.", rivals.fir_cases, "SciPy",
+                 least=2.0),
+    RivalSection("fits", "Fits and splines beside NumPy and SciPy",
+                 "Polynomials beside `numpy.polyfit`, designs beside `numpy.linalg.lstsq`, models beside "
+                 "`scipy.optimize.curve_fit`, splines beside SciPy's `CubicSpline`.", rivals.fit_cases, "rival", "fit_",
+                 least=1.0, mean=3.0),
 )
 
 
