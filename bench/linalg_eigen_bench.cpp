@@ -30,7 +30,7 @@ using bench::Buffer;
 using bench::Ratios;
 using bench::Runner;
 
-const std::vector<std::int64_t> kSizes = {8, 64, 512};
+const std::vector<std::int64_t> kSizes = {8, 64, 512, 1500};
 
 // What one size needs, for all contenders; a is symmetric where the operation wants it, and `same` is what the bare
 // call copies.

@@ -294,7 +294,7 @@ DECOMPOSITIONS = (
     ("general_eigen", 201, "picpp", "pa, n, 1, pout, pu", "r = eig(a)", "r[0]"),
     ("qr", 192, "piicpp", "pa, n, n, 0, pu, pout", "r = qr(a)", "r[1]"),
 )
-DECOMPOSITION_SIZES = (8, 64, 512)
+DECOMPOSITION_SIZES = (8, 64, 512, 1500)
 
 
 def decomposition_cases(library):
