@@ -31,14 +31,12 @@ void MultiplyPolynomials(const T* p, Count degreeP, const T* q, Count degreeQ, T
         for (Count j = 0; j <= degreeQ; ++j) out[i + j] = element::Sum(out[i + j], element::Product(p[i], q[j]));
 }
 
-// Adds the columns p, x·p, x²·p ... to a row-major matrix: element (row + i + j, column + j) = p[i], for `columns`
-// values of j. With a skip the first coefficients of p are left out, and the rest moves up.
+// Writes the columns p, x·p, x²·p ... into a row-major matrix: element (row + i + j, column + j) = p[i], for `columns`
+// values of j.
 template <class T>
-void PlaceProducts(const T* p, Count degree, Count columns, Count skip, T* matrix, Count stride, Count row,
-                   Count column) noexcept {
+void PlaceProducts(const T* p, Count degree, Count columns, T* matrix, Count stride, Count row, Count column) noexcept {
     for (Count j = 0; j < columns; ++j)
-        for (Count i = skip; i <= degree; ++i)
-            matrix[static_cast<Size>(row + i - skip + j) * stride + column + j] = p[i];
+        for (Count i = 0; i <= degree; ++i) matrix[static_cast<Size>(row + i + j) * stride + column + j] = p[i];
 }
 
 // x = argmin |a·x - b| for a of m by n with full column rank, with one step of correction. -20041 for an exact zero on

@@ -106,10 +106,10 @@ private:
         const Count degreeQ = d_.m - d_.k;
         std::fill_n(matrix_.get(), Elements(rows_, columns_), T{});
         // d(q·u) = q·du + u·dq; the unknowns start one power below the leading one, and so do the equations.
-        PlaceProducts<T>(d_.q, degreeQ, d_.k, 0, matrix_, columns_, 0, 0);
-        PlaceProducts<T>(d_.u, d_.k, degreeQ, 0, matrix_, columns_, 0, 2 * d_.k - 1);
-        PlaceProducts<T>(d_.q, degreeQ, d_.k - 1, 0, matrix_, columns_, d_.m, d_.k);
-        PlaceProducts<T>(d_.v, d_.k - 1, degreeQ, 0, matrix_, columns_, d_.m, 2 * d_.k - 1);
+        PlaceProducts<T>(d_.q, degreeQ, d_.k, matrix_, columns_, 0, 0);
+        PlaceProducts<T>(d_.u, d_.k, degreeQ, matrix_, columns_, 0, 2 * d_.k - 1);
+        PlaceProducts<T>(d_.q, degreeQ, d_.k - 1, matrix_, columns_, d_.m, d_.k);
+        PlaceProducts<T>(d_.v, d_.k - 1, degreeQ, matrix_, columns_, d_.m, 2 * d_.k - 1);
         for (Count i = 0; i < rows_; ++i)
             for (Count j = 0; j < columns_; ++j) {
                 T& entry = matrix_[static_cast<Size>(i) * columns_ + j];
@@ -172,8 +172,8 @@ private:
     void Build(const T* f, const T* h, Count m, Count k) {
         const Count columns = 2 * k + 1;
         std::fill_n(matrix_.get(), Elements(m + k, columns), T{});
-        PlaceProducts<T>(h, m - 1, k + 1, 0, matrix_, columns, 0, 0);
-        PlaceProducts<T>(f, m, k, 0, matrix_, columns, 0, k + 1);
+        PlaceProducts<T>(h, m - 1, k + 1, matrix_, columns, 0, 0);
+        PlaceProducts<T>(f, m, k, matrix_, columns, 0, k + 1);
     }
 
     // q with its leading 1 fixed: u·(q - x^(m-k)) = f - x^(m-k)·u behind the leading coefficients.
@@ -182,7 +182,7 @@ private:
         d.q[0] = element::One<T>();
         if (columns == 0) return status::kSuccess;
         std::fill_n(matrix_.get(), Elements(d.m, columns), T{});
-        PlaceProducts<T>(d.u, d.k, columns, 0, matrix_, columns, 0, 0);
+        PlaceProducts<T>(d.u, d.k, columns, matrix_, columns, 0, 0);
         for (Count i = 1; i <= d.m; ++i) right_hand_[i - 1] = i <= d.k ? element::Difference(d.f[i], d.u[i]) : d.f[i];
         return PolyLeastSquaresQr<T>(matrix_, d.m, columns, right_hand_, d.q + 1);
     }
