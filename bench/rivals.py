@@ -421,8 +421,8 @@ SPECIAL = (
     ("struve", 0.1, 50.0, "f328(0.5, x)", "s.struve(0.5, x, out)"),
     ("struve_0", 0.1, 50.0, "f328(0.0, x)", "s.struve(0.0, x, out)"),
     ("airy", -20.0, 20.0, "first(f330, 2, x)", "s.airy(x, out=(out, *more))"),
-    ("kelvin_be", 0.1, 30.0, "first(f333, 2, x, 0)", "s.ber(x, out)"),
-    ("kelvin_ke", 0.1, 30.0, "first(f334, 2, x, 0)", "s.ker(x, out)"),
+    ("kelvin_be", 0.1, 30.0, "real_part(f333, x, 0)", "s.ber(x, out)"),
+    ("kelvin_ke", 0.1, 30.0, "real_part(f334, x, 0)", "s.ker(x, out)"),
 )
 SPECIAL_TYPES = {301: "dd", 302: "dd", 303: "cd", 304: "cd", 305: "dd", 306: "cd", 307: "ddp", 309: "dp", 312: "d",
                  313: "d", 315: "dddd", 316: "ddd", 317: "ddd", 318: "dp", 319: "dp", 320: "d", 321: "dc", 322: "d",
@@ -441,7 +441,12 @@ def special_times(library, effort):
         function(*arguments, *(ctypes.byref(values, 8 * k) for k in range(outputs)))
         return values[0]
 
-    functions["first"] = first
+    def real_part(function, *arguments):
+        value = (ctypes.c_double * 2)()
+        function(*arguments, ctypes.byref(value))
+        return value[0]
+
+    functions.update(first=first, real_part=real_part)
     functions["double"] = lambda value: ctypes.byref(ctypes.c_double(value))
     for name, start, end, quorvan, statement in SPECIAL:
         x, out = np.linspace(start, end, SPECIAL_POINTS), np.empty(SPECIAL_POINTS)
