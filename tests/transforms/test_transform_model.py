@@ -20,7 +20,7 @@ from exact import SIZES, Guarded, bits, every_size, exports_of, fits, unwritten 
 EPS = np.finfo(float).eps
 PI = np.longdouble("3.14159265358979323846264338327950288")
 LENGTHS = [1, 2, 3, 4, 5, 6, 7, 8, 9, 12, 13, 16, 21, 23, 32, 46, 47, 53, 59, 64, 75, 94, 106]
-BORDERS = [-(1 << 31) - 1, -(1 << 31), -1, 0, 1, 2, 3, (1 << 31) - 1, 1 << 31, (1 << 32) + 5]
+BORDERS = [-(1 << 31) - 1, -(1 << 31), -1, 0, 1, 3, (1 << 31) - 1, (1 << 32) + 5]
 BIG = 1 << 31
 
 
