@@ -223,6 +223,9 @@ def test_deconvolution_divides_spectra_or_goes_to_long_division_where_the_scan_s
     rng = np.random.default_rng(54)
     divisors = [[1, -1], [1, 1], [1, 0, -1], [1, 0, 1], [0, 1], [0, 0, 2], [0, 1, -1], [2, 1], [1, 2], [0, 1, 1, 0],
                 [3, 1, -1, 2, 0.5], [1, 0, 0, 0, -1], [0, 0, 1, 0, 1], [1, 1, 1, 1], [2], [1, -2, 1]]
+    # At 8 points Re H[1] and Im H[3] are zero, which counts, though neither bin is; a bin without a real part, which
+    # does not; and bins that are small, not zero.
+    divisors += [[1, 0, 1, np.sqrt(2)], [1, 3, 1], [1, -1 + 1e-11], [1, -1 + 1e-6], [1, 0, 0, 1e-3 - 1]]
     paths = set()
     for x in divisors:
         x = np.array(x, float)
@@ -244,9 +247,22 @@ def test_deconvolution_divides_spectra_or_goes_to_long_division_where_the_scan_s
             assert qv.ZemFunc54(y, n, x, m, out.array) == 0
             scale = np.max(np.abs(expected)) + np.linalg.norm(y)
             smallest = 1 if divided else np.min(np.abs(np.fft.fft(x, P)))
-            near(out.array, expected, 100 * P * EPS * scale * np.linalg.norm(x) / smallest ** 2)
+            near(out.array, expected, 100 * P * EPS * scale * np.linalg.norm(x) / smallest)
             out.kept()
     assert paths == {True, False}
+
+
+@pytest.mark.parametrize("gap, divided", [(1.5e-9, False), (0.5e-9, True)])
+def test_a_bin_of_a_billionth_is_no_zero_at_any_length(qv, gap, divided):
+    """1 / (1 - r z) from an impulse: by division r^i, by spectra the same folded over the length, r^i / (1 - r^n)."""
+    n, r = 1 << 23, 1 - gap
+    assert n * EPS > 1.5e-9
+    y, out = np.zeros(n), np.empty(n - 1)
+    y[0] = 1
+    assert qv.ZemFunc54(y, n, np.array([1, -r]), 2, out) == 0
+    expected = np.exp(np.arange(n - 1) * np.log1p(-gap)) / (1 if divided else -np.expm1(n * np.log1p(-gap)))
+    # The divisor's smallest bin is the gap, with a rounding of EPS; the products of the division add up theirs.
+    near(out, expected, 10 * np.max(expected) * (n * EPS if divided else EPS / gap))
 
 
 # Two dimensions

@@ -112,7 +112,7 @@ def turned(angle, c, w, count):
     return cosines, sines
 
 
-@pytest.mark.parametrize("n", [2, 4, 6, 60, 96, 46, 94, 106, 212, 529, 600, 1000, 1024, 1081, 2048, 2809, 2 * 53 * 59, 4093])
+@pytest.mark.parametrize("n", [2, 4, 6, 60, 96, 46, 94, 106, 212, 529, 600, 1000, 1024, 1081, 2048, 2809, 2 * 53 * 59, 4093, 67 * 67, 67 * 101])
 def test_tables_follow_their_recurrences_to_the_last_bit(qv, n):
     with Held(qv, n) as plan:
         length = n
