@@ -5,14 +5,10 @@ that of IEEE 754 and fuses nothing.
 """
 
 import math
-import pathlib
-import sys
 
 import numpy as np
 import pytest
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-from exact import (KINDS, NANS, SIZES, Guarded, equal_bits, equal_numbers, every_size, exports_of, fits,  # noqa: E402
+from exact import (KINDS, NANS, SIZES, Guarded, equal_bits, equal_numbers, every_size, exports_of, fits,
                    numbers, unwritten, wrapped)
 
 LENGTHS = [1, 2, 3, 4, 7, 8, 9, 15, 16, 17, 31, 33, 64, 65, 127, 130, 513, 1100]

@@ -1,27 +1,16 @@
 """Complex arithmetic: the written formulas to the last bit, over all combinations of special parts.
 
-Sines, logarithms and powers are those of the C library that the library itself calls, so that a difference of one bit is
-a difference of the formula.
+Sines, logarithms and powers are those of the C library that the library itself calls, so that a difference of one bit
+is a difference of the formula.
 """
-
-import ctypes
-import ctypes.util
-import pathlib
-import sys
 
 import numpy as np
 import pytest
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-from exact import KINDS, SIZES, SPECIAL, Guarded, equal_numbers, exports_of, fits, numbers, unwritten  # noqa: E402
-
-LIBM = ctypes.CDLL(ctypes.util.find_library("m"))
+from exact import KINDS, SIZES, SPECIAL, Guarded, equal_numbers, exports_of, fits, libm, numbers, unwritten
 
 
 def from_libm(name, arguments):
-    function = getattr(LIBM, name)
-    function.restype, function.argtypes = ctypes.c_double, [ctypes.c_double] * arguments
-    elementwise = np.frompyfunc(function, arguments, 1)
+    elementwise = np.frompyfunc(libm(name, arguments), arguments, 1)
     return lambda *values: np.asarray(elementwise(*values), float)
 
 

@@ -1,5 +1,7 @@
-"""What the models of single operations share: numbers of every kind, arrays between guards, and comparison bit by bit."""
+"""What the models of single operations share: numbers of every kind, arrays between guards, comparison bit by bit."""
 
+import ctypes
+import ctypes.util
 import itertools
 
 import boundary
@@ -9,12 +11,22 @@ import numpy as np
 SIZES = [-(1 << 63), -(1 << 32) + 5, -(1 << 31) - 1, -(1 << 31), -3, -1, 0, 1, 2, 3, 5, 65536, 65537, (1 << 31) - 1,
          1 << 31, (1 << 32) + 5, (1 << 63) - 1]
 
-SPECIAL = np.array([0.0, -0.0, 1.0, -1.0, 0.5, 3.0, 1e-5, -1e5, 5e-324, -5e-324, 2.2250738585072014e-308, 1e-160, -1e-170,
-                    1e160, 1e308, -1.7976931348623157e308, 1.7976931348623157e308, -1.7976931348623e308, np.inf, -np.inf,
-                    np.nan])
+SPECIAL = np.array([0.0, -0.0, 1.0, -1.0, 0.5, 3.0, 1e-5, -1e5, 5e-324, -5e-324, 2.2250738585072014e-308, 1e-160,
+                    -1e-170, 1e160, 1e308, -1.7976931348623157e308, 1.7976931348623157e308, -1.7976931348623e308,
+                    np.inf, -np.inf, np.nan])
 NANS = np.array([0x7FF8000000000000, 0xFFF8000000000000, 0x7FF8000000000123, 0xFFF8000000ABCDEF], np.uint64).view(float)
 
 GUARD = np.uint64(0x7FFBADC0DEC0FFEE)  # a NaN that no operation makes
+
+
+MATHEMATICS = ctypes.CDLL(ctypes.util.find_library("m"))
+
+
+def libm(name, count=1):
+    """A function of the C library, which the library under test calls too."""
+    function = getattr(MATHEMATICS, name)
+    function.restype, function.argtypes = ctypes.c_double, [ctypes.c_double] * count
+    return function
 
 
 def fits(*sizes):
@@ -36,7 +48,8 @@ def numbers(rng, n, kind):
     if kind == "ties":
         return rng.integers(-3, 4, n).astype(float) * rng.choice([1.0, -1.0], n)
     assert kind == "holes"
-    return np.where(rng.random(n) < 0.3, rng.choice(NANS, n), rng.standard_normal(n) * 10.0 ** rng.integers(-300, 300, n))
+    spread = rng.standard_normal(n) * 10.0 ** rng.integers(-300, 300, n)
+    return np.where(rng.random(n) < 0.3, rng.choice(NANS, n), spread)
 
 
 KINDS = ["plain", "bits", "special", "ties", "holes"]

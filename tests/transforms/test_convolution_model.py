@@ -5,14 +5,10 @@ against sums in extended precision, like everything that goes through transforms
 """
 
 import itertools
-import pathlib
-import sys
 
 import numpy as np
 import pytest
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-from exact import KINDS, Guarded, equal_numbers, every_size, exports_of, fits, numbers, unwritten  # noqa: E402
+from exact import KINDS, Guarded, equal_numbers, every_size, exports_of, fits, numbers, unwritten
 
 EPS = np.finfo(float).eps
 PAIRS = [(1, 1), (1, 5), (6, 1), (2, 2), (3, 4), (4, 3), (5, 5), (7, 16), (17, 8), (33, 32), (9, 70), (64, 65)]

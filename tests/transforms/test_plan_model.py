@@ -4,19 +4,13 @@ The fields stand in the documented order, so that the record can be read from ou
 """
 
 import ctypes
-import ctypes.util
-import pathlib
-import sys
 
 import numpy as np
 import pytest
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-from exact import SIZES, equal_bits, exports_of, fits  # noqa: E402
+from exact import SIZES, equal_bits, exports_of, fits, libm
 
 EPS = np.finfo(float).eps
-LIBM = ctypes.CDLL(ctypes.util.find_library("m"))
-LIBM.sin.restype, LIBM.sin.argtypes = ctypes.c_double, [ctypes.c_double]
+sin = libm("sin")
 TWO_PI = 6.283185307179586
 KERNELS = [10, 43, 41, 37, 32, 31, 29, 19, 18, 17, 16, 14, 13, 11, 9, 8, 7, 5, 4, 3, 2]
 
@@ -100,8 +94,8 @@ def test_thousands_of_sizes_have_the_documented_factors_and_kernels(qv):
 
 def turned(angle, c, w, count):
     """The recurrence from one point on: lists of cosines and sines."""
-    s = LIBM.sin(angle / 2)
-    d, t = s * (2 * s), LIBM.sin(angle)
+    s = sin(angle / 2)
+    d, t = s * (2 * s), sin(angle)
     if c is None:
         c, w = 1 - d, -t
     cosines, sines = [], []
@@ -112,7 +106,8 @@ def turned(angle, c, w, count):
     return cosines, sines
 
 
-@pytest.mark.parametrize("n", [2, 4, 6, 60, 96, 46, 94, 106, 212, 529, 600, 1000, 1024, 1081, 2048, 2809, 2 * 53 * 59, 4093, 67 * 67, 67 * 101])
+@pytest.mark.parametrize("n", [2, 4, 6, 60, 96, 46, 94, 106, 212, 529, 600, 1000, 1024, 1081, 2048, 2809, 4093,
+                               2 * 53 * 59, 67 * 67, 67 * 101])
 def test_tables_follow_their_recurrences_to_the_last_bit(qv, n):
     with Held(qv, n) as plan:
         length = n

@@ -4,18 +4,12 @@ The spectra are sums over long doubles with the angles reduced as integers, and 
 as documented, so that nothing is shared with any library's transform.
 """
 
-import ctypes
-import ctypes.util
 import itertools
-import pathlib
-import sys
 
 import mpmath
 import numpy as np
 import pytest
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-from exact import SIZES, Guarded, bits, every_size, exports_of, fits, unwritten  # noqa: E402
+from exact import SIZES, Guarded, bits, every_size, exports_of, fits, libm, unwritten
 
 EPS = np.finfo(float).eps
 PI = np.longdouble("3.14159265358979323846264338327950288")
@@ -139,7 +133,8 @@ SHAPES = [(1, 1), (1, 2), (2, 1), (2, 2), (1, 7), (6, 1), (3, 4), (4, 3), (5, 5)
 @pytest.mark.parametrize("shift", [0, 1])
 def test_two_dimensions_place_each_bin_as_documented(qv, rows, cols, shift):
     rng = np.random.default_rng(rows * 100 + cols)
-    for R, C in {(rows, cols), (rows + 1, cols + 2), (max(1, rows - 1), cols), (rows, max(1, cols - 2)), (2, 2), (1, 3)}:
+    for R, C in {(rows, cols), (rows + 1, cols + 2), (max(1, rows - 1), cols), (rows, max(1, cols - 2)), (2, 2),
+                 (1, 3)}:
         for x, number in ((reals(rng, rows, cols), 266), (records(rng, rows, cols), 267)):
             padded = fitted(fitted(x, R).T, C)
             expected = ordered(ordered(dft(dft(padded).T), shift).T, shift).T
@@ -239,15 +234,12 @@ def test_hartley_and_hilbert_are_their_sums(qv, n):
 
 # Chirp-Z
 
-LIBM = ctypes.CDLL(ctypes.util.find_library("m"))
-for name, count in (("pow", 2), ("atan2", 2), ("sin", 1), ("cos", 1)):
-    getattr(LIBM, name).restype = ctypes.c_double
-    getattr(LIBM, name).argtypes = [ctypes.c_double] * count
+sin, cos, pow_, atan2 = libm("sin"), libm("cos"), libm("pow", 2), libm("atan2", 2)
 
 
 def power(z, p):
-    r, t = LIBM.pow(z[1] * z[1] + z[0] * z[0], p * 0.5), LIBM.atan2(z[1], z[0]) * p
-    return r * LIBM.cos(t), r * LIBM.sin(t)
+    r, t = pow_(z[1] * z[1] + z[0] * z[0], p * 0.5), atan2(z[1], z[0]) * p
+    return r * cos(t), r * sin(t)
 
 
 def times(z, w):
