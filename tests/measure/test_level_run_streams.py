@@ -3,7 +3,7 @@
 import numpy as np
 import pytest
 
-TOO_LARGE = [2**31, -2**31 - 1, 2**32, 2**63 - 1, -2**63]
+from bitwise import TOO_LARGE
 
 
 class Runs:

@@ -12,10 +12,11 @@ import math
 import numpy as np
 import pytest
 
+from bitwise import TOO_LARGE, divided, same_bits
+
 SIZES = [1, 2, 3, 4, 5, 6, 7, 8, 9, 12, 15, 16, 17, 30, 53, 64, 100]
 DT = 0.3
 PI, TWO_PI = 3.141592653589793, 6.283185307179586
-TOO_LARGE = [2**31, -2**31 - 1, 2**32, 2**63 - 1, -2**63]
 
 
 def record(n, seed=1):
@@ -24,14 +25,6 @@ def record(n, seed=1):
 
 def out(n):
     return np.full(max(n, 1), np.nan)
-
-
-def same_bits(actual, expected):
-    """NaN of any sign and content is NaN."""
-    actual, expected = np.array(actual, float), np.array(expected, float)
-    nan = np.isnan(expected)
-    assert np.array_equal(np.isnan(actual), nan), (actual, expected)
-    assert np.array_equal(actual[~nan].view(np.int64), expected[~nan].view(np.int64)), (actual, expected)
 
 
 def bins(n):
@@ -57,12 +50,6 @@ def modulus(z):
 
 def phase(z):
     return math.atan2(z[1], z[0])
-
-
-def divided(a, b):
-    """IEEE 754 division."""
-    with np.errstate(all="ignore"):
-        return float(np.float64(a) / np.float64(b))
 
 
 def auto_power(X, n):

@@ -2,7 +2,7 @@
 
 A run calls all generators, sequences and shuffles in random turn, with seeds and resets of every kind and with calls that
 are refused; the model keeps what the documentation says that a thread keeps. Several runs go on at once, each in a thread
-of its own. Functions are the C library's, ln Gamma and the inverse transform are the library's own exports.
+of its own. ln Gamma and the inverse transform are the library's own exports.
 """
 
 import math
@@ -11,63 +11,11 @@ import threading
 import numpy as np
 import pytest
 
+import random_model
+from bitwise import TOO_LARGE
+from random_model import Stream
+
 INT_MAX, INT_MIN = 2**31 - 1, -2**31
-TOO_LARGE = [2**31, -2**31 - 1, 2**32, 2**32 + 5, 2**63 - 1]
-
-
-def wrapped(value):
-    return (value + 2**31) % 2**32 - 2**31
-
-
-def remainder(value, modulus):
-    """Of truncating division."""
-    return -(-value % modulus) if value < 0 else value % modulus
-
-
-class Stream:
-    def __init__(self):
-        self.first = True
-        self.defaults()
-
-    def defaults(self):
-        self.x, self.y, self.z = 1234, 2345, 3456
-
-    def seed(self, seed):
-        if seed != 0:
-            self.x, self.y = seed, (seed * 8191) & 0x3FFF
-            self.z = (self.y * 8191) & 0x3FFF
-
-    def combined(self):
-        self.x = remainder(wrapped(171 * self.x), 30269)
-        self.y = remainder(wrapped(172 * self.y), 30307)
-        self.z = remainder(wrapped(170 * self.z), 30323)
-        v = self.y * 3.2995677566238825e-5 + self.x * 3.3037100664045725e-5
-        return v + self.z * 3.297826732183491e-5
-
-    def uniform(self):
-        v = self.combined()
-        return v - float(math.floor(v))
-
-    def phase15(self):
-        v = self.combined()
-        return int((v - float(math.trunc(v))) * 32768.0)
-
-    def begin(self, seed):
-        """With a seed alone; a negative one at the first call, the clock's, is not modelled."""
-        assert not (self.first and seed < 0)
-        self.first = False
-        if seed >= 0:
-            self.seed(seed)
-
-    def begin_with_reset(self, seed, reset):
-        """Whether the stream starts anew."""
-        start = self.first or reset != 0
-        if start:
-            self.defaults()
-            if seed > 0:
-                self.seed(seed)
-        self.first = False
-        return start
 
 
 class Thread:
@@ -79,7 +27,6 @@ class Thread:
         names = "gaussian uniform white periodic gamma poisson binomial bernoulli shuffle396 shuffle397 shuffle398"
         self.streams = {name: Stream() for name in names.split()}
         self.spare = None
-        self.cache = (None, None)  # probability and number of trials that the logarithms hold for
         self.halton, self.weyl = None, None
 
     def uniform(self, n, seed):
@@ -99,19 +46,7 @@ class Thread:
             self.spare = None
         if n < 1:
             return -20003, None
-        out = []
-        for _ in range(n):
-            if self.spare is None:
-                r = 1.0
-                while r >= 1 or r == 0:
-                    u1 = 2 * s.uniform() - 1
-                    u2 = 2 * s.uniform() - 1
-                    r = u2 * u2 + u1 * u1
-                f = math.sqrt(-2 * math.log(r) / r)
-                value, self.spare = f * u2, f * u1
-            else:
-                value, self.spare = self.spare, None
-            out.append(value * deviation)
+        out, self.spare = random_model.normals(s, n, deviation, self.spare)
         return 0, out
 
     def periodic(self, n, amplitude, seed):
@@ -136,28 +71,7 @@ class Thread:
             return -20140, None
         s = self.streams["gamma"]
         s.begin_with_reset(seed, reset)
-        return 0, [self.one_gamma(s, order) for _ in range(n)]
-
-    def one_gamma(self, s, a):
-        if a < 6:
-            product = 1.0
-            for _ in range(a):
-                product *= s.uniform()
-            return -math.log(product)
-        am = a - 1.0
-        root = math.sqrt(2 * am + 1)
-        while True:
-            v1 = v2 = 1.0
-            while v1 * v1 + v2 * v2 > 1:
-                v1 = 2 * s.uniform() - 1
-                v2 = 2 * s.uniform() - 1
-            y = v2 / v1
-            em = root * y + am
-            if em <= 0:
-                continue
-            w = s.uniform()
-            if w <= math.exp(math.log(em / am) * am - root * y) * (y * y + 1):
-                return em
+        return 0, [random_model.gamma(s, order) for _ in range(n)]
 
     def poisson(self, n, m, seed, reset):
         if n < 1:
@@ -166,25 +80,7 @@ class Thread:
             return -20061, None
         s = self.streams["poisson"]
         s.begin_with_reset(seed, reset)
-        return 0, [self.one_poisson(s, m) for _ in range(n)]
-
-    def one_poisson(self, s, m):
-        if m < 12:
-            limit, k, t = math.exp(-m), -1.0, 1.0
-            while True:
-                k += 1
-                t *= s.uniform()
-                if not t > limit:
-                    return k
-        sq, lm, g = math.sqrt(2 * m), math.log(m), self.ln_gamma(m + 1)
-        while True:
-            y = math.tan(math.pi * s.uniform())
-            while y * sq + m < 0:
-                y = math.tan(math.pi * s.uniform())
-            em = float(math.floor(y * sq + m))
-            t = math.exp(lm * em - self.ln_gamma(em + 1) - (lm * m - g))
-            if s.uniform() <= t * (y * y + 1) * 0.9:
-                return em
+        return 0, [random_model.poisson(s, m, self.ln_gamma) for _ in range(n)]
 
     def binomial(self, n, N, p, seed, reset):
         if n < 1:
@@ -195,36 +91,7 @@ class Thread:
             return (-20061 if p != p else -20053), None
         s = self.streams["binomial"]
         s.begin_with_reset(seed, reset)
-        pp = p if p <= 0.5 else 1 - p
-        out = [self.one_binomial(s, N, pp) for _ in range(n)]
-        return 0, [int(N - v if pp != p else v) for v in out]
-
-    def one_binomial(self, s, N, pp):
-        mean = N * pp
-        if N < 25:
-            return sum(s.uniform() < pp for _ in range(N))
-        if mean < 1:
-            g, t, j = math.exp(-mean), 1.0, 0
-            while True:
-                t *= s.uniform()
-                if t < g:
-                    break
-                j += 1
-                if not j <= N:
-                    break
-            return min(N, j)
-        q, lp, lq = 1 - pp, math.log(pp), math.log(1 - pp)
-        sq = math.sqrt(2 * mean * q)
-        while True:
-            em = -1.0
-            while em < 0 or em >= N + 1.0:
-                y = math.tan(math.pi * s.uniform())
-                em = y * sq + mean
-            em = float(math.floor(em))
-            t = math.exp(self.ln_gamma(N + 1.0) - self.ln_gamma(em + 1) - self.ln_gamma(N - em + 1) + em * lp
-                         + (N - em) * lq) * ((y * y + 1) * (sq * 1.2))
-            if s.uniform() <= t:
-                return em
+        return 0, [random_model.binomial(s, N, p, self.ln_gamma) for _ in range(n)]
 
     def bernoulli(self, n, p, seed, reset):
         if n < 1:
@@ -276,11 +143,7 @@ class Thread:
             return -20003, None
         s = self.streams[f"shuffle{number}"]
         s.begin(seed)
-        p = list(range(n))
-        for i in range(n - 1, 0, -1):
-            j = math.floor(s.uniform() * (i + 1))
-            p[i], p[j] = p[j], p[i]
-        return 0, p
+        return 0, random_model.order(s, n)
 
 
 SEEDS = [0, 0, 0, -1, -7, INT_MIN, 1, 5, 7, 16384, 30269, 12558213, 1 << 30, INT_MAX]

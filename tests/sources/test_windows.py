@@ -12,6 +12,8 @@ import pytest
 import scipy.signal.windows as sw
 import scipy.special
 
+import bitwise
+
 EPS = np.finfo(float).eps
 PI, TWO_PI = 3.141592653589793, 6.283185307179586
 LENGTHS = [2, 3, 4, 5, 6, 7, 8, 15, 16, 31, 64, 100, 101]
@@ -456,20 +458,12 @@ def test_measured_properties_sum_in_index_order(qv):
         same_bits(properties, measured(w.tolist()))
 
 
-def same(actual, expected):
-    """To the last bit; NaN of any sign and content is NaN."""
-    actual, expected = np.asarray(actual, float), np.asarray(expected, float)
-    nan = np.isnan(expected)
-    assert np.array_equal(np.isnan(actual), nan), (actual, expected)
-    same_bits(actual[~nan], expected[~nan])
-
-
 @pytest.mark.parametrize("n", range(1, 18))
 def test_parameters_that_are_no_ordinary_numbers_go_through_the_same_formulas(qv, n):
     with np.errstate(all="ignore"):
         for beta in (1e200, -1e200, np.inf, np.nan, 5e-324):
             w = kaiser(n, np.float64(beta)) if n > 1 else [bessel_series(0.0) / bessel_series(np.float64(beta))]
-            same(of_ones(qv, 113, n, beta), w)
+            bitwise.same_bits(of_ones(qv, 113, n, beta), w)
         for sigma in (1e-200, 5e-324, 1e200, np.inf, np.nan):
             for number, arguments, length, middle in ((280, (sigma,), n + 1.0, n / 2),
                                                       (281, (62, sigma), float(n), (n - 1) / 2)):
@@ -477,9 +471,9 @@ def test_parameters_that_are_no_ordinary_numbers_go_through_the_same_formulas(qv
                 w = np.exp(c * (np.arange(n) - middle) ** 2)
                 if number == 280 and n % 2 == 0:
                     w[n // 2] = 1  # no matter what the exponent's factor is
-                same(of_ones(qv, number, n, *arguments), np.ones(1) if n == 1 else w)
+                bitwise.same_bits(of_ones(qv, number, n, *arguments), np.ones(1) if n == 1 else w)
         for ratio in (np.nan, -np.inf, -0.0):
-            same(of_ones(qv, 278, n, ratio), np.ones(n))
+            bitwise.same_bits(of_ones(qv, 278, n, ratio), np.ones(n))
         if n > 1:
             # The last ratio below 1 leaves no pair untouched but the middle.
             m = n // 2 if n % 2 else n // 2 - 1
@@ -488,10 +482,10 @@ def test_parameters_that_are_no_ordinary_numbers_go_through_the_same_formulas(qv
                 w[[0, -1]] = 0
             for i in range(1, m):
                 w[i] = w[n - 1 - i] = math.sin(i * PI / (2 * m)) * math.sin(i * PI / (2 * m))
-            same(of_ones(qv, 278, n, 1 - 2.0**-53), w)
+            bitwise.same_bits(of_ones(qv, 278, n, 1 - 2.0**-53), w)
             for final in (np.inf, np.nan, 5e-324):
                 step, e, w = math.log(final) / (n - 1), 0.0, []
                 for _ in range(n):
                     w.append(np.exp(e) if math.isinf(e) or e != e or e > 709 else math.exp(e))
                     e += step
-                same(of_ones(qv, 74, n, final), w)
+                bitwise.same_bits(of_ones(qv, 74, n, final), w)

@@ -5,21 +5,14 @@ import math
 import numpy as np
 import pytest
 
+from bitwise import TOO_LARGE, same_bits
+
 EPS = 2.220446049250313e-16
-TOO_LARGE = [2**31, -2**31 - 1, 2**32, 2**63 - 1, -2**63]
 SIZES = [1, 2, 3, 4, 5, 8, 17, 100]
 
 
 def scalar():
     return np.full(1, np.nan)
-
-
-def same_bits(actual, expected):
-    """NaN of any sign and content is NaN."""
-    actual, expected = np.array(actual, float), np.array(expected, float)
-    nan = np.isnan(expected)
-    assert np.array_equal(np.isnan(actual), nan), (actual, expected)
-    assert np.array_equal(actual[~nan].view(np.int64), expected[~nan].view(np.int64)), (actual, expected)
 
 
 def total(values):

@@ -6,7 +6,7 @@ The offset, the factor and the mode may change, resets come at any time, and blo
 import numpy as np
 import pytest
 
-TOO_LARGE = [2**31, -2**31 - 1, 2**32, 2**63 - 1, -2**63]
+from bitwise import TOO_LARGE
 
 
 def truncated(a, b):
