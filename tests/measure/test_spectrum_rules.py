@@ -359,3 +359,33 @@ def test_sizes_beyond_32_bits_are_refused_first_and_touch_nothing(qv, n):
     assert qv.ZemFunc129(a[0], a[0], 0, n, DT, *a[1:8]) == -20046
     assert qv.ZemFunc139(a[0], 0, 1.0, np.array([1.5, 0.5]), 1.0, n, a[1], a[2]) == -20046
     assert all(np.isnan(v).all() for v in arrays[:-1] + a) and arrays[-1].value == b"V"
+
+
+@pytest.mark.parametrize("n", SIZES)
+def test_outputs_may_be_the_inputs(qv, n):
+    def both(number, inputs, before, between, outputs, places):
+        """The same values, with the outputs `places` in the arrays of the inputs."""
+        apart = [v.copy() for v in inputs]
+        expected = [out(size) for size in outputs]
+        assert getattr(qv, f"ZemFunc{number}")(*apart, *before, *between, *expected) == 0
+        given = [v.copy() for v in inputs]
+        joined = [out(size) for size in outputs]
+        for output, place in places:
+            joined[output] = given[place]
+        assert getattr(qv, f"ZemFunc{number}")(*given, *before, *between, *joined) == 0
+        for size, a, b in zip(outputs, joined, expected):
+            same_bits(a[:max(size, 1)], b)
+    x, y, h = record(n), record(n, 2), n // 2
+    both(36, [x, y], [n], [], [n, n], [(0, 0), (1, 1)])
+    both(36, [x, y], [n], [], [n, n], [(0, 1), (1, 0)])
+    both(5, [x], [n], [1, DT], [h, h, 1], [(0, 0)])
+    both(5, [x], [n], [1, DT], [h, h, 1], [(1, 0)])
+    both(10, [x], [n], [DT], [h, 1], [(0, 0)])
+    for number in (37, 176):
+        both(number, [x, y], [n], [DT], [h, h, 1], [(0, 0), (1, 1)])
+        both(number, [x, y], [n], [DT], [h, h, 1], [(0, 1), (1, 0)])
+    for place in (0, 1):
+        both(94, [x, y], [n], [], [n], [(0, place)])
+    x, y = record(3 * n), record(3 * n, 2)
+    for output in range(6):
+        both(129, [x, y], [n, 3], [DT], [h] * 5 + [n, 1], [(output, output % 2)])
