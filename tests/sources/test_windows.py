@@ -10,7 +10,6 @@ import mpmath
 import numpy as np
 import pytest
 import scipy.signal.windows as sw
-import scipy.special
 
 import bitwise
 
