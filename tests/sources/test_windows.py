@@ -10,7 +10,8 @@ import mpmath
 import numpy as np
 import pytest
 import scipy.signal.windows as sw
-import scipy.special
+
+import bitwise
 
 EPS = np.finfo(float).eps
 PI, TWO_PI = 3.141592653589793, 6.283185307179586
@@ -454,3 +455,36 @@ def test_measured_properties_sum_in_index_order(qv):
         w = np.random.default_rng(n).standard_normal(n) + 0.5
         assert qv.ZemFunc283(w, n, properties) == 0
         same_bits(properties, measured(w.tolist()))
+
+
+@pytest.mark.parametrize("n", range(1, 18))
+def test_parameters_that_are_no_ordinary_numbers_go_through_the_same_formulas(qv, n):
+    with np.errstate(all="ignore"):
+        for beta in (1e200, -1e200, np.inf, np.nan, 5e-324):
+            w = kaiser(n, np.float64(beta)) if n > 1 else [bessel_series(0.0) / bessel_series(np.float64(beta))]
+            bitwise.same_bits(of_ones(qv, 113, n, beta), w)
+        for sigma in (1e-200, 5e-324, 1e200, np.inf, np.nan):
+            for number, arguments, length, middle in ((280, (sigma,), n + 1.0, n / 2),
+                                                      (281, (62, sigma), float(n), (n - 1) / 2)):
+                c = -0.5 / (np.float64(sigma) * sigma * (length * length))
+                w = np.exp(c * (np.arange(n) - middle) ** 2)
+                if number == 280 and n % 2 == 0:
+                    w[n // 2] = 1  # no matter what the exponent's factor is
+                bitwise.same_bits(of_ones(qv, number, n, *arguments), np.ones(1) if n == 1 else w)
+        for ratio in (np.nan, -np.inf, -0.0):
+            bitwise.same_bits(of_ones(qv, 278, n, ratio), np.ones(n))
+        if n > 1:
+            # The last ratio below 1 leaves no pair untouched but the middle.
+            m = n // 2 if n % 2 else n // 2 - 1
+            w = np.ones(n)
+            if m >= 1:
+                w[[0, -1]] = 0
+            for i in range(1, m):
+                w[i] = w[n - 1 - i] = math.sin(i * PI / (2 * m)) * math.sin(i * PI / (2 * m))
+            bitwise.same_bits(of_ones(qv, 278, n, 1 - 2.0**-53), w)
+            for final in (np.inf, np.nan, 5e-324):
+                step, e, w = math.log(final) / (n - 1), 0.0, []
+                for _ in range(n):
+                    w.append(np.exp(e) if math.isinf(e) or e != e or e > 709 else math.exp(e))
+                    e += step
+                bitwise.same_bits(of_ones(qv, 74, n, final), w)
