@@ -3,7 +3,7 @@
 import numpy as np
 import pytest
 
-from bitwise import TOO_LARGE
+from exact import TOO_LARGE
 
 
 class Runs:

@@ -12,7 +12,7 @@ import math
 import numpy as np
 import pytest
 
-from bitwise import TOO_LARGE, divided, same_bits
+from exact import TOO_LARGE, divided, equal_numbers
 
 SIZES = [1, 2, 3, 4, 5, 6, 7, 8, 9, 12, 15, 16, 17, 30, 53, 64, 100]
 DT = 0.3
@@ -83,11 +83,11 @@ def test_two_sided_spectra(qv, n):
         assert X[k][0] == mirrored[0] and X[k][1] == (-mirrored[1] if 0 < 2 * k != n else 0)
     power = x.copy()
     assert qv.ZemFunc161(power, n) == 0
-    same_bits(power, auto_power(X, n))
+    equal_numbers(power, auto_power(X, n))
     re, im = out(n), out(n)
     assert qv.ZemFunc36(x, y, n, re, im) == 0
-    same_bits(re, [z[0] for z in cross_power(X, Y, n)])
-    same_bits(im, [z[1] for z in cross_power(X, Y, n)])
+    equal_numbers(re, [z[0] for z in cross_power(X, Y, n)])
+    equal_numbers(im, [z[1] for z in cross_power(X, Y, n)])
 
 
 def test_power_is_scaled_by_the_squared_length_in_floating_point(qv):
@@ -96,9 +96,9 @@ def test_power_is_scaled_by_the_squared_length_in_floating_point(qv):
     X, Y = spectrum(qv, x), spectrum(qv, y)
     power, re, im = x.copy(), out(n), out(n)
     assert qv.ZemFunc161(power, n) == 0 and qv.ZemFunc36(x, y, n, re, im) == 0
-    same_bits(power, auto_power(X, n))
-    same_bits(re, [z[0] for z in cross_power(X, Y, n)])
-    same_bits(im, [z[1] for z in cross_power(X, Y, n)])
+    equal_numbers(power, auto_power(X, n))
+    equal_numbers(re, [z[0] for z in cross_power(X, Y, n)])
+    equal_numbers(im, [z[1] for z in cross_power(X, Y, n)])
 
 
 def unwrapped(p, mode):
@@ -123,9 +123,9 @@ def test_amplitude_and_phase(qv, n, unwrap):
         amp, angle, df = out(n // 2), out(n // 2), out(1)
         assert qv.ZemFunc5(x, n, unwrap, DT, amp, angle, df) == 0
         expected = [0.0 if X[0][0] >= 0 else PI] + [phase(X[k]) for k in bins(n)[1:]]
-        same_bits(amp, [abs(X[0][0]) / n] + [modulus(X[k]) * (math.sqrt(2.0) / n) for k in bins(n)[1:]])
-        same_bits(angle, unwrapped(expected, 0) if unwrap else expected)
-        same_bits(df, [1.0 / (n * DT)])
+        equal_numbers(amp, [abs(X[0][0]) / n] + [modulus(X[k]) * (math.sqrt(2.0) / n) for k in bins(n)[1:]])
+        equal_numbers(angle, unwrapped(expected, 0) if unwrap else expected)
+        equal_numbers(df, [1.0 / (n * DT)])
 
 
 @pytest.mark.parametrize("n", SIZES)
@@ -135,14 +135,14 @@ def test_one_sided_powers(qv, n):
     power, df = out(n // 2), out(1)
     assert qv.ZemFunc10(x, n, DT, power, df) == 0
     S = auto_power(X, n)
-    same_bits(power, [S[0]] + [2 * S[k] for k in bins(n)[1:]])
-    same_bits(df, [1.0 / (n * DT)])
+    equal_numbers(power, [S[0]] + [2 * S[k] for k in bins(n)[1:]])
+    equal_numbers(df, [1.0 / (n * DT)])
     mag, angle, df = out(n // 2), out(n // 2), out(1)
     assert qv.ZemFunc37(x, y, n, DT, mag, angle, df) == 0
     S = cross_power(X, Y, n)
-    same_bits(mag, [abs(S[0][0])] + [2 * modulus(S[k]) for k in bins(n)[1:]])
-    same_bits(angle, [phase(S[k]) for k in bins(n)])
-    same_bits(df, [1.0 / (n * DT)])
+    equal_numbers(mag, [abs(S[0][0])] + [2 * modulus(S[k]) for k in bins(n)[1:]])
+    equal_numbers(angle, [phase(S[k]) for k in bins(n)])
+    equal_numbers(df, [1.0 / (n * DT)])
 
 
 @pytest.mark.parametrize("n", SIZES)
@@ -154,16 +154,16 @@ def test_transfer_and_deconvolution(qv, n, empty):
     H = [(divided(Y[0][0], X[0][0]), 0.0)] + [quotient(Y[k], X[k]) for k in range(1, n // 2 + 1)]
     mag, angle, df = out(n // 2), out(n // 2), out(1)
     assert qv.ZemFunc176(x, y, n, DT, mag, angle, df) == 0
-    same_bits(mag, [abs(H[0][0])] + [modulus(H[k]) for k in bins(n)[1:]])
-    same_bits(angle, [math.atan2(0.0, H[0][0])] + [phase(H[k]) for k in bins(n)[1:]])
-    same_bits(df, [1.0 / (n * DT)])
+    equal_numbers(mag, [abs(H[0][0])] + [modulus(H[k]) for k in bins(n)[1:]])
+    equal_numbers(angle, [math.atan2(0.0, H[0][0])] + [phase(H[k]) for k in bins(n)[1:]])
+    equal_numbers(df, [1.0 / (n * DT)])
     re, im, impulse = np.zeros(n), np.zeros(n), out(n)
     for k in range(n):
         z = H[min(k, n - k)] if k else H[0]
         re[k], im[k] = z[0], z[1] if 2 * k < n else -z[1]
     assert qv.ZemFunc148(re, im, n) == 0
     assert qv.ZemFunc94(x, y, n, impulse) == 0
-    same_bits(impulse, re)
+    equal_numbers(impulse, re)
 
 
 @pytest.mark.parametrize("n", SIZES)
@@ -182,13 +182,13 @@ def test_network_analysis(qv, n, frames):
     cross, cross_angle, transfer, transfer_angle, coherence = (out(n // 2) for _ in range(5))
     impulse, df = out(n), out(1)
     assert qv.ZemFunc129(x, y, n, frames, DT, cross, cross_angle, transfer, transfer_angle, coherence, impulse, df) == 0
-    same_bits(cross, [modulus(Sxy[0]) / frames] + [modulus(Sxy[k]) * 2 / frames for k in bins(n)[1:]])
-    same_bits(cross_angle, [phase(Sxy[k]) for k in bins(n)])
-    same_bits(transfer, [modulus(H[k]) for k in bins(n)])
-    same_bits(transfer_angle, [phase(H[k]) for k in bins(n)])
-    same_bits(coherence, [squares(Sxy[k]) / (Sxx[k] * Syy[k]) for k in bins(n)])
-    same_bits(impulse, re)
-    same_bits(df, [1.0 / (n * DT)])
+    equal_numbers(cross, [modulus(Sxy[0]) / frames] + [modulus(Sxy[k]) * 2 / frames for k in bins(n)[1:]])
+    equal_numbers(cross_angle, [phase(Sxy[k]) for k in bins(n)])
+    equal_numbers(transfer, [modulus(H[k]) for k in bins(n)])
+    equal_numbers(transfer_angle, [phase(H[k]) for k in bins(n)])
+    equal_numbers(coherence, [squares(Sxy[k]) / (Sxx[k] * Syy[k]) for k in bins(n)])
+    equal_numbers(impulse, re)
+    equal_numbers(df, [1.0 / (n * DT)])
 
 
 def log10(v):
@@ -235,10 +235,10 @@ def test_units_in_every_combination(qv, kind, display):
                 status = qv.ZemFunc162(source, n, kind, display, flags, df, np.array([enbw, np.nan]), target, unit)
                 assert status == 0
                 values, text = converted(x, kind, display, flags, df, enbw, base)
-                same_bits(target, values)
+                equal_numbers(target, values)
                 assert unit.value.decode() == text
                 if not in_place:
-                    same_bits(source, x)
+                    equal_numbers(source, x)
 
 
 @pytest.mark.parametrize("mode", [0, 1, 2, 3, 4, 2**32 - 1])
@@ -256,10 +256,10 @@ def test_unwrapping(qv, mode):
                 expected = unwrapped(p, mode)
             q = p.copy()
             assert qv.ZemFunc368(q, n, mode) == 0
-            same_bits(q, expected)
+            equal_numbers(q, expected)
             if mode == 0:
                 assert qv.ZemFunc183(p, n) == 0
-                same_bits(p, expected)
+                equal_numbers(p, expected)
 
 
 def largest(power):
@@ -303,8 +303,8 @@ def test_peaks(qv, seed):
         frequency, total = out(1), out(1)
         assert qv.ZemFunc139(power, n, search, np.array([1.5, np.nan]), df, span, frequency, total) == 0
         expected = peak(power.tolist(), search, 1.5, df, span)
-        same_bits(frequency, expected[:1])
-        same_bits(total, expected[1:])
+        equal_numbers(frequency, expected[:1])
+        equal_numbers(total, expected[1:])
 
 
 @pytest.mark.parametrize("n", SIZES)
@@ -324,8 +324,8 @@ def test_ac_and_dc(qv, n):
     variance = squared / n - mean * mean
     ac, dc = out(1), out(1)
     assert qv.ZemFunc2(x, n, ac, dc) == 0
-    same_bits(ac, [math.sqrt((variance - mean * mean * 0.5) / 0.375)])
-    same_bits(dc, [2 * mean + offset])
+    equal_numbers(ac, [math.sqrt((variance - mean * mean * 0.5) / 0.375)])
+    equal_numbers(dc, [2 * mean + offset])
 
 
 def calls(qv, n, frames=1, span=3):
@@ -374,7 +374,7 @@ def test_outputs_may_be_the_inputs(qv, n):
             joined[output] = given[place]
         assert getattr(qv, f"ZemFunc{number}")(*given, *before, *between, *joined) == 0
         for size, a, b in zip(outputs, joined, expected):
-            same_bits(a[:max(size, 1)], b)
+            equal_numbers(a[:max(size, 1)], b)
     x, y, h = record(n), record(n, 2), n // 2
     both(36, [x, y], [n], [], [n, n], [(0, 0), (1, 1)])
     both(36, [x, y], [n], [], [n, n], [(0, 1), (1, 0)])

@@ -12,7 +12,7 @@ import numpy as np
 import pytest
 
 import random_model
-from bitwise import TOO_LARGE
+from exact import TOO_LARGE
 from random_model import Stream
 
 INT_MAX, INT_MIN = 2**31 - 1, -2**31

@@ -5,7 +5,7 @@ import math
 import numpy as np
 import pytest
 
-from bitwise import TOO_LARGE, same_bits
+from exact import TOO_LARGE, equal_numbers
 
 EPS = 2.220446049250313e-16
 SIZES = [1, 2, 3, 4, 5, 8, 17, 100]
@@ -44,17 +44,17 @@ def test_sums_and_powers(qv, n, seed):
     with np.errstate(all="ignore"):
         m = mean(v)
         assert qv.ZemFunc122(x, n, first) == 0
-        same_bits(first, [m])
+        equal_numbers(first, [m])
         assert qv.ZemFunc150(x, n, first) == 0
-        same_bits(first, [math.sqrt(total(a * a for a in v) / n)])
+        equal_numbers(first, [math.sqrt(total(a * a for a in v) / n)])
         assert qv.ZemFunc184(x, n, first, second) == 0
-        same_bits([first[0], second[0]], [m, total(a * a for a in v) / n - m * m])
+        equal_numbers([first[0], second[0]], [m, total(a * a for a in v) / n - m * m])
         assert qv.ZemFunc166(x, n, first, second) == 0
-        same_bits([first[0], second[0]], [m, math.sqrt(total((a - m) * (a - m) for a in v) / n)])
+        equal_numbers([first[0], second[0]], [m, math.sqrt(total((a - m) * (a - m) for a in v) / n)])
         z = (x + 0j)
         z.imag = data(n, seed + 5)
         assert qv.ZemFunc369(z, n, first) == 0
-        same_bits(first, [math.sqrt(total(a * a + b * b for a, b in zip(v, z.imag.tolist())) / n)])
+        equal_numbers(first, [math.sqrt(total(a * a + b * b for a, b in zip(v, z.imag.tolist())) / n)])
         for order in (1, 2, 3, 4, 7, 30):
             powers = []
             for a in v:
@@ -63,7 +63,7 @@ def test_sums_and_powers(qv, n, seed):
                     p *= d
                 powers.append(p)
             assert qv.ZemFunc125(x, n, order, first) == 0
-            same_bits(first, [total(powers) / n])
+            equal_numbers(first, [total(powers) / n])
 
 
 @pytest.mark.parametrize("n", SIZES + [999, 1000])
@@ -133,12 +133,12 @@ def test_histogram_and_its_mode(qv, n, seed):
                 expected = histogram(samples.tolist(), base, top, m)
             assert qv.ZemFunc90(samples, n, base, top, counts, centres, m) == 0
             assert list(counts) == expected[0], (base, top, m)
-            same_bits(centres, expected[1])
+            equal_numbers(centres, expected[1])
             assert qv.ZemFunc124(samples, n, base, top, m, mode) == 0
-            same_bits(mode, [expected[1][expected[0].index(max(expected[0]))]])
+            equal_numbers(mode, [expected[1][expected[0].index(max(expected[0]))]])
             centres[:] = np.nan
             assert qv.ZemFunc90(samples, n, base, top, None, centres, m) == 0
-            same_bits(centres, expected[1])
+            equal_numbers(centres, expected[1])
 
 
 def ascending(x):
@@ -185,7 +185,7 @@ def test_modes_and_their_capacity(qv, n, seed, intervals):
         assert qv.ZemFunc340(x, n, intervals, found, count) == 0
         assert count[0] == len(expected)
         written = min(len(expected), max(capacity, 0))
-        same_bits(found[:written], expected[:written])
+        equal_numbers(found[:written], expected[:written])
         assert np.isnan(found[written:]).all()
 
 

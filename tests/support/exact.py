@@ -10,6 +10,7 @@ import numpy as np
 # Sizes around every border: of the 64-bit argument, of 32 bits, of the first element. 2^32 + 5 has the low half 5.
 SIZES = [-(1 << 63), -(1 << 32) + 5, -(1 << 31) - 1, -(1 << 31), -3, -1, 0, 1, 2, 3, 5, 65536, 65537, (1 << 31) - 1,
          1 << 31, (1 << 32) + 5, (1 << 63) - 1]
+TOO_LARGE = [2**31, -2**31 - 1, 2**32, 2**32 + 5, 2**63 - 1, -2**63]
 
 SPECIAL = np.array([0.0, -0.0, 1.0, -1.0, 0.5, 3.0, 1e-5, -1e5, 5e-324, -5e-324, 2.2250738585072014e-308, 1e-160,
                     -1e-170, 1e160, 1e308, -1.7976931348623157e308, 1.7976931348623157e308, -1.7976931348623e308,
@@ -27,6 +28,12 @@ def libm(name, count=1):
     function = getattr(MATHEMATICS, name)
     function.restype, function.argtypes = ctypes.c_double, [ctypes.c_double] * count
     return function
+
+
+def divided(a, b):
+    """IEEE 754 division."""
+    with np.errstate(all="ignore"):
+        return float(np.float64(a) / np.float64(b))
 
 
 def fits(*sizes):

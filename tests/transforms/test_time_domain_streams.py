@@ -6,7 +6,7 @@ The offset, the factor and the mode may change, resets come at any time, and blo
 import numpy as np
 import pytest
 
-from bitwise import TOO_LARGE
+from exact import TOO_LARGE
 
 
 def truncated(a, b):
