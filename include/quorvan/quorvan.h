@@ -955,7 +955,7 @@ QV_API QvStatus ZemFunc391(const QvComplex* x, int64_t n, const QvComplex* y, in
 /**
  * CorrelateReal.
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
- * If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * If x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -972,7 +972,7 @@ QV_API QvStatus ZemFunc33(const double* x, int64_t n, const double* y, int64_t m
  * CorrelateRealBy (CorrelateReal).
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
  * A method other than 0 and 1 does nothing and succeeds.
- * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -990,7 +990,7 @@ QV_API QvStatus ZemFunc373(const double* x, int64_t n, const double* y, int64_t 
  * CorrelateRealNormalised (CorrelateReal).
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
  * A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a failure.
- * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -2455,6 +2455,7 @@ QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  * @code
@@ -2478,6 +2479,7 @@ QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, d
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20033 taps is even: the response would be 0 at fs/2
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
@@ -2501,6 +2503,7 @@ QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, d
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2523,6 +2526,7 @@ QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4,
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20033 taps is even: the response would be 0 at fs/2
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
@@ -2547,6 +2551,7 @@ QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4,
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2571,6 +2576,7 @@ QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2596,6 +2602,7 @@ QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2622,6 +2629,7 @@ QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2645,6 +2653,7 @@ QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2669,6 +2678,7 @@ QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2694,6 +2704,7 @@ QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2720,6 +2731,7 @@ QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -7872,7 +7884,7 @@ QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t so
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
  * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
- * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @param out written, [fftSize if fftSize > 0 else n]: the spectrum, one record for each bin
  * @retval -20003 n is below 1
  * @retval -20070 the plan is of another length
  * @retval -20001 memory is exhausted
@@ -7892,7 +7904,7 @@ QV_API QvStatus ZemFunc262(const double* x, int64_t n, int64_t fftSize, QvFftPla
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
  * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
- * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @param out written, [fftSize if fftSize > 0 else n]: the spectrum, one record for each bin
  * @retval -20003 n is below 1
  * @retval -20070 the plan is of another length
  * @retval -20001 memory is exhausted
@@ -7941,7 +7953,7 @@ QV_API QvStatus ZemFunc265(const QvComplex* X, int64_t n, QvFftPlan* plan, int32
  * @param fftRows rows of the transform; below 1: rows
  * @param fftCols columns of the transform; below 1: cols
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
- * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @param out written, [(fftRows if fftRows > 0 else rows) * (fftCols if fftCols > 0 else cols)]: the spectrum, row-major
  * @retval -20003 rows or cols is below 1
  * @retval -20046 the result has more than 2^31 - 1 elements
  * @retval -20001 memory is exhausted
@@ -7959,7 +7971,7 @@ QV_API QvStatus ZemFunc266(const double* x, int64_t rows, int64_t cols, int64_t 
  * @param fftRows rows of the transform; below 1: rows
  * @param fftCols columns of the transform; below 1: cols
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
- * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @param out written, [(fftRows if fftRows > 0 else rows) * (fftCols if fftCols > 0 else cols)]: the spectrum, row-major
  * @retval -20003 rows or cols is below 1
  * @retval -20046 the result has more than 2^31 - 1 elements
  * @retval -20001 memory is exhausted
@@ -8016,7 +8028,7 @@ QV_API QvStatus ZemFunc77(double* re, double* im, int64_t n);
  * @param x read, [n]: the samples
  * @param n how many samples there are
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
- * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @param out written, [fftSize if fftSize > 0 else n]: the transform; it may be x where that has room
  * @retval -20046 2 L does not fit 32 bits, with L the length of the transform
  * @retval -20003 n is below 1
  * @retval -20001 memory is exhausted
@@ -8044,7 +8056,7 @@ QV_API QvStatus ZemFunc271(const double* x, int64_t n, double* out);
  * @param x read, [n]: the samples
  * @param n how many samples there are
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
- * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @param out written, [fftSize if fftSize > 0 else n]: the transform; it may be x where that has room
  * @retval -20046 2 L + 2 does not fit 32 bits, with L the length of the transform
  * @retval -20003 n is below 1
  * @retval -20001 memory is exhausted
@@ -8182,7 +8194,7 @@ QV_API QvStatus ZemFunc76(double* x, int64_t n);
  * @param w the ratio of neighbouring points
  * @param method 0: the sum itself; 1: Bluestein's algorithm
  * @param m how many points of the spiral; below 1: n
- * @param out written, [m]: the transform; n records for an m below 1
+ * @param out written, [m if m > 0 else n]: the transform
  * @retval -20003 n is below 1
  * @retval -20061 the method is above 1
  * @retval -20068 a or w is not finite
@@ -8204,7 +8216,7 @@ QV_API QvStatus ZemFunc341(const double* x, int64_t n, QvComplex a, QvComplex w,
  * @param w the ratio of neighbouring points
  * @param method 0: the sum itself; 1: Bluestein's algorithm
  * @param m how many points of the spiral; below 1: n
- * @param out written, [m]: the transform; n records for an m below 1
+ * @param out written, [m if m > 0 else n]: the transform
  * @retval -20003 n is below 1
  * @retval -20061 the method is above 1
  * @retval -20068 a or w is not finite
@@ -8223,7 +8235,7 @@ QV_API QvStatus ZemFunc342(const QvComplex* x, int64_t n, QvComplex a, QvComplex
  * @param n how many points there are
  * @param a where the spiral starts
  * @param w the ratio of neighbouring points
- * @param out written, [m], may be null: the samples; n records for an m below 1
+ * @param out written, [m if m > 0 else n], may be null: the samples
  * @param m how many samples; below 1: n
  * @retval -20003 n is below 1
  * @retval -20068 a or w is not finite

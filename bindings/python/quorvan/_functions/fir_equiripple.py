@@ -232,6 +232,7 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -293,6 +294,7 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20033: taps is even: the response would be 0 at fs/2
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
@@ -359,6 +361,7 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -424,6 +427,7 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20033: taps is even: the response would be 0 at fs/2
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
@@ -481,6 +485,7 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -543,6 +548,7 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -607,6 +613,7 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -673,6 +680,7 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -733,6 +741,7 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -792,6 +801,7 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -853,6 +863,7 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -916,6 +927,7 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far

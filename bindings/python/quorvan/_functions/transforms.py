@@ -70,7 +70,7 @@ def real_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     Returns
     -------
     out : complex128 array of shape (fft_size if fft_size > 0 else n,)
-        the spectrum, one record for each bin; n records for an fft_size below 1
+        the spectrum, one record for each bin
 
     Raises
     ------
@@ -123,7 +123,7 @@ def complex_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     Returns
     -------
     out : complex128 array of shape (fft_size if fft_size > 0 else n,)
-        the spectrum, one record for each bin; n records for an fft_size below 1
+        the spectrum, one record for each bin
 
     Raises
     ------
@@ -502,7 +502,7 @@ def dct(x, fft_size=0, *, out=None):
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1. It may be x where that has room
+        the transform; it may be x where that has room
 
     Raises
     ------
@@ -588,7 +588,7 @@ def dst(x, fft_size=0, *, out=None):
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1. It may be x where that has room
+        the transform; it may be x where that has room
 
     Raises
     ------
@@ -1018,7 +1018,7 @@ def chirp_z_real(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the transform; n records for an m below 1
+        the transform
 
     Raises
     ------
@@ -1077,7 +1077,7 @@ def chirp_z_complex(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the transform; n records for an m below 1
+        the transform
 
     Raises
     ------
@@ -1131,7 +1131,7 @@ def inverse_chirp_z(x, a, w, m=0, *, out=None):
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the samples; n records for an m below 1
+        the samples
 
     Raises
     ------
