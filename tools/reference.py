@@ -61,6 +61,11 @@ def escaped(text):
     return re.sub(r"([\\*_`|])", r"\\\1", text)
 
 
+def purpose(export):
+    """The first sentence of a function."""
+    return re.split(r"(?<=[^.A-Z ])\. ", " ".join(export.sentences), 1)[0].rstrip(".")
+
+
 class Pages:
     def __init__(self, families):
         self.families = {family.name: family for family in families}
@@ -111,7 +116,17 @@ class Pages:
 
     def family(self, family):
         ready = [e for e in family.exports if not e.planned]
-        lines = [family.title, "=" * len(family.title), "", self.prose(" ".join(family.intro)), ""]
+        lines = [family.title, "=" * len(family.title), ""]
+        for word, told in family.blocks:
+            if word == "formula":
+                lines += [".. code-block:: none", "", *(f"   {line}" for line in told), ""]
+            else:
+                lines += [self.prose(" ".join(told)), ""]
+        lines += [".. list-table::", "   :widths: 12 30 58", "   :header-rows: 1", "", "   * - number", "     - name",
+                  "     - purpose"]
+        for e in ready:
+            lines += [f"   * - :c:func:`{e.symbol}`", f"     - :c:func:`Qv{e.name}`", f"     - {self.prose(purpose(e))}"]
+        lines += [""]
         for export in ready:
             lines += [export.name, "-" * len(export.name), "", *self.function(export)]
         return lines
