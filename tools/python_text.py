@@ -56,6 +56,10 @@ class Text:
     def body(self):
         export, lines = self.export, []
         arguments = ", ".join(p.name for p in self.parameters)
+        if self.name in choices.MANY:
+            array, many = choices.MANY[self.name]
+            given = ", ".join(f"{p.name}={p.name}" for p in self.parameters)
+            lines += [f"if rt.dimensions({array}) == 2:", f"    return {many}({given}, out=out)"]
         if self.twin:
             arrays = [p.name for p in self.parameters if p.type.startswith("ArrayLike")]
             out = ", out=out" if self.arrays else ""
@@ -135,6 +139,8 @@ class Text:
             notes.append("Arrays are taken element by element, with broadcasting.")
         if self.twin:
             notes.append(f"Complex arrays go to `{self.twin}`.")
+        if self.name in choices.MANY:
+            notes.append("A `{}` of two dimensions goes to `{}`.".format(*choices.MANY[self.name]))
         notes += [remark for pattern, remark in choices.REMARKS.items() if re.fullmatch(pattern, export.name)]
         notes.append(f"The function {export.symbol} ({export.name}) of the C library.")
         text += ["Notes", "-----", " ".join(notes), ""]

@@ -1,11 +1,21 @@
-"""Array primitives.
+r"""Array primitives.
 
-Operations on arrays of doubles: filling, moving, arithmetic, sums, extremes, scaling and sorting. A 2-D array
-is row-major without gaps; its functions run over rows * cols elements, a count that is formed in 32 bits and
-wraps: 65536 rows of 65537 columns are 65536 elements, and a count that wraps below 1 is refused. An output
-may be the same array as an input. Other overlaps work only where elements are just moved: in `array_copy`,
-`array_subset` and `array_shift`. NaN and infinity pass through arithmetic; searches ignore NaN. On an error
-nothing is written, except in `array_divide`.
+Operations on arrays of doubles: filling, moving, arithmetic, sums, extremes, scaling and sorting.
+
+    out[i] = x[i] op y[i]                        op: + - * /
+    scaled      out[i] = (x[i] - (max + min) / 2) / ((max - min) / 2)       in [-1, 1]
+    normalised  out[i] = (x[i] - mean) / deviation,   deviation = sqrt(sum (x[i] - mean)^2 / n)
+    linear      out[i] = a x[i] + b
+    polynomial  out[i] = sum over j of coef[j] x[i]^j
+
+A 2-D array is row-major without gaps; its functions run over rows * cols elements, a count that is formed in
+32 bits and wraps: 65536 rows of 65537 columns are 65536 elements, and a count that wraps below 1 is refused.
+
+An output may be the same array as an input. Other overlaps work only where elements are just moved: in
+`array_copy`, `array_subset` and `array_shift`.
+
+NaN and infinity pass through arithmetic; searches ignore NaN. On an error nothing is written, except in
+`array_divide`.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -135,6 +145,7 @@ def array_fill(n, value, *, out=None):
     >>> x = qv.array_fill(n, value)
     """
     n = rt.i64(n, "n")
+    value = rt.real(value, "value")
     x_ = rt.result(out, (n,), rt.F8, (), overlapping=True)
     status = _ZemFunc155(rt.pointer(x_), n, value)
     rt.check(status, "array_fill")
@@ -1413,6 +1424,8 @@ def array_linear_eval(x, a, b, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     out_ = rt.result(out, (n,), rt.F8, (x,), overlapping=True)
     status = _ZemFunc115(rt.pointer(x), n, a, b, rt.pointer(out_))
     rt.check(status, "array_linear_eval")
@@ -1459,6 +1472,8 @@ def array_linear_eval_2d(x, a, b, *, out=None):
     x = rt.array(x, rt.F8, 2, "x")
     rows = x.shape[0]
     cols = x.shape[1]
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     out_ = rt.result(out, (rows, cols), rt.F8, (x,), overlapping=True)
     status = _ZemFunc116(rt.pointer(x), rows, cols, a, b, rt.pointer(out_))
     rt.check(status, "array_linear_eval_2d")
@@ -1597,6 +1612,8 @@ def array_clip(x, upper, lower, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    upper = rt.real(upper, "upper")
+    lower = rt.real(lower, "lower")
     out_ = rt.result(out, (n,), rt.F8, (x,), overlapping=True)
     status = _ZemFunc30(rt.pointer(x), n, upper, lower, rt.pointer(out_))
     rt.check(status, "array_clip")

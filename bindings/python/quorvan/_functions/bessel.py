@@ -1,8 +1,18 @@
-"""Bessel, Airy, Struve and Kelvin functions.
+r"""Bessel, Airy, Struve and Kelvin functions.
 
-Functions of a real argument, returned as the value itself or written to the caller's doubles: there is no
-status. A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN in
-every result. The accuracy, region by region, stands in docs/accuracy.md.
+Solutions of Bessel's, Airy's, Struve's and Kelvin's equations for real arguments: fields in cylinders and
+spheres, modulation, diffraction, the skin effect.
+
+    J, Y    x^2 y" + x y' + (x^2 - v^2) y = 0
+    I, K    x^2 y" + x y' - (x^2 + v^2) y = 0
+    j, y    spherical: sqrt(pi / (2 x)) J(n + 1/2, x),  sqrt(pi / (2 x)) Y(n + 1/2, x)
+    H       x^2 y" + x y' + (x^2 - v^2) y = 4 (x/2)^(v + 1) / (sqrt(pi) Gamma(v + 1/2))
+    Ai, Bi  y" = x y
+    ber(x) + i bei(x) = J(n, x e^(3 pi i / 4)),    ker(x) + i kei(x) = e^(-n pi i / 2) K(n, x e^(pi i / 4))
+
+Values are returned as such or written to the caller's doubles: there is no status. A domain fault gives NaN
+or the infinity that the function's text names; a NaN argument gives NaN in every result. Arguments in
+radians. The accuracy, region by region, stands in docs/accuracy.md.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -62,6 +72,8 @@ def bessel_j(order, x):
     """
     if rt.many(order, x):
         return rt.each(bessel_j, order, x)
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
     return _ZemFunc302(order, x)
 
 
@@ -96,6 +108,8 @@ def bessel_y(order, x):
     """
     if rt.many(order, x):
         return rt.each(bessel_y, order, x)
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
     return _ZemFunc301(order, x)
 
 
@@ -130,6 +144,7 @@ def spherical_bessel_j(n, x):
     if rt.many(n, x):
         return rt.each(spherical_bessel_j, n, x)
     n = rt.u32(n, "n")
+    x = rt.real(x, "x")
     return _ZemFunc303(n, x)
 
 
@@ -164,6 +179,7 @@ def spherical_bessel_y(n, x):
     if rt.many(n, x):
         return rt.each(spherical_bessel_y, n, x)
     n = rt.u32(n, "n")
+    x = rt.real(x, "x")
     return _ZemFunc304(n, x)
 
 
@@ -198,6 +214,8 @@ def bessel_i(order, x):
     """
     if rt.many(order, x):
         return rt.each(bessel_i, order, x)
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
     return _ZemFunc305(order, x)
 
 
@@ -232,6 +250,7 @@ def bessel_k(n, x):
     if rt.many(n, x):
         return rt.each(bessel_k, n, x)
     n = rt.u32(n, "n")
+    x = rt.real(x, "x")
     return _ZemFunc306(n, x)
 
 
@@ -265,6 +284,8 @@ def struve(order, x):
     """
     if rt.many(order, x):
         return rt.each(struve, order, x)
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
     return _ZemFunc328(order, x)
 
 
@@ -303,6 +324,7 @@ def airy(x):
     """
     if rt.many(x):
         return rt.each(airy, x)
+    x = rt.real(x, "x")
     ai_ = ctypes.c_double()
     bi_ = ctypes.c_double()
     _ZemFunc330(x, ctypes.byref(ai_), ctypes.byref(bi_))
@@ -339,6 +361,7 @@ def kelvin_be(x, n):
     """
     if rt.many(x, n):
         return rt.each(kelvin_be, x, n)
+    x = rt.real(x, "x")
     n = rt.u32(n, "n")
     out_ = rt.Complex()
     _ZemFunc333(x, n, ctypes.byref(out_))
@@ -375,6 +398,7 @@ def kelvin_ke(x, n):
     """
     if rt.many(x, n):
         return rt.each(kelvin_ke, x, n)
+    x = rt.real(x, "x")
     n = rt.u32(n, "n")
     out_ = rt.Complex()
     _ZemFunc334(x, n, ctypes.byref(out_))

@@ -1,10 +1,17 @@
-"""Complex arithmetic.
+r"""Complex arithmetic.
 
 Complex numbers as pairs of doubles, real part first: arguments by value, results by address. Complex arrays
-are split: one array of real parts, one of imaginary parts. A scalar function writes both parts of its result,
-or neither on an error. Each operation has its own convention for zero arguments. Squared magnitudes are
-formed as they stand, and overflow to infinity. An output array may be any of the input arrays, also
-crosswise: every element is read whole before it is written.
+are split: one array of real parts, one of imaginary parts.
+
+    (a + bi)(c + di) = (a c - b d) + (b c + a d) i
+    magnitude = sqrt(re^2 + im^2),  phase = atan2(im, re) in radians, in [-pi, pi]
+    sqrt, log and powers are those of the principal branch, cut along the negative real axis
+
+A scalar function writes both parts of its result, or neither on an error. Each operation has its own
+convention for zero arguments. Squared magnitudes are formed as they stand, and overflow to infinity.
+
+An output array may be any of the input arrays, also crosswise: every element is read whole before it is
+written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -69,8 +76,8 @@ def complex_add(x, y):
     """
     if rt.many(x, y):
         return rt.each(complex_add, x, y)
-    x = complex(x)
-    y = complex(y)
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc38(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -105,8 +112,8 @@ def complex_subtract(x, y):
     """
     if rt.many(x, y):
         return rt.each(complex_subtract, x, y)
-    x = complex(x)
-    y = complex(y)
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc51(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -141,8 +148,8 @@ def complex_multiply(x, y):
     """
     if rt.many(x, y):
         return rt.each(complex_multiply, x, y)
-    x = complex(x)
-    y = complex(y)
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc46(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -181,8 +188,8 @@ def complex_divide(x, y):
     """
     if rt.many(x, y):
         return rt.each(complex_divide, x, y)
-    x = complex(x)
-    y = complex(y)
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc40(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -223,7 +230,7 @@ def complex_reciprocal(x):
     """
     if rt.many(x):
         return rt.each(complex_reciprocal, x)
-    x = complex(x)
+    x = rt.complex_number(x, "x")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc49(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -258,7 +265,7 @@ def complex_sqrt(x):
     """
     if rt.many(x):
         return rt.each(complex_sqrt, x)
-    x = complex(x)
+    x = rt.complex_number(x, "x")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc50(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -293,7 +300,7 @@ def complex_exp(x):
     """
     if rt.many(x):
         return rt.each(complex_exp, x)
-    x = complex(x)
+    x = rt.complex_number(x, "x")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc42(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -331,7 +338,7 @@ def complex_log(x):
     """
     if rt.many(x):
         return rt.each(complex_log, x)
-    x = complex(x)
+    x = rt.complex_number(x, "x")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc44(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -369,7 +376,7 @@ def complex_log10(x):
     """
     if rt.many(x):
         return rt.each(complex_log10, x)
-    x = complex(x)
+    x = rt.complex_number(x, "x")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc45(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -411,7 +418,8 @@ def complex_pow(x, p):
     """
     if rt.many(x, p):
         return rt.each(complex_pow, x, p)
-    x = complex(x)
+    x = rt.complex_number(x, "x")
+    p = rt.real(p, "p")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc48(x.real, x.imag, p, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -456,7 +464,7 @@ def complex_to_polar(z):
     """
     if rt.many(z):
         return rt.each(complex_to_polar, z)
-    z = complex(z)
+    z = rt.complex_number(z, "z")
     magnitude_ = ctypes.c_double()
     phase_ = ctypes.c_double()
     status = _ZemFunc172(z.real, z.imag, ctypes.byref(magnitude_), ctypes.byref(phase_))
@@ -492,6 +500,8 @@ def complex_from_polar(magnitude, phase):
     """
     if rt.many(magnitude, phase):
         return rt.each(complex_from_polar, magnitude, phase)
+    magnitude = rt.real(magnitude, "magnitude")
+    phase = rt.real(phase, "phase")
     out_re = ctypes.c_double()
     out_im = ctypes.c_double()
     status = _ZemFunc174(magnitude, phase, ctypes.byref(out_re), ctypes.byref(out_im))
@@ -827,8 +837,8 @@ def complex_array_linear_eval(z, a, b, *, out=None):
     """
     z = rt.array(z, rt.C16, 1, "z")
     n = z.shape[0]
-    a = complex(a)
-    b = complex(b)
+    a = rt.complex_number(a, "a")
+    b = rt.complex_number(b, "b")
     rt.fits(z, (n,), "z")
     z_re, z_im = rt.parts(z)
     out_re = rt.fresh((n,), rt.F8)

@@ -1,10 +1,18 @@
-"""Convolution and correlation.
+r"""Convolution and correlation.
 
-Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is
-the convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
-Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions
-without a method use transforms. Outputs must not overlap inputs. Normalisation of correlations: 0 none, 1
-unbiased (each lag divided by its number of overlapping terms), 2 biased (all divided by the longer length).
+What a linear system does to a signal, how alike two signals are at every shift, and the way back from a
+response to its cause.
+
+    convolution    (x * y)[l] = sum over i of x[i] y[l - i],                       l = 0 to n + m - 2
+    correlation    r[n - 1 + l] = sum over i of conj(x[i]) y[i + l],               l = -(n - 1) to m - 1
+    deconvolution  x * h = y solved for h
+
+The full result has n + m - 1 elements; lag 0 of a correlation stands at index n - 1. A positive lag means
+that y comes later than x. Method 0 adds the products themselves, method 1 works through Fourier transforms of
+a fast length; functions without a method use transforms. Outputs must not overlap inputs.
+
+Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2
+biased (all divided by the longer length).
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,8 +1,18 @@
-"""Matrix decompositions.
+r"""Matrix decompositions.
 
-Singular values, LU, Cholesky, QR in several methods, Hessenberg form and balancing, for real and complex
-matrices. A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied before they are
-worked on: an output may be the input itself. On an error the outputs stay as they are.
+A matrix as a product of simpler ones: for solving, for rank and condition, as the first step towards
+eigenvalues.
+
+    singular values  A = U diag(s) V^H     s descending, at least 0; one vector a column of U and of V
+    LU               P A = L U             L unit lower, U upper triangular, rows exchanged
+    Cholesky         A = R^H R             R upper triangular with a positive diagonal
+    QR               A = Q R, A P = Q R    Q^H Q = 1, R upper triangular, columns exchanged by P
+    Hessenberg       A = Q H Q^H           H zero below its first subdiagonal
+    balancing        B = D^-1 P^-1 A P D   P a permutation, D diagonal with powers of two
+
+Real and complex matrices; ^H is the transpose of real ones, the conjugate transpose of complex ones. V itself
+is returned, not its transpose. A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied
+before they are worked on: an output may be the input itself. On an error the outputs stay as they are.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,9 +1,20 @@
-"""Direct-form and smoothing filters.
+r"""Direct-form and smoothing filters.
 
-Filters that take plain coefficient arrays. The transfer function of the direct form is (b[0] + b[1] z^-1 +
-...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the state: the
-last nb - 1 inputs and the last na - 1 outputs, the oldest first. Zeros start from rest; handing the same
-arrays back continues a stream, and a stream may be cut anywhere.
+Filters that take plain coefficient arrays: difference equations, smoothing by local polynomials, running
+medians.
+
+    a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - a[2] y[t - 2] - ...
+    H(z) = (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...)
+
+Coefficients stand in ascending delay, those of the feedback with the sign of the denominator; a[0] is a true
+divisor and need not be 1. The caller holds the state: the last nb - 1 inputs and the last na - 1 outputs, the
+oldest first. Zeros start from rest; handing the same arrays back continues a stream, and a stream may be cut
+anywhere.
+
+    Savitzky-Golay  y[t] = p(0), p the polynomial of least squares through x[t - side] ... x[t + side]
+    median          y[t] = median of x[t - leftRank] ... x[t + rightRank]
+
+Savitzky-Golay filters and symmetric medians do not delay the signal.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,7 +1,18 @@
-"""Probability distributions.
+r"""Probability distributions.
 
-The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The
-normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions
+Probabilities and critical values of tests: the error function, and the normal, Student's t, chi-square and F
+distributions with their inverses.
+
+    erf(x)        2 / sqrt(pi) integral of exp(-t^2) from 0 to x,     erfc(x) = 1 - erf(x)
+    normal        P(x) = integral of exp(-t^2 / 2) / sqrt(2 pi) from -infinity to x
+    Student's t   1 - I_w(k/2, 1/2) / 2 for t >= 0,                   w = k / (k + t^2)
+    chi-square    P(k/2, x/2), the regularised incomplete gamma function
+    F             I_w(k1/2, k2/2),                                    w = k1 x / (k2 + k1 x)
+
+All are lower tails, the probability of a value at or below the argument; I is the regularised incomplete beta
+function and k counts degrees of freedom. An inverse takes a probability and gives the quantile.
+
+The normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions
 bisect with a fixed tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical
 values, not for digits. After a status the output is as it was, except where NaN is told. A NaN probability
 gives -20053.
@@ -59,6 +70,7 @@ def erf(x):
     """
     if rt.many(x):
         return rt.each(erf, x)
+    x = rt.real(x, "x")
     out_ = ctypes.c_double()
     status = _ZemFunc70(x, ctypes.byref(out_))
     rt.check(status, "erf")
@@ -94,6 +106,7 @@ def erfc(x):
     """
     if rt.many(x):
         return rt.each(erfc, x)
+    x = rt.real(x, "x")
     out_ = ctypes.c_double()
     status = _ZemFunc71(x, ctypes.byref(out_))
     rt.check(status, "erfc")
@@ -129,6 +142,7 @@ def normal_cdf(x):
     """
     if rt.many(x):
         return rt.each(normal_cdf, x)
+    x = rt.real(x, "x")
     out_ = ctypes.c_double()
     status = _ZemFunc134(x, ctypes.byref(out_))
     rt.check(status, "normal_cdf")
@@ -169,6 +183,7 @@ def normal_inverse(p):
     """
     if rt.many(p):
         return rt.each(normal_inverse, p)
+    p = rt.real(p, "p")
     out_ = ctypes.c_double()
     status = _ZemFunc106(p, ctypes.byref(out_))
     rt.check(status, "normal_inverse")
@@ -208,6 +223,7 @@ def t_cdf(t, dof):
     """
     if rt.many(t, dof):
         return rt.each(t_cdf, t, dof)
+    t = rt.real(t, "t")
     dof = rt.i32(dof, "dof")
     out_ = ctypes.c_double()
     status = _ZemFunc181(t, dof, ctypes.byref(out_))
@@ -251,6 +267,7 @@ def t_inverse(p, dof):
     """
     if rt.many(p, dof):
         return rt.each(t_inverse, p, dof)
+    p = rt.real(p, "p")
     dof = rt.i32(dof, "dof")
     out_ = ctypes.c_double()
     status = _ZemFunc107(p, dof, ctypes.byref(out_))
@@ -294,6 +311,7 @@ def chi_square_cdf(x, dof):
     """
     if rt.many(x, dof):
         return rt.each(chi_square_cdf, x, dof)
+    x = rt.real(x, "x")
     dof = rt.i32(dof, "dof")
     out_ = ctypes.c_double()
     status = _ZemFunc190(x, dof, ctypes.byref(out_))
@@ -338,6 +356,7 @@ def chi_square_inverse(p, dof):
     """
     if rt.many(p, dof):
         return rt.each(chi_square_inverse, p, dof)
+    p = rt.real(p, "p")
     dof = rt.i32(dof, "dof")
     out_ = ctypes.c_double()
     status = _ZemFunc108(p, dof, ctypes.byref(out_))
@@ -383,6 +402,7 @@ def f_cdf(x, dof1, dof2):
     """
     if rt.many(x, dof1, dof2):
         return rt.each(f_cdf, x, dof1, dof2)
+    x = rt.real(x, "x")
     dof1 = rt.i32(dof1, "dof1")
     dof2 = rt.i32(dof2, "dof2")
     out_ = ctypes.c_double()
@@ -428,6 +448,7 @@ def f_inverse(p, dof1, dof2):
     """
     if rt.many(p, dof1, dof2):
         return rt.each(f_inverse, p, dof1, dof2)
+    p = rt.real(p, "p")
     dof1 = rt.i32(dof1, "dof1")
     dof2 = rt.i32(dof2, "dof2")
     out_ = ctypes.c_double()

@@ -1,10 +1,19 @@
-"""Eigenproblems.
+r"""Eigenproblems.
 
-Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
-eigenvalues in a chosen order along the diagonal. Matrices are row-major without gaps; eigenvectors stand one
-a column, normalised as LAPACK does it. Inputs are copied before they are worked on. On an error the outputs
-stay as they are. Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending
-modulus. Equal ones keep their places.
+Modes, stability and resonances: eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the
+Schur forms behind them with the eigenvalues in a chosen order along the diagonal.
+
+    eigenvalues              A v = lambda v
+    generalised              A v = lambda B v,     lambda = alpha / beta
+    Schur form               A = Q T Q^H,          T upper triangular; real: with 2 x 2 blocks for conjugate pairs
+    generalised Schur form   A = Q S Z^H,  B = Q T Z^H
+
+Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it: to a
+Euclidean length of 1, those of a pair of matrices to a largest |re| + |im| of 1. Inputs are copied before
+they are worked on. On an error the outputs stay as they are.
+
+Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal
+ones keep their places.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

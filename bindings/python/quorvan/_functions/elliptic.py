@@ -1,10 +1,20 @@
-"""Elliptic, hypergeometric and integral functions.
+r"""Elliptic, hypergeometric and integral functions.
 
-Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is
-no status. A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN,
-in every output. The elliptic functions take the parameter m = k^2, not the modulus k. The hypergeometric
-functions take x before the parameters. Where an argument goes by address, a null pointer selects the complete
-integral; the address of 0.0 does not.
+Arc lengths, pendulums and filter theory (elliptic), asymptotic and special solutions (hypergeometric),
+diffraction, transients and antennas (integrals), of real arguments.
+
+    F(phi, m) = integral of dt / sqrt(1 - m sin^2 t) from 0 to phi,      K(m) = F(pi/2, m)
+    E(phi, m) = integral of sqrt(1 - m sin^2 t) dt from 0 to phi,        E(m) = E(pi/2, m)
+    sn u = sin phi, cn u = cos phi, dn u = sqrt(1 - m sin^2 phi),        where F(phi, m) = u
+    C(x) = integral of cos(pi t^2 / 2) from 0 to x,   S(x) = integral of sin(pi t^2 / 2)
+    1F1(a; b; x) = sum of (a)_k / (b)_k x^k / k!,     2F1(a, b; c; x) = sum of (a)_k (b)_k / (c)_k x^k / k!
+
+The elliptic functions take the parameter m = k^2, not the modulus k; angles in radians. The hypergeometric
+functions take x before the parameters; (a)_k = a (a + 1) ... (a + k - 1). Where an argument goes by address,
+a null pointer selects the complete integral; the address of 0.0 does not.
+
+Values are returned as such or written to the caller's doubles: there is no status. A domain fault gives NaN
+or the infinity that the function's text names; a NaN argument gives NaN, in every output.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -70,7 +80,8 @@ def elliptic_k(m, phi=None):
     """
     if rt.many(m, phi):
         return rt.each(elliptic_k, m, phi)
-    return _ZemFunc318(m, rt.optional(phi))
+    m = rt.real(m, "m")
+    return _ZemFunc318(m, rt.optional(phi, "phi"))
 
 
 _ZemFunc319 = rt.bind("ZemFunc319", "double", "dp")
@@ -104,7 +115,8 @@ def elliptic_e(m, phi=None):
     """
     if rt.many(m, phi):
         return rt.each(elliptic_e, m, phi)
-    return _ZemFunc319(m, rt.optional(phi))
+    m = rt.real(m, "m")
+    return _ZemFunc319(m, rt.optional(phi, "phi"))
 
 
 _ZemFunc332 = rt.bind("ZemFunc332", "none", "ddpppp")
@@ -150,6 +162,8 @@ def jacobi_elliptic(u, m):
     """
     if rt.many(u, m):
         return rt.each(jacobi_elliptic, u, m)
+    u = rt.real(u, "u")
+    m = rt.real(m, "m")
     sn_ = ctypes.c_double()
     cn_ = ctypes.c_double()
     dn_ = ctypes.c_double()
@@ -186,6 +200,7 @@ def dawson(x):
     """
     if rt.many(x):
         return rt.each(dawson, x)
+    x = rt.real(x, "x")
     return _ZemFunc320(x)
 
 
@@ -226,6 +241,7 @@ def fresnel(x):
     """
     if rt.many(x):
         return rt.each(fresnel, x)
+    x = rt.real(x, "x")
     s_ = ctypes.c_double()
     c_ = ctypes.c_double()
     _ZemFunc331(x, ctypes.byref(s_), ctypes.byref(c_))
@@ -263,6 +279,7 @@ def exp_integral_n(x, n):
     """
     if rt.many(x, n):
         return rt.each(exp_integral_n, x, n)
+    x = rt.real(x, "x")
     n = rt.i32(n, "n")
     return _ZemFunc321(x, n)
 
@@ -295,6 +312,7 @@ def sine_integral(x):
     """
     if rt.many(x):
         return rt.each(sine_integral, x)
+    x = rt.real(x, "x")
     return _ZemFunc322(x)
 
 
@@ -327,6 +345,7 @@ def cosine_integral(x):
     """
     if rt.many(x):
         return rt.each(cosine_integral, x)
+    x = rt.real(x, "x")
     return _ZemFunc323(x)
 
 
@@ -359,6 +378,7 @@ def hyperbolic_sine_integral(x):
     """
     if rt.many(x):
         return rt.each(hyperbolic_sine_integral, x)
+    x = rt.real(x, "x")
     return _ZemFunc325(x)
 
 
@@ -391,6 +411,7 @@ def hyperbolic_cosine_integral(x):
     """
     if rt.many(x):
         return rt.each(hyperbolic_cosine_integral, x)
+    x = rt.real(x, "x")
     return _ZemFunc324(x)
 
 
@@ -428,6 +449,9 @@ def hyperg_1f1(x, a, b):
     """
     if rt.many(x, a, b):
         return rt.each(hyperg_1f1, x, a, b)
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     return _ZemFunc316(x, a, b)
 
 
@@ -465,6 +489,9 @@ def hyperg_u(x, a, b):
     """
     if rt.many(x, a, b):
         return rt.each(hyperg_u, x, a, b)
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     return _ZemFunc317(x, a, b)
 
 
@@ -505,6 +532,10 @@ def hyperg_2f1(x, a, b, c):
     """
     if rt.many(x, a, b, c):
         return rt.each(hyperg_2f1, x, a, b, c)
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    c = rt.real(c, "c")
     return _ZemFunc386(x, a, b, c)
 
 
@@ -540,6 +571,10 @@ def hyperg_2f1_transformed(x, a, b, c):
     """
     if rt.many(x, a, b, c):
         return rt.each(hyperg_2f1_transformed, x, a, b, c)
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    c = rt.real(c, "c")
     return _ZemFunc315(x, a, b, c)
 
 
@@ -575,4 +610,6 @@ def parabolic_cylinder(x, v):
     """
     if rt.many(x, v):
         return rt.each(parabolic_cylinder, x, v)
+    x = rt.real(x, "x")
+    v = rt.real(v, "v")
     return _ZemFunc327(x, v)

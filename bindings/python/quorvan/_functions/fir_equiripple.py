@@ -1,12 +1,19 @@
-"""Equiripple FIR design.
+r"""Equiripple FIR design.
 
 Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the
 Remez exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner,
-IEEE Trans. Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs. Multiband
-filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error reaches
-plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written. A design
-has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
-Statuses are tested in the order in which they are listed.
+IEEE Trans. Audio Electroacoust. 21, 1973).
+
+    H(f) = sum over i of h[i] exp(-2 pi i f i / fs)
+    multiband                    h[i] =  h[taps - 1 - i],   minimises max W(f) | |H(f)| - D(f) |
+    differentiator, Hilbert      h[i] = -h[taps - 1 - i]
+
+Frequencies are in the unit of the sampling rate fs; D and W are the desired value and the weight of each
+band. The delay is (taps - 1)/2 samples. The weighted error reaches plus and minus delta in turn; in a band
+its size is delta / weight, a ripple of 20 lg(1 + delta / weight) dB. After an error h is not written.
+
+A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99
+passes. Statuses are tested in the order in which they are listed.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -116,6 +123,7 @@ def fir_remez_design(desired, weights, fs, edges, taps, kind=RemezKind.MULTIBAND
     weights = rt.array(weights, rt.F8, 1, "weights")
     edges = rt.array(edges, rt.F8, 1, "edges")
     bands = desired.shape[0]
+    fs = rt.real(fs, "fs")
     kind = rt.choice(kind, RemezKind, "kind")
     taps = rt.i32(taps, "taps")
     rt.fits(weights, (bands,), "weights")
@@ -182,6 +190,7 @@ def fir_remez_bands(taps, fs, bands, kind=RemezBandsKind.MULTIBAND, *, out=None)
     bands = rt.array(bands, rt.F8, 2, "bands")
     count = bands.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
     kind = rt.choice(kind, RemezBandsKind, "kind")
     rt.fits(bands, (count, 4), "bands")
     delta_ = ctypes.c_double()
@@ -244,6 +253,9 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_lowpass(fs, fpass, fstop, taps)
     """
+    fs = rt.real(fs, "fs")
+    fpass = rt.real(fpass, "fpass")
+    fstop = rt.real(fstop, "fstop")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -306,6 +318,9 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_highpass(fs, fstop, fpass, taps)
     """
+    fs = rt.real(fs, "fs")
+    fstop = rt.real(fstop, "fstop")
+    fpass = rt.real(fpass, "fpass")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -371,6 +386,11 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_bandpass(fs, f1, f2, f3, f4, taps)
     """
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -437,6 +457,11 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_bandstop(fs, f1, f2, f3, f4, taps)
     """
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -499,6 +524,9 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fpass = rt.real(fpass, "fpass")
+    fstop = rt.real(fstop, "fstop")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc472(rt.pointer(x), n, taps, fs, fpass, fstop, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_lowpass")
@@ -561,6 +589,9 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fstop = rt.real(fstop, "fstop")
+    fpass = rt.real(fpass, "fpass")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.F8, (x,))
     status = _ZemFunc473(rt.pointer(x), n, taps, fs, fstop, fpass, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_highpass")
@@ -625,6 +656,11 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc474(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_bandpass")
@@ -691,6 +727,11 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.F8, (x,))
     status = _ZemFunc475(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_bandstop")
@@ -748,6 +789,9 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fpass = rt.real(fpass, "fpass")
+    fstop = rt.real(fstop, "fstop")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc476(rt.pointer(x), n, taps, fs, fpass, fstop, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_lowpass")
@@ -807,6 +851,9 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fstop = rt.real(fstop, "fstop")
+    fpass = rt.real(fpass, "fpass")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.C16, (x,))
     status = _ZemFunc477(rt.pointer(x), n, taps, fs, fstop, fpass, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_highpass")
@@ -868,6 +915,11 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc478(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_bandpass")
@@ -931,6 +983,11 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.C16, (x,))
     status = _ZemFunc479(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_bandstop")

@@ -1,4 +1,14 @@
-"""Gamma, beta and related functions.
+r"""Gamma, beta and related functions.
+
+Factorials and their continuations, the incomplete functions behind the distributions, and two sums of number
+theory.
+
+    Gamma(x) = integral of t^(x - 1) e^-t from 0 to infinity,     n! = Gamma(n + 1)
+    P(a, x) = integral of t^(a - 1) e^-t from 0 to x / Gamma(a),  Q = 1 - P
+    B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b)
+    I_x(a, b) = integral of t^(a - 1) (1 - t)^(b - 1) from 0 to x / B(a, b)
+    psi(x) = Gamma'(x) / Gamma(x),   zeta(x) - 1 = sum of k^-x from k = 2 on
+    dilogarithm = integral of -ln t / (t - 1) from 1 to x = Li2(1 - x)
 
 Scalar functions of real arguments, returned as the value itself: there is no status. A domain fault gives NaN
 or the infinity that the function's text names; a NaN argument gives NaN. Where an argument goes by address, a
@@ -62,7 +72,9 @@ def beta(a, b, x=None):
     """
     if rt.many(a, b, x):
         return rt.each(beta, a, b, x)
-    return _ZemFunc307(a, b, rt.optional(x))
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc307(a, b, rt.optional(x, "x"))
 
 
 _ZemFunc308 = rt.bind("ZemFunc308", "double", "l")
@@ -126,7 +138,8 @@ def gamma(a, x=None):
     """
     if rt.many(a, x):
         return rt.each(gamma, a, x)
-    return _ZemFunc309(a, rt.optional(x))
+    a = rt.real(a, "a")
+    return _ZemFunc309(a, rt.optional(x, "x"))
 
 
 _ZemFunc310 = rt.bind("ZemFunc310", "double", "dd")
@@ -159,6 +172,8 @@ def incomplete_gamma_complement(a, x):
     """
     if rt.many(a, x):
         return rt.each(incomplete_gamma_complement, a, x)
+    a = rt.real(a, "a")
+    x = rt.real(x, "x")
     return _ZemFunc310(a, x)
 
 
@@ -218,6 +233,7 @@ def ln_gamma(x):
     """
     if rt.many(x):
         return rt.each(ln_gamma, x)
+    x = rt.real(x, "x")
     return _ZemFunc312(x)
 
 
@@ -247,6 +263,7 @@ def digamma(x):
     """
     if rt.many(x):
         return rt.each(digamma, x)
+    x = rt.real(x, "x")
     return _ZemFunc313(x)
 
 
@@ -279,6 +296,7 @@ def gamma_stirling(x):
     """
     if rt.many(x):
         return rt.each(gamma_stirling, x)
+    x = rt.real(x, "x")
     return _ZemFunc314(x)
 
 
@@ -310,6 +328,7 @@ def dilogarithm(x):
     """
     if rt.many(x):
         return rt.each(dilogarithm, x)
+    x = rt.real(x, "x")
     return _ZemFunc326(x)
 
 
@@ -339,4 +358,5 @@ def zeta(x):
     """
     if rt.many(x):
         return rt.each(zeta, x)
+    x = rt.real(x, "x")
     return _ZemFunc329(x)

@@ -1,9 +1,17 @@
-"""Linear and polynomial fits.
+r"""Linear and polynomial fits.
 
 Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which
-some coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions
-at observation i. Weights count by magnitude. The fitted curve and the error are produced together: of the
-general fit and of the polynomials without fixed coefficients one alone is not written.
+some coefficients may be fixed.
+
+    f[i] = sum over j of X[i, j] c[j],        minimises sum of ((y[i] - f[i]) / deviation[i])^2
+    polynomial: f[i] = c[0] + c[1] x[i] + ... + c[order] x[i]^order,    minimises sum of |w[i]| (y[i] - f[i])^2
+    error = sum of weight (y - f)^2 / n,      covariance = (X' W X)^-1
+
+A design has m rows and n columns, row-major; row i holds the basis functions at observation i. Coefficients
+of polynomials stand in ascending power. Weights count by magnitude, a deviation of 0 as a weight of 1.
+
+The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
+coefficients one alone is not written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -328,6 +336,7 @@ def fit_polynomial_constrained(x, y, order, fixed_orders=None, fixed_values=None
     algorithm = rt.choice(algorithm, PolynomialAlgorithm, "algorithm")
     rt.fits(y, (n,), "y")
     rt.fits(fixed_values, (fixed_count,), "fixed_values")
+    rt.together(fixed_orders=fixed_orders, fixed_values=fixed_values)
     mean_squared_error_ = ctypes.c_double()
     fitted_ = rt.result(_out[0], (n,), rt.F8, (x, y, fixed_orders, fixed_values))
     coefficients_ = rt.result(_out[1], (order + 1,), rt.F8, (x, y, fixed_orders, fixed_values))
@@ -421,6 +430,7 @@ def fit_polynomial_weighted(x, y, order, weights=None, fixed_orders=None, fixed_
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     rt.fits(fixed_values, (fixed_count,), "fixed_values")
+    rt.together(fixed_orders=fixed_orders, fixed_values=fixed_values)
     mean_squared_error_ = ctypes.c_double()
     fitted_ = rt.result(_out[0], (n,), rt.F8, (x, y, weights, fixed_orders, fixed_values))
     coefficients_ = rt.result(_out[1], (order + 1,), rt.F8, (x, y, weights, fixed_orders, fixed_values))

@@ -1,10 +1,18 @@
-"""Solving, inversion and matrix operations.
+r"""Solving, inversion and matrix operations.
+
+Linear systems, inverses, determinants, norms and products of dense matrices.
+
+    A x = b,   A X = B;   a matrix that is not square: |A x - b| is least, and of those x the shortest
+    norms       two: s(0),  one: largest column sum,  Frobenius: sqrt(sum |a|^2),  infinity: largest row sum
+    condition   s(0) / s(last), or |A| |A^-1| in the other norms
+    pseudo-inverse A^+ = V diag(1 / s) U^H over the singular values s above the tolerance
 
 Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
-at the same places. The work is done by LAPACK and BLAS, with 32-bit integers. The kind of a matrix is 0
-general, 1 symmetric (Hermitian) positive definite, 2 lower triangular, 3 upper triangular; of kinds 1 to 3
-one triangle is read. Where a matrix is screened, an element that is NaN, infinite, the largest double, or
--1.7976931348623e308 or below gives -20068.
+at the same places. The work is done by LAPACK and BLAS, with 32-bit integers.
+
+The kind of a matrix is 0 general, 1 symmetric (Hermitian) positive definite, 2 lower triangular, 3 upper
+triangular; of kinds 1 to 3 one triangle is read. Where a matrix is screened, an element that is NaN,
+infinite, the largest double, or -1.7976931348623e308 or below gives -20068.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -243,12 +251,15 @@ def solve_kind(a, b, kind=MatrixKind.GENERAL, *, out=None):
 
     Notes
     -----
-    Complex arrays go to `solve_kind_complex`. The function ZemFunc197 (MatSolveKind) of the C library.
+    Complex arrays go to `solve_kind_complex`. A `b` of two dimensions goes to `solve_many`. The function
+    ZemFunc197 (MatSolveKind) of the C library.
 
     Example
     -------
     >>> x = qv.solve_kind(a, b)
     """
+    if rt.dimensions(b) == 2:
+        return solve_many(a=a, b=b, kind=kind, out=out)
     if rt.is_complex(a, b):
         return solve_kind_complex(a=a, b=b, kind=kind, out=out)
     a = rt.array(a, rt.F8, 2, "a")
@@ -310,12 +321,15 @@ def solve_kind_complex(a, b, kind=MatrixKind.GENERAL, *, out=None):
 
     Notes
     -----
-    The function ZemFunc218 (MatSolveKindComplex) of the C library.
+    A `b` of two dimensions goes to `solve_many_complex`. The function ZemFunc218 (MatSolveKindComplex) of the C
+    library.
 
     Example
     -------
     >>> x = qv.solve_kind_complex(a, b)
     """
+    if rt.dimensions(b) == 2:
+        return solve_many_complex(a=a, b=b, kind=kind, out=out)
     a = rt.array(a, rt.C16, 2, "a")
     b = rt.array(b, rt.C16, 1, "b")
     m = a.shape[0]
@@ -360,12 +374,15 @@ def solve(a, b, *, out=None):
 
     Notes
     -----
-    Complex arrays go to `solve_kind_complex`. The function ZemFunc114 (MatSolve) of the C library.
+    Complex arrays go to `solve_kind_complex`. A `b` of two dimensions goes to `solve_many`. The function
+    ZemFunc114 (MatSolve) of the C library.
 
     Example
     -------
     >>> x = qv.solve(a, b)
     """
+    if rt.dimensions(b) == 2:
+        return solve_many(a=a, b=b, out=out)
     if rt.is_complex(a, b):
         return solve_kind_complex(a=a, b=b, out=out)
     a = rt.array(a, rt.F8, 2, "a")
@@ -1096,6 +1113,7 @@ def matrix_rank(a, tolerance=-1.0):
     a = rt.array(a, rt.F8, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     rank_ = ctypes.c_int64()
     status = _ZemFunc207(rt.pointer(a), m, n, tolerance, ctypes.byref(rank_))
     rt.check(status, "matrix_rank")
@@ -1140,6 +1158,7 @@ def matrix_rank_complex(a, tolerance=-1.0):
     a = rt.array(a, rt.C16, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     rank_ = ctypes.c_int64()
     status = _ZemFunc215(rt.pointer(a), m, n, tolerance, ctypes.byref(rank_))
     rt.check(status, "matrix_rank_complex")
@@ -1190,6 +1209,7 @@ def pseudo_inverse(a, tolerance=-1.0, *, out=None):
     a = rt.array(a, rt.F8, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     out_ = rt.result(out, (n, m), rt.F8, (a,))
     status = _ZemFunc200(rt.pointer(a), m, n, tolerance, rt.pointer(out_))
     rt.check(status, "pseudo_inverse")
@@ -1238,6 +1258,7 @@ def pseudo_inverse_complex(a, tolerance=-1.0, *, out=None):
     a = rt.array(a, rt.C16, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     out_ = rt.result(out, (n, m), rt.C16, (a,))
     status = _ZemFunc229(rt.pointer(a), m, n, tolerance, rt.pointer(out_))
     rt.check(status, "pseudo_inverse_complex")
@@ -2055,6 +2076,7 @@ def vector_norm(x, selector=VectorNorm.TWO, p=2.0):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     selector = rt.choice(selector, VectorNorm, "selector")
+    p = rt.real(p, "p")
     out_ = ctypes.c_double()
     status = _ZemFunc394(rt.pointer(x), n, selector, p, ctypes.byref(out_))
     rt.check(status, "vector_norm")
@@ -2101,6 +2123,7 @@ def vector_norm_complex(x, selector=VectorNorm.TWO, p=2.0):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     selector = rt.choice(selector, VectorNorm, "selector")
+    p = rt.real(p, "p")
     out_ = ctypes.c_double()
     status = _ZemFunc395(rt.pointer(x), n, selector, p, ctypes.byref(out_))
     rt.check(status, "vector_norm_complex")

@@ -1,11 +1,22 @@
-"""Line, exponential, power, logarithm and Gaussian fits.
+r"""Line, exponential, power, logarithm and Gaussian fits.
 
-Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient.
-Least absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the
-one before and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations
-lose their weight; it ends when one of the coefficients changes by no more than the tolerance, relatively, and
-after 50 refits. On an error nothing is written. The fits are not made for NaN in x or y, which shows in the
-results.
+Five fixed models, each by three methods: for samples with ordinary noise, and for samples with outliers.
+
+    line         f = a x + b
+    exponential  f = a exp(b x)
+    power        f = a x^b
+    logarithm    f = a log(b x)
+    Gaussian     f = a exp(-((x - m) / s)^2 / 2)
+    0 least squares             sum of |w| (y - f)^2
+    1 least absolute residuals  sum of |w| |y - f|
+    2 bisquare                  least squares with the weights |w| max(1 - u^2, 0)^2,  u = r / (4.685 deviation)
+
+Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least absolute residuals:
+reweighted least squares, for a line weighted medians; the best of the last fit, the one before and the first
+is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it ends
+when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+
+On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -171,6 +182,7 @@ def fit_line_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toler
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     slope_ = ctypes.c_double()
@@ -321,6 +333,7 @@ def fit_exponential_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_ = ctypes.c_double()
@@ -404,6 +417,7 @@ def fit_power(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, tolerance=0
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_ = ctypes.c_double()
@@ -486,7 +500,9 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
     y = rt.array(y, rt.F8, 1, "y")
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
+    base = rt.real(base, "base")
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_ = ctypes.c_double()
@@ -576,6 +592,7 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     guess = None if guess is None else rt.array(guess, rt.F8, 1, "guess")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     rt.fits(guess, (3,), "guess")

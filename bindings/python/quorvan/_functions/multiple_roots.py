@@ -1,5 +1,12 @@
-"""Multiple polynomial roots and lag products.
+r"""Multiple polynomial roots and lag products.
 
+The roots of complex polynomials whose multiple roots are to come back as such, and the normal matrices of
+linear prediction.
+
+    c[0] + c[1] z + ... + c[n - 1] z^(n - 1) = c[n - 1] product over the distinct roots of (z - z[k])^m[k]
+    R = X^H X,   row t of X: x[t], x[t - 1], ..., x[t - p]
+
+Coefficients stand in ascending power. A root of multiplicity m is listed m times.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,9 +1,15 @@
-"""Peak and level detection.
+r"""Peak and level detection.
 
 Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas
-fitted to a sliding window. Both also take a signal in consecutive blocks: each thread has one stream of
-either, which needs no handle. Positions count from the start of the stream. Statuses are tested in the order
-in which they are listed.
+fitted to a sliding window.
+
+    window of width samples:  p(t) = c0 + c1 t + c2 t^2,  least squares
+    peak: slope c1 changes from + to -;  location t = -c1 / (2 c2),  amplitude p(t),  second derivative 2 c2
+
+Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no handle.
+Positions are in samples and count from the start of the stream; those of peaks lie between samples.
+
+Statuses are tested in the order in which they are listed.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -67,6 +73,7 @@ def peak_threshold_runs(x, threshold, width, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    threshold = rt.real(threshold, "threshold")
     width = rt.i64(width, "width")
     count_ = ctypes.c_int64()
     indices_ = rt.result(out, (rt.quotient(n, width) + 1,), rt.I8, (x,))
@@ -123,6 +130,7 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    threshold = rt.real(threshold, "threshold")
     width = rt.i64(width, "width")
     reset = int(bool(reset))
     last = int(bool(last))
@@ -197,6 +205,7 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    threshold = rt.real(threshold, "threshold")
     width = rt.i64(width, "width")
     polarity = rt.choice(polarity, PeakPolarity, "polarity")
     first = int(bool(first))

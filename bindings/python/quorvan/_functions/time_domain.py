@@ -1,8 +1,17 @@
-"""Time-domain operations.
+r"""Time-domain operations.
 
-Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal
-block by block; where the blocks are cut makes no difference. They keep their state for each thread and
-operation, so that a thread runs one stream an operation; a first call on a thread starts as a reset does.
+Integration, differentiation, decimation and level crossings of sampled signals.
+
+    integral     out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6
+    derivative   out[i] = (x[i + 1] - x[i - 1]) / (2 dt)
+    decimation   out[i] = x[i factor],  or the mean of x[i factor] ... x[(i + 1) factor - 1]
+    crossing     rising: armed below level - |hysteresis|, found at or above level
+
+dt is the time between samples; the samples in front of the first and behind the last are arguments.
+
+The continuous forms take an endless signal block by block; where the blocks are cut makes no difference. They
+keep their state for each thread and operation, so that a thread runs one stream an operation; a first call on
+a thread starts as a reset does.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -70,6 +79,9 @@ def integrate_simpson(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
+    initial = rt.real(initial, "initial")
+    final = rt.real(final, "final")
     out_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc95(rt.pointer(x), n, dt, initial, final, rt.pointer(out_))
     rt.check(status, "integrate_simpson")
@@ -116,6 +128,9 @@ def differentiate(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
+    initial = rt.real(initial, "initial")
+    final = rt.real(final, "final")
     out_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc56(rt.pointer(x), n, dt, initial, final, rt.pointer(out_))
     rt.check(status, "differentiate")
@@ -173,6 +188,7 @@ def differentiate_method(x, initial, final, dt=1.0, method=Difference.CENTRAL2, 
     n = x.shape[0]
     n_initial = initial.shape[0]
     n_final = final.shape[0]
+    dt = rt.real(dt, "dt")
     method = rt.choice(method, Difference, "method")
     out_ = rt.result(out, (n,), rt.F8, (x, initial, final))
     status = _ZemFunc367(rt.pointer(x), n, dt, rt.pointer(initial), n_initial, rt.pointer(final), n_final, method,
@@ -445,6 +461,8 @@ def detect_level_crossing(x, level, hysteresis=0.0, slope=EdgePolarity.RISING, r
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    level = rt.real(level, "level")
+    hysteresis = rt.real(hysteresis, "hysteresis")
     slope = rt.choice(slope, EdgePolarity, "slope")
     reset = int(bool(reset))
     index_ = ctypes.c_int64()

@@ -1,9 +1,20 @@
-"""Transforms.
+r"""Transforms.
 
 Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
-Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N. In shifted order of N
-bins X[0] stands at index N / 2 (integer division), X[k] at N / 2 + k, X[-k] at N / 2 - k; of an even N, index
-0 holds X[N / 2]. Outputs must not overlap inputs, except where a function says so.
+
+    Fourier    X[k] = sum over j of x[j] exp(-2 pi i j k / N)
+    x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
+    cosine     X[k] = c(k) sqrt(2/N) sum over j of x[j] cos(pi k (2j + 1) / (2N)),    c(0) = 1 / sqrt(2), else 1
+    sine       X[k - 1] = sum over j of x[j] sin(pi k (j + 1) / (N + 1)),  k = 1 to N,    inverse with 2 / (N + 1)
+    Hartley    X[k] = sum over j of x[j] (cos + sin)(2 pi j k / N),   inverse with 1/N
+    Hilbert    positive frequencies times -i, negative times i: cos becomes sin
+    chirp-Z    X[k] = sum over j of x[j] a^-j w^(j k)
+
+Forward Fourier transforms are unscaled; inverses carry 1/N. The frequency of bin k is k / (N dt), above N / 2
+read as (k - N) / (N dt). In shifted order of N bins X[0] stands at index N / 2 (integer division), X[k] at N
+/ 2 + k, X[-k] at N / 2 - k; of an even N, index 0 holds X[N / 2]. 2-D arrays are row-major.
+
+Outputs must not overlap inputs, except where a function says so.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -1045,7 +1056,8 @@ def chirp_z_real(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     method = rt.choice(method, Method, "method")
     m = rt.i64(m, "m")
     out_ = rt.result(out, (m if m > 0 else n,), rt.C16, (x,))
-    status = _ZemFunc341(rt.pointer(x), n, rt.complex_value(a), rt.complex_value(w), method, m, rt.pointer(out_))
+    status = _ZemFunc341(rt.pointer(x), n, rt.complex_value(a, "a"), rt.complex_value(w, "w"), method, m,
+            rt.pointer(out_))
     rt.check(status, "chirp_z_real")
     return rt.deliver(out_, out)
 
@@ -1102,7 +1114,8 @@ def chirp_z_complex(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     method = rt.choice(method, Method, "method")
     m = rt.i64(m, "m")
     out_ = rt.result(out, (m if m > 0 else n,), rt.C16, (x,))
-    status = _ZemFunc342(rt.pointer(x), n, rt.complex_value(a), rt.complex_value(w), method, m, rt.pointer(out_))
+    status = _ZemFunc342(rt.pointer(x), n, rt.complex_value(a, "a"), rt.complex_value(w, "w"), method, m,
+            rt.pointer(out_))
     rt.check(status, "chirp_z_complex")
     return rt.deliver(out_, out)
 
@@ -1156,7 +1169,7 @@ def inverse_chirp_z(x, a, w, m=0, *, out=None):
     n = x.shape[0]
     m = rt.i64(m, "m")
     out_ = rt.result(out, (m if m > 0 else n,), rt.C16, (x,))
-    status = _ZemFunc351(rt.pointer(x), n, rt.complex_value(a), rt.complex_value(w), rt.pointer(out_), m)
+    status = _ZemFunc351(rt.pointer(x), n, rt.complex_value(a, "a"), rt.complex_value(w, "w"), rt.pointer(out_), m)
     rt.check(status, "inverse_chirp_z")
     return rt.deliver(out_, out)
 

@@ -1,9 +1,22 @@
-"""Window functions.
+r"""Window functions.
 
-Windows multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+Windows taper a record towards its ends, so that tones between the bins of its spectrum leak less. They
+multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+
+    cosine sums     w[i] = sum over k of (-1)^k a[k] cos(2 pi k i / n)
+    Hanning         0.5, 0.5                     Blackman-Harris, 3 terms   0.42323, 0.49755, 0.07922
+    Hamming         0.54, 0.46                   Blackman-Harris, 4 terms   0.35875, 0.48829, 0.14128, 0.01168
+    Blackman        0.42, 0.5, 0.08              Blackman-Nuttall  0.3635819, 0.4891775, 0.1365995, 0.0106411
+    exact Blackman  7938, 9240, 1430 / 18608
+    flat top        0.215578948, 0.41663158, 0.277263158, 0.083578947, 0.006947368
+    coherent gain = sum w / n,       equivalent noise bandwidth = n sum w^2 / (sum w)^2  in bins
+
 Most are periodic: w[k] = w[n - k], and w[0] would be the first sample of the next period. The symmetric form,
-for filter design, is `window_apply_symmetric`. Codes are those of `Window`. The cosine sums take one sine for
-each coefficient and a rotation for each pair of samples. After an error the data are unchanged.
+for filter design, is `window_apply_symmetric`. Codes are those of `Window`. The coherent gain is what a
+window makes of the amplitude of a tone on a bin; the scaled forms divide by it.
+
+The cosine sums take one sine for each coefficient and a rotation for each pair of samples. After an error the
+data are unchanged.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -784,6 +797,7 @@ def window_cosine_taper(x, ratio, *, out=None):
         return window_cosine_taper_complex(x=x, ratio=ratio, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    ratio = rt.real(ratio, "ratio")
     x_ = rt.worked(x, out)
     status = _ZemFunc278(rt.pointer(x_), n, ratio)
     rt.check(status, "window_cosine_taper")
@@ -826,6 +840,7 @@ def window_cosine_taper_complex(x, ratio, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    ratio = rt.real(ratio, "ratio")
     x_ = rt.worked(x, out)
     status = _ZemFunc438(rt.pointer(x_), n, ratio)
     rt.check(status, "window_cosine_taper_complex")
@@ -1323,6 +1338,7 @@ def window_kaiser(x, beta, *, out=None):
         return window_kaiser_complex(x=x, beta=beta, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    beta = rt.real(beta, "beta")
     x_ = rt.worked(x, out)
     status = _ZemFunc113(rt.pointer(x_), n, beta)
     rt.check(status, "window_kaiser")
@@ -1364,6 +1380,7 @@ def window_kaiser_complex(x, beta, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    beta = rt.real(beta, "beta")
     x_ = rt.worked(x, out)
     status = _ZemFunc440(rt.pointer(x_), n, beta)
     rt.check(status, "window_kaiser_complex")
@@ -1408,6 +1425,7 @@ def window_gaussian(x, sigma, *, out=None):
         return window_gaussian_complex(x=x, sigma=sigma, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    sigma = rt.real(sigma, "sigma")
     x_ = rt.worked(x, out)
     status = _ZemFunc280(rt.pointer(x_), n, sigma)
     rt.check(status, "window_gaussian")
@@ -1449,6 +1467,7 @@ def window_gaussian_complex(x, sigma, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    sigma = rt.real(sigma, "sigma")
     x_ = rt.worked(x, out)
     status = _ZemFunc441(rt.pointer(x_), n, sigma)
     rt.check(status, "window_gaussian_complex")
@@ -1496,6 +1515,7 @@ def window_chebyshev(x, attenuation, *, out=None):
         return window_chebyshev_complex(x=x, attenuation=attenuation, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    attenuation = rt.real(attenuation, "attenuation")
     x_ = rt.worked(x, out)
     status = _ZemFunc279(rt.pointer(x_), n, attenuation)
     rt.check(status, "window_chebyshev")
@@ -1539,6 +1559,7 @@ def window_chebyshev_complex(x, attenuation, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    attenuation = rt.real(attenuation, "attenuation")
     x_ = rt.worked(x, out)
     status = _ZemFunc442(rt.pointer(x_), n, attenuation)
     rt.check(status, "window_chebyshev_complex")
@@ -1583,6 +1604,7 @@ def window_exponential(x, final, *, out=None):
         return window_exponential_complex(x=x, final=final, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    final = rt.real(final, "final")
     x_ = rt.worked(x, out)
     status = _ZemFunc74(rt.pointer(x_), n, final)
     rt.check(status, "window_exponential")
@@ -1625,6 +1647,7 @@ def window_exponential_complex(x, final, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    final = rt.real(final, "final")
     x_ = rt.worked(x, out)
     status = _ZemFunc444(rt.pointer(x_), n, final)
     rt.check(status, "window_exponential_complex")
@@ -1668,6 +1691,7 @@ def window_force(x, duty, *, out=None):
         return window_force_complex(x=x, duty=duty, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    duty = rt.real(duty, "duty")
     x_ = rt.worked(x, out)
     status = _ZemFunc81(rt.pointer(x_), n, duty)
     rt.check(status, "window_force")
@@ -1709,6 +1733,7 @@ def window_force_complex(x, duty, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    duty = rt.real(duty, "duty")
     x_ = rt.worked(x, out)
     status = _ZemFunc443(rt.pointer(x_), n, duty)
     rt.check(status, "window_force_complex")
@@ -1761,6 +1786,7 @@ def window_apply_symmetric(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     status = _ZemFunc281(rt.pointer(x_), n, window, parameter)
     rt.check(status, "window_apply_symmetric")
@@ -1807,6 +1833,7 @@ def window_apply_symmetric_complex(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     status = _ZemFunc429(rt.pointer(x_), n, window, parameter)
     rt.check(status, "window_apply_symmetric_complex")
@@ -1870,6 +1897,7 @@ def window_apply_scaled(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     properties_ = rt.Properties()
     status = _ZemFunc337(rt.pointer(x_), n, window, parameter, ctypes.byref(properties_))
@@ -1928,6 +1956,7 @@ def window_apply_scaled_complex(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     properties_ = rt.Properties()
     status = _ZemFunc428(rt.pointer(x_), n, window, parameter, ctypes.byref(properties_))
@@ -2032,6 +2061,7 @@ def window_properties(n, window, parameter=0.0):
     """
     n = rt.i64(n, "n")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     properties_ = rt.Properties()
     status = _ZemFunc445(n, window, parameter, ctypes.byref(properties_))
     rt.check(status, "window_properties")
