@@ -6900,7 +6900,7 @@ QV_API QvStatus ZemFunc142(const double* x, int64_t n, double* amplitude, double
  *
  *     reference   low + percent/100 (high - low)
  *     crossing    i + (level - x[i]) / (x[i + 1] - x[i])
- *     duty cycle  100 width / period
+ *     duty cycle  width / period
  *     slew rate   (high reference - low reference) / duration
  *
  * Times are in samples from the start of the record, interpolated linearly between samples.
