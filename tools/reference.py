@@ -52,6 +52,36 @@ TYPES = """Types
 =====
 
 """
+CPP = """C++20
+=====
+
+``quorvan/quorvan.hpp`` puts a thin layer over the C functions: ``qv::call`` takes one of them with its arguments in order,
+contiguous ranges where it wants pointers and ``qv::out`` where it writes a scalar. What comes back is a ``qv::Result``: the
+value, or several as a tuple, or a status below 0 with its text; ``value()`` throws ``qv::Error`` then. Objects of the library
+have owners: ``qv::FftPlan``, ``qv::IirFilter``, ``qv::IirStateComplex``, ``qv::FirNarrowband``; and ``qv::Array`` takes an
+array that the library allocated.
+
+.. code-block:: cpp
+
+   #include <quorvan/quorvan.hpp>
+
+   std::vector<double> x = read(), power(x.size() / 2 + 1);
+   const auto window = qv::call(QvWinApplyScaledPlain, x, x.size(), QV_WINDOW_HANNING, qv::out).value();
+   const auto df = qv::call(QvSpecPowerSpectrum, x, x.size(), 1e-3, power, qv::out);
+   if (!df) return std::puts(df.text());
+   const auto [frequency, peak] =
+       qv::call(QvSpecPeakPowerFrequency, power, x.size() / 2, -1, &window, *df, 5, qv::out, qv::out).value();
+
+   const qv::IirFilter lowpass(QvIirFilterCreate(0, 4));
+   qv::call(QvIirDesignButterworth, 1000, 100, 0, lowpass).value();
+   qv::call(QvIirCascadeApply, x, x.size(), lowpass, x).value();
+
+The room of an array is the caller's affair, as in C. Functions that give their value themselves (special functions) need no
+layer. The whole of it:
+
+.. literalinclude:: quorvan.hpp
+   :language: cpp
+"""
 TYPE_NAMES = (("type", "QvStatus"), ("struct", "QvComplex"), ("struct", "QvWindowProperties"), ("struct", "QvBand"),
               ("struct", "QvIirFilter"), ("struct", "QvIirStateComplex"), ("struct", "QvFirNarrowband"),
               ("struct", "QvFftPlan"), ("type", "QvModel"))
@@ -159,13 +189,15 @@ class Pages:
         unlisted = set(self.families) - set(listed)
         if unlisted:
             raise SystemExit(f"tools/reference.py: no part for {', '.join(sorted(unlisted))}")
-        index += [".. toctree::\n   :maxdepth: 1\n   :caption: Tables\n", "   numbers", "   statuses", "   types"]
+        index += [".. toctree::\n   :maxdepth: 1\n   :caption: Tables\n", "   numbers", "   statuses", "   types", "   cpp"]
         page("index", index)
         page("numbers", self.numbers())
         page("statuses", self.statuses())
         page("types", [TYPES, *(f".. c:{kind}:: {name}\n" for kind, name in TYPE_NAMES),
                        "From ``quorvan/types.h``:\n", ".. literalinclude:: types.h\n   :language: c"])
-        shutil.copy(boundary.ROOT / "include" / "quorvan" / "types.h", folder)
+        page("cpp", [CPP])
+        for header in ("types.h", "quorvan.hpp"):
+            shutil.copy(boundary.ROOT / "include" / "quorvan" / header, folder)
         for family in self.families.values():
             page(family.name, self.family(family))
 
