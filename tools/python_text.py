@@ -118,9 +118,10 @@ class Text:
                 text += ["    " + p.meaning] if p.meaning else []
             if self.arrays:
                 which = f"the array for `{self.arrays[0].name}`" if len(self.arrays) == 1 else (
-                    "arrays for " + ", ".join(f"`{r.name}`" for r in self.arrays) + ", each may be None")
+                    "arrays for " + ", ".join(f"`{r.name}`" for r in self.arrays) + ", or None for one to be made")
+                may = "it" if len(self.arrays) == 1 else "each"
                 text += ["out : array or None" if len(self.arrays) == 1 else "out : tuple or None",
-                         f"    {which}; an input, to work in place"]
+                         f"    {which}; {may} may be an input, to work in place"]
             text += [""]
         text += ["Returns", "-------"]
         if export.result == "status":

@@ -244,7 +244,9 @@ def main():
     source.mkdir(parents=True)
     shutil.copy(boundary.ROOT / "docs" / "reference" / "conf.py", source)
     Pages(boundary.read_table()).write(source)
-    subprocess.run([sys.executable, "-m", "sphinx", "-q", "-W", "--keep-going", "-b", "html", "-d",
+    print("making the pages, which takes about half a minute", flush=True)
+    quiet = [] if sys.stdout.isatty() else ["-q"]  # Sphinx shows its progress
+    subprocess.run([sys.executable, "-m", "sphinx", *quiet, "-W", "--keep-going", "-b", "html", "-d",
                     options.output / "doctrees", source, pages], check=True)
     dead = list(dead_links(pages.resolve()))
     if dead:

@@ -151,6 +151,13 @@ def test_unit_flags_can_be_joined():
     np.testing.assert_array_equal(out, [0, 4])
 
 
+@pytest.mark.parametrize("told", ["/nowhere/libquorvan.so", "libnowhere.so.0"])
+def test_missing_shared_object_is_told_with_what_to_do(monkeypatch, told):
+    monkeypatch.setenv("QUORVAN_LIBRARY", told)
+    with pytest.raises(ImportError, match=f"{told} cannot be loaded .*QUORVAN_LIBRARY.*wheel"):
+        rt.load_library()
+
+
 # --- Arrays ----------------------------------------------------------------------------------------------------------
 
 

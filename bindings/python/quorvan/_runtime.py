@@ -61,7 +61,18 @@ def find_library():
     return "libquorvan.so.0"
 
 
-library = ctypes.CDLL(find_library())  # its calls release the interpreter lock
+def load_library():
+    """The shared object, whose calls release the interpreter lock."""
+    place = find_library()
+    try:
+        return ctypes.CDLL(place)
+    except OSError as error:
+        raise ImportError(f"quorvan needs its shared object, and {place} cannot be loaded ({error}). Build and install the "
+                          "library, name a libquorvan.so in QUORVAN_LIBRARY, or install the wheel, which carries one."
+                          ) from None
+
+
+library = load_library()
 
 
 class Complex(ctypes.Structure):

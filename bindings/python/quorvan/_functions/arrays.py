@@ -84,7 +84,7 @@ def array_clear(n, *, out=None):
     n : int
         the number of elements
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -124,7 +124,7 @@ def array_fill(n, value, *, out=None):
     value : float
         what every element becomes
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -163,7 +163,7 @@ def array_copy(x, *, out=None):
     x : array_like of float64, shape (n,)
         the source
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -209,7 +209,7 @@ def array_subset(x, index, length, *, out=None):
     length : int
         how many elements to take
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -253,7 +253,7 @@ def array_reverse(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -296,7 +296,7 @@ def array_shift(x, shift=False, *, out=None):
     shift : bool, default False
         places to move, upwards when positive
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -343,7 +343,7 @@ def array_sort(x, direction=SortOrder.ASCENDING, *, out=None):
     direction : SortOrder, its name, or int, default SortOrder.ASCENDING
         0: ascending; anything else: descending
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -385,7 +385,7 @@ def array_add(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -430,7 +430,7 @@ def array_add_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -474,7 +474,7 @@ def array_subtract(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -519,7 +519,7 @@ def array_subtract_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -563,7 +563,7 @@ def array_multiply(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -608,7 +608,7 @@ def array_multiply_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -655,7 +655,7 @@ def array_divide(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the divisors
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -702,7 +702,7 @@ def array_divide_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the divisors
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -747,7 +747,7 @@ def array_negate(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -788,7 +788,7 @@ def array_abs(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1081,7 +1081,7 @@ def array_scale(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1136,7 +1136,7 @@ def array_scale_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1192,7 +1192,7 @@ def array_quick_scale(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1243,7 +1243,7 @@ def array_quick_scale_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1297,7 +1297,7 @@ def array_normalize(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1352,7 +1352,7 @@ def array_normalize_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1402,7 +1402,7 @@ def array_linear_eval(x, a, b, *, out=None):
     b : float
         the offset
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1449,7 +1449,7 @@ def array_linear_eval_2d(x, a, b, *, out=None):
     b : float
         the offset
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1496,7 +1496,7 @@ def array_poly_eval(x, coef, *, out=None):
     coef : array_like of float64, shape (count,)
         the coefficients, in ascending order
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1541,7 +1541,7 @@ def array_poly_eval_2d(x, coef, *, out=None):
     coef : array_like of float64, shape (count,)
         the coefficients, in ascending order
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1589,7 +1589,7 @@ def array_clip(x, upper, lower, *, out=None):
     lower : float
         the lower limit
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

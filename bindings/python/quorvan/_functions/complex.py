@@ -522,7 +522,7 @@ def complex_array_add(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -570,7 +570,7 @@ def complex_array_subtract(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -618,7 +618,7 @@ def complex_array_multiply(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -668,7 +668,7 @@ def complex_array_divide(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -721,7 +721,7 @@ def complex_array_to_polar(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the complex numbers
     out : tuple or None
-        arrays for `magnitude`, `phase`, each may be None; an input, to work in place
+        arrays for `magnitude`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -768,7 +768,7 @@ def complex_array_from_polar(magnitude, phase, *, out=None):
     phase : array_like of float64, shape (n,)
         phases in radians
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -815,7 +815,7 @@ def complex_array_linear_eval(z, a, b, *, out=None):
     b : complex, with the parts (b_re, b_im)
         the offset
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -59,7 +59,7 @@ def convolve_real(x, y, *, out=None):
     y : array_like of float64, shape (m,)
         the second sequence
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -110,7 +110,7 @@ def convolve_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -162,7 +162,7 @@ def convolve_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -211,7 +211,7 @@ def correlate_real(x, y, *, out=None):
     y : array_like of float64, shape (m,)
         the second sequence
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -264,7 +264,7 @@ def correlate_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -320,7 +320,7 @@ def correlate_real_normalised(x, y, method=Method.TRANSFORM, normalisation=Norma
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -372,7 +372,7 @@ def auto_correlate_real(x, normalisation=Normalisation.NONE, *, out=None):
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -421,7 +421,7 @@ def correlate_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -472,7 +472,7 @@ def correlate_complex_normalised(x, y, method=Method.TRANSFORM, normalisation=No
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -520,7 +520,7 @@ def auto_correlate_complex(x, normalisation=Normalisation.NONE, *, out=None):
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -566,7 +566,7 @@ def deconvolve(y, x, *, out=None):
     x : array_like of float64, shape (m,)
         the known factor
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -619,7 +619,7 @@ def convolve_2d_real(x, y, shape=Shape.FULL, method=Method.TRANSFORM, *, out=Non
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -680,7 +680,7 @@ def convolve_2d_complex(x, y, shape=Shape.FULL, method=Method.TRANSFORM, *, out=
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -736,7 +736,7 @@ def correlate_2d_real(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -790,7 +790,7 @@ def correlate_2d_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -837,7 +837,7 @@ def auto_correlate_2d_real(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the array, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -883,7 +883,7 @@ def auto_correlate_2d_complex(x, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the array, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

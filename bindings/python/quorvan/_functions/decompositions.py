@@ -76,7 +76,7 @@ def singular_values(a, *, out=None):
     a : array_like of float64, shape (m, n)
         the matrix, row-major
     out : array or None
-        the array for `s`; an input, to work in place
+        the array for `s`; it may be an input, to work in place
 
     Returns
     -------
@@ -125,7 +125,7 @@ def singular_values_complex(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix, row-major
     out : array or None
-        the array for `s`; an input, to work in place
+        the array for `s`; it may be an input, to work in place
 
     Returns
     -------
@@ -180,7 +180,7 @@ def svd(a, *, out=None):
     a : array_like of float64, shape (m, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -244,7 +244,7 @@ def svd_complex(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -309,7 +309,7 @@ def svd_mode(a, mode=SvdMode.FULL, *, out=None):
     mode : SvdMode, its name, or int, default SvdMode.FULL
         0: full, U m by m and V n by n; 1: economy
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -378,7 +378,7 @@ def svd_mode_complex(a, mode=SvdMode.FULL, *, out=None):
     mode : SvdMode, its name, or int, default SvdMode.FULL
         0: full, U m by m and V n by n; 1: economy
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -440,7 +440,7 @@ def lu(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `a`, `pivots`, each may be None; an input, to work in place
+        arrays for `a`, `pivots`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -506,7 +506,7 @@ def lu_complex(a, *, out=None):
     a : array_like of complex128, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `a`, `pivots`, each may be None; an input, to work in place
+        arrays for `a`, `pivots`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -562,7 +562,7 @@ def cholesky(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix, row-major; only its upper triangle is factored, but all of it must be finite
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -608,7 +608,7 @@ def cholesky_complex(a, *, out=None):
     a : array_like of complex128, shape (n, n)
         the matrix, row-major; only its upper triangle is factored, but all of it must be finite
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -666,7 +666,7 @@ def qr_method(a, method=QrMethod.HOUSEHOLDER, *, out=None):
     method : QrMethod, its name, or int, default QrMethod.HOUSEHOLDER
         0: Householder reflections; 1: Givens rotations; 2: fast Givens rotations
     out : tuple or None
-        arrays for `q`, `r`, each may be None; an input, to work in place
+        arrays for `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -728,7 +728,7 @@ def qr_pivot(a, pivot_mode=PivotMode.VECTOR, economy=False, *, out=None):
     economy : bool, default False
         0: Q is m by m; otherwise Q has min(m, n) columns
     out : tuple or None
-        arrays for `p`, `q`, `r`, each may be None; an input, to work in place
+        arrays for `p`, `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -796,7 +796,7 @@ def qr_pivot_complex(a, pivot_mode=PivotMode.VECTOR, economy=False, *, out=None)
     economy : bool, default False
         0: Q is m by m; otherwise Q has min(m, n) columns
     out : tuple or None
-        arrays for `p`, `q`, `r`, each may be None; an input, to work in place
+        arrays for `p`, `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -856,7 +856,7 @@ def qr_complex(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `q`, `r`, each may be None; an input, to work in place
+        arrays for `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -910,7 +910,7 @@ def hessenberg(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `h`, `q`, each may be None; an input, to work in place
+        arrays for `h`, `q`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -966,7 +966,7 @@ def hessenberg_complex(a, *, out=None):
     a : array_like of complex128, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `h`, `q`, each may be None; an input, to work in place
+        arrays for `h`, `q`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -1027,7 +1027,7 @@ def balance(a, job=BalanceJob.BOTH, *, out=None):
     job : BalanceJob, its name, or int, default BalanceJob.BOTH
         0: none; 1: permutation; 2: scaling; 3: both
     out : tuple or None
-        arrays for `scale`, `balanced`, each may be None; an input, to work in place
+        arrays for `scale`, `balanced`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -1101,7 +1101,7 @@ def balance_complex(a, job=BalanceJob.BOTH, *, out=None):
     job : BalanceJob, its name, or int, default BalanceJob.BOTH
         0: none; 1: permutation; 2: scaling; 3: both
     out : tuple or None
-        arrays for `scale`, `balanced`, each may be None; an input, to work in place
+        arrays for `scale`, `balanced`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -1169,7 +1169,7 @@ def balance_back(v, low, high, scale, job=BalanceJob.BOTH, side=Side.RIGHT, *, o
     side : Side, its name, or int, default Side.RIGHT
         0: right eigenvectors; 1: left ones
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1232,7 +1232,7 @@ def balance_back_complex(v, low, high, scale, job=BalanceJob.BOTH, side=Side.RIG
     side : Side, its name, or int, default Side.RIGHT
         0: right eigenvectors; 1: left ones
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -68,7 +68,7 @@ def filter_fir(x, b, input_state=None, *, out=None):
     input_state : array_like of float64, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -131,7 +131,7 @@ def filter_direct(x, b, a=None, output_state=None, input_state=None, *, out=None
     input_state : array_like of float64, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -194,7 +194,7 @@ def filter_fir_complex(x, b, input_state=None, *, out=None):
     input_state : array_like of complex128, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -256,7 +256,7 @@ def filter_direct_complex(x, b, a=None, output_state=None, input_state=None, *, 
     input_state : array_like of complex128, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -312,7 +312,7 @@ def filter_zero_phase(x, a, b, *, out=None):
     b : array_like of float64, shape (nb,)
         the numerator
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -375,7 +375,7 @@ def savitzky_golay_design(order, side, weights=None, want_derivatives=True, *, o
     want_derivatives : bool, default True
         not 0: derivatives are written
     out : tuple or None
-        arrays for `smoother`, `derivatives`, each may be None; an input, to work in place
+        arrays for `smoother`, `derivatives`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -437,7 +437,7 @@ def savitzky_golay_filter(x, order, side, weights=None, *, out=None):
     weights : array_like of float64, shape (2 * side + 1,), default None
         the weights of the samples of a frame, by magnitude
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -497,7 +497,7 @@ def savitzky_golay_filter_complex(x, order, side, weights=None, *, out=None):
     weights : array_like of float64, shape (2 * side + 1,), default None
         the weights of the samples of a frame, by magnitude
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -552,7 +552,7 @@ def filter_median(x, left_rank, right_rank, *, out=None):
     right_rank : int
         the samples behind it; negative: as many as before
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

@@ -68,7 +68,7 @@ def eigen_general(a, want_vectors=True, *, out=None):
     want_vectors : bool, default True
         0: eigenvalues alone; 1: vectors too
     out : tuple or None
-        arrays for `values`, `vectors`, each may be None; an input, to work in place
+        arrays for `values`, `vectors`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -132,7 +132,7 @@ def eigen_symmetric(a, want_vectors=True, *, out=None):
     want_vectors : bool, default True
         0: eigenvalues alone; 1: vectors too
     out : tuple or None
-        arrays for `values`, `vectors`, each may be None; an input, to work in place
+        arrays for `values`, `vectors`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -194,7 +194,7 @@ def eigen_complex(a, kind=EigenKind.GENERAL, want_vectors=True, *, out=None):
     want_vectors : bool, default True
         0: eigenvalues alone; 1: vectors too
     out : tuple or None
-        arrays for `values`, `vectors`, each may be None; an input, to work in place
+        arrays for `values`, `vectors`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -260,7 +260,7 @@ def schur(a, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `vectors`, `t`, `values`, each may be None; an input, to work in place
+        arrays for `vectors`, `t`, `values`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -330,7 +330,7 @@ def schur_complex(a, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `vectors`, `t`, `values`, each may be None; an input, to work in place
+        arrays for `vectors`, `t`, `values`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -400,7 +400,7 @@ def eigen_generalised(a, b, *, out=None):
     b : array_like of float64, shape (n, n)
         the matrix B, row-major
     out : tuple or None
-        arrays for `values`, `right`, `left`, each may be None; an input, to work in place
+        arrays for `values`, `right`, `left`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -470,7 +470,7 @@ def eigen_generalised_complex(a, b, *, out=None):
     b : array_like of complex128, shape (n, n)
         the matrix B, row-major
     out : tuple or None
-        arrays for `values`, `right`, `left`, each may be None; an input, to work in place
+        arrays for `values`, `right`, `left`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -546,8 +546,8 @@ def qz(a, b, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, each may be None; an input, to work in
-        place
+        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, or None for one to be made; each may be
+        an input, to work in place
 
     Returns
     -------
@@ -653,8 +653,8 @@ def qz_complex(a, b, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, each may be None; an input, to work in
-        place
+        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, or None for one to be made; each may be
+        an input, to work in place
 
     Returns
     -------

@@ -147,7 +147,7 @@ def iir_cascade_apply(x, filter, *, out=None):
     filter : IirFilter
         the filter, designed
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -193,7 +193,7 @@ def iir_cascade_apply_complex(x, filter, state, *, out=None):
     state : IirStateComplex
         the delay lines, of the same kind and order
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

@@ -82,7 +82,7 @@ def fir_remez_design(desired, weights, fs, edges, taps, kind=RemezKind.MULTIBAND
     kind : RemezKind, its name, or int, default RemezKind.MULTIBAND
         1 multiband filter, 2 differentiator, 3 Hilbert transformer; others antisymmetric, without checks
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -160,7 +160,7 @@ def fir_remez_bands(taps, fs, bands, kind=RemezBandsKind.MULTIBAND, *, out=None)
     kind : RemezBandsKind, its name, or int, default RemezBandsKind.MULTIBAND
         0 multiband filter, 1 differentiator, 2 Hilbert transformer
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -224,7 +224,7 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -288,7 +288,7 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -357,7 +357,7 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -427,7 +427,7 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -489,7 +489,7 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     fstop : float
         edge of the stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -554,7 +554,7 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
     fpass : float
         edge of the passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -621,7 +621,7 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -692,7 +692,7 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -757,7 +757,7 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     fstop : float
         edge of the stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -819,7 +819,7 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
     fpass : float
         edge of the passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -883,7 +883,7 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -951,7 +951,7 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

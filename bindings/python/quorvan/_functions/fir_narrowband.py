@@ -156,7 +156,7 @@ def fir_narrowband_filter(x, filter, *, out=None):
     filter : FirNarrowband
         a designed record
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -203,7 +203,7 @@ def fir_narrowband_filter_complex(x, filter, *, out=None):
     filter : FirNarrowband
         a designed record
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

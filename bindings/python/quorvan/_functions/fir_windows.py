@@ -72,7 +72,7 @@ def fir_ideal_response(kind, fs, fl, taps, fh=0.0, *, out=None):
     fh : float, default 0.0
         the upper edge of a band; else ignored
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -132,7 +132,7 @@ def fir_design_window(kind, fs, fl, taps, window, fh=0.0, parameter=0.0, *, out=
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -188,7 +188,7 @@ def fir_design_lowpass(fs, fc, taps, window=FirWindow.HAMMING, *, out=None):
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -238,7 +238,7 @@ def fir_design_highpass(fs, fc, taps, window=FirWindow.HAMMING, *, out=None):
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -291,7 +291,7 @@ def fir_design_bandpass(fs, fl, fh, taps, window=FirWindow.HAMMING, *, out=None)
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -344,7 +344,7 @@ def fir_design_bandstop(fs, fl, fh, taps, window=FirWindow.HAMMING, *, out=None)
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -396,7 +396,7 @@ def fir_design_kaiser_lowpass(fs, fc, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -446,7 +446,7 @@ def fir_design_kaiser_highpass(fs, fc, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -499,7 +499,7 @@ def fir_design_kaiser_bandpass(fs, fl, fh, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -552,7 +552,7 @@ def fir_design_kaiser_bandstop(fs, fl, fh, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -612,7 +612,7 @@ def fir_filter_window(x, taps, kind, fs, fl, window, fh=0.0, parameter=0.0, *, o
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -679,7 +679,7 @@ def fir_filter_window_lowpass(x, taps, fs, fc, window, parameter=0.0, *, out=Non
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -743,7 +743,7 @@ def fir_filter_window_highpass(x, taps, fs, fc, window, parameter=0.0, *, out=No
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -810,7 +810,7 @@ def fir_filter_window_bandpass(x, taps, fs, fl, fh, window, parameter=0.0, *, ou
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -877,7 +877,7 @@ def fir_filter_window_bandstop(x, taps, fs, fl, fh, window, parameter=0.0, *, ou
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -947,7 +947,7 @@ def fir_filter_window_complex(x, taps, kind, fs, fl, window, fh=0.0, parameter=0
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1011,7 +1011,7 @@ def fir_filter_window_complex_lowpass(x, taps, fs, fc, window, parameter=0.0, *,
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1071,7 +1071,7 @@ def fir_filter_window_complex_highpass(x, taps, fs, fc, window, parameter=0.0, *
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1134,7 +1134,7 @@ def fir_filter_window_complex_bandpass(x, taps, fs, fl, fh, window, parameter=0.
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1197,7 +1197,7 @@ def fir_filter_window_complex_bandstop(x, taps, fs, fl, fh, window, parameter=0.
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

@@ -79,7 +79,7 @@ def fit_bounds_line(x, y, slope, intercept, weights=None, type=BoundsType.CONFID
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -168,7 +168,7 @@ def fit_bounds_exponential(x, y, a, b, weights=None, type=BoundsType.CONFIDENCE,
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -256,7 +256,7 @@ def fit_bounds_power(x, y, a, b, weights=None, type=BoundsType.CONFIDENCE, level
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -347,7 +347,7 @@ def fit_bounds_logarithm(x, y, a, b, weights=None, base=0.0, type=BoundsType.CON
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -439,7 +439,7 @@ def fit_bounds_gaussian(x, y, amplitude, centre, width, weights=None, type=Bound
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -596,7 +596,8 @@ def fit_remove_out_of_range(x, y, limits, weights=None, mode=RangeOf.Y, *, out=N
     mode : RangeOf, its name, or int, default RangeOf.Y
         0 by y, 1 by x, 2 by x and y
     out : tuple or None
-        arrays for `x`, `y`, `weights`, `removed`, each may be None; an input, to work in place
+        arrays for `x`, `y`, `weights`, `removed`, or None for one to be made; each may be an input, to work in
+        place
 
     Returns
     -------
@@ -682,7 +683,7 @@ def fit_remove_by_index(x, y, indices, weights=None, *, out=None):
     weights : array_like of float64, shape (n,), default None
         the weights
     out : tuple or None
-        arrays for `x`, `y`, `weights`, each may be None; an input, to work in place
+        arrays for `x`, `y`, `weights`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------

@@ -79,7 +79,7 @@ def sine_wave(n, amp, freq, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -127,7 +127,7 @@ def sine_pattern(n, amp, phase, cycles, *, out=None):
     cycles : float
         cycles in the array, any number
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -184,7 +184,7 @@ def square_wave(n, amp, freq, duty, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -242,7 +242,7 @@ def triangle_wave(n, amp, freq, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -299,7 +299,7 @@ def sawtooth_wave(n, amp, freq, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -361,7 +361,7 @@ def arbitrary_wave(n, amp, freq, table, phase=0.0, interpolation=True, *, out=No
     interpolation : bool, default True
         1 interpolates linearly, from the last cell towards the first; else the cell as it is
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -413,7 +413,7 @@ def chirp(n, amp, f1, f2, *, out=None):
     f2 : float
         cycles per sample at sample n, the one behind the last
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -460,7 +460,7 @@ def pulse_pattern(n, amp, delay, width, *, out=None):
     width : int
         samples in the pulse
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -505,7 +505,7 @@ def impulse_pattern(n, amp, index, *, out=None):
     index : int
         sample of the impulse
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -551,7 +551,7 @@ def ramp_pattern(n, first, last, *, out=None):
     last : float
         value of the last sample, exactly
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -592,7 +592,7 @@ def triangle_pattern(n, amp, *, out=None):
     amp : float
         peak, at sample n / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -636,7 +636,7 @@ def sinc_pattern(n, amp, delay, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -688,7 +688,7 @@ def periodic_sinc_pattern(n, amp, delay, order, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -745,7 +745,7 @@ def gaussian_modulated_sine(n, amp, delay, centre, bandwidth, attenuation, dt=1.
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -798,7 +798,7 @@ def gaussian_monopulse(n, amp, delay, centre, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -853,7 +853,7 @@ def skewed_triangle_pulse(n, amp, delay, width, skew, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

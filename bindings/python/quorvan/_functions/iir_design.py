@@ -438,7 +438,7 @@ def iir_coefficients_even_pole(kind, order, fs, fl, fh=0.0, *, out=None):
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -508,7 +508,7 @@ def iir_coefficients_butterworth(kind, order, fs, fl, fh=0.0, *, out=None):
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -580,7 +580,7 @@ def iir_coefficients_chebyshev(kind, order, fs, fl, ripple, fh=0.0, *, out=None)
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -653,7 +653,7 @@ def iir_coefficients_inverse_chebyshev(kind, order, fs, fl, attenuation, fh=0.0,
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -728,7 +728,7 @@ def iir_coefficients_elliptic(kind, order, fs, fl, ripple, attenuation, fh=0.0, 
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -794,7 +794,7 @@ def iir_to_direct_form(filter, *, out=None):
     filter : IirFilter
         the filter, designed
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -850,7 +850,7 @@ def iir_filter_butterworth_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -906,7 +906,7 @@ def iir_filter_butterworth_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -964,7 +964,7 @@ def iir_filter_butterworth_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1023,7 +1023,7 @@ def iir_filter_butterworth_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1082,7 +1082,7 @@ def iir_filter_chebyshev_lowpass(x, fs, fc, ripple, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1142,7 +1142,7 @@ def iir_filter_chebyshev_highpass(x, fs, fc, ripple, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1204,7 +1204,7 @@ def iir_filter_chebyshev_bandpass(x, fs, fl, fh, ripple, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1267,7 +1267,7 @@ def iir_filter_chebyshev_bandstop(x, fs, fl, fh, ripple, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1329,7 +1329,7 @@ def iir_filter_inverse_chebyshev_lowpass(x, fs, fc, attenuation, order, *, out=N
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1391,7 +1391,7 @@ def iir_filter_inverse_chebyshev_highpass(x, fs, fc, attenuation, order, *, out=
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1455,7 +1455,7 @@ def iir_filter_inverse_chebyshev_bandpass(x, fs, fl, fh, attenuation, order, *, 
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1520,7 +1520,7 @@ def iir_filter_inverse_chebyshev_bandstop(x, fs, fl, fh, attenuation, order, *, 
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1584,7 +1584,7 @@ def iir_filter_elliptic_lowpass(x, fs, fc, ripple, attenuation, order, *, out=No
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1650,7 +1650,7 @@ def iir_filter_elliptic_highpass(x, fs, fc, ripple, attenuation, order, *, out=N
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1718,7 +1718,7 @@ def iir_filter_elliptic_bandpass(x, fs, fl, fh, ripple, attenuation, order, *, o
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1787,7 +1787,7 @@ def iir_filter_elliptic_bandstop(x, fs, fl, fh, ripple, attenuation, order, *, o
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1848,7 +1848,7 @@ def iir_filter_bessel_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1905,7 +1905,7 @@ def iir_filter_bessel_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1964,7 +1964,7 @@ def iir_filter_bessel_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2025,7 +2025,7 @@ def iir_filter_bessel_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2085,7 +2085,7 @@ def iir_filter_complex_butterworth_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2137,7 +2137,7 @@ def iir_filter_complex_butterworth_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2191,7 +2191,7 @@ def iir_filter_complex_butterworth_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2247,7 +2247,7 @@ def iir_filter_complex_butterworth_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2303,7 +2303,7 @@ def iir_filter_complex_chebyshev_lowpass(x, fs, fc, ripple, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2359,7 +2359,7 @@ def iir_filter_complex_chebyshev_highpass(x, fs, fc, ripple, order, *, out=None)
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2417,7 +2417,7 @@ def iir_filter_complex_chebyshev_bandpass(x, fs, fl, fh, ripple, order, *, out=N
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2477,7 +2477,7 @@ def iir_filter_complex_chebyshev_bandstop(x, fs, fl, fh, ripple, order, *, out=N
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2535,7 +2535,7 @@ def iir_filter_complex_inverse_chebyshev_lowpass(x, fs, fc, attenuation, order, 
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2591,7 +2591,7 @@ def iir_filter_complex_inverse_chebyshev_highpass(x, fs, fc, attenuation, order,
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2649,7 +2649,7 @@ def iir_filter_complex_inverse_chebyshev_bandpass(x, fs, fl, fh, attenuation, or
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2709,7 +2709,7 @@ def iir_filter_complex_inverse_chebyshev_bandstop(x, fs, fl, fh, attenuation, or
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2769,7 +2769,7 @@ def iir_filter_complex_elliptic_lowpass(x, fs, fc, ripple, attenuation, order, *
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2830,7 +2830,7 @@ def iir_filter_complex_elliptic_highpass(x, fs, fc, ripple, attenuation, order, 
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2893,7 +2893,7 @@ def iir_filter_complex_elliptic_bandpass(x, fs, fl, fh, ripple, attenuation, ord
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2958,7 +2958,7 @@ def iir_filter_complex_elliptic_bandstop(x, fs, fl, fh, ripple, attenuation, ord
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -3017,7 +3017,7 @@ def iir_filter_complex_bessel_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -3072,7 +3072,7 @@ def iir_filter_complex_bessel_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -3129,7 +3129,7 @@ def iir_filter_complex_bessel_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -3188,7 +3188,7 @@ def iir_filter_complex_bessel_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

@@ -169,7 +169,7 @@ def interp_spline_second_derivatives(x, y, first=1e30, last=1e30, *, out=None):
     last : float, default 1e30
         the first derivative at the last sample; above 9.9e29: a natural end
     out : array or None
-        the array for `second`; an input, to work in place
+        the array for `second`; it may be an input, to work in place
 
     Returns
     -------
@@ -278,7 +278,7 @@ def interp_smoothing_spline(y, balance, x=None, weights=None, smoothness=None, *
     smoothness : array_like of float64, shape (n - 1,), default None
         the weights of the intervals' curvature, by magnitude
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

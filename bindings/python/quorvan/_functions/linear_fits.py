@@ -56,7 +56,7 @@ def fit_general_linear(design, y, selector=LinearAlgorithm.SINGULAR_VALUES, *, o
     selector : LinearAlgorithm, its name, or int, default LinearAlgorithm.SINGULAR_VALUES
         0 singular values; 1, 2, 3 QR; 4 LU, 5 Cholesky of the normal equations; 6 singular values truncated
     out : array or None
-        the array for `coefficients`; an input, to work in place
+        the array for `coefficients`; it may be an input, to work in place
 
     Returns
     -------
@@ -124,7 +124,8 @@ def fit_general_linear_ex(design, y, deviations=None, selector=LinearAlgorithm.S
     selector : LinearAlgorithm, its name, or int, default LinearAlgorithm.SINGULAR_VALUES
         as for `fit_general_linear`
     out : tuple or None
-        arrays for `fitted`, `coefficients`, `covariance`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, `covariance`, or None for one to be made; each may be an input, to
+        work in place
 
     Returns
     -------
@@ -205,7 +206,7 @@ def fit_polynomial(x, y, order, *, out=None):
     order : int
         the degree of the polynomial
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -287,7 +288,7 @@ def fit_polynomial_constrained(x, y, order, fixed_orders=None, fixed_values=None
     algorithm : PolynomialAlgorithm, its name, or int, default PolynomialAlgorithm.SINGULAR_VALUES
         0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -379,7 +380,7 @@ def fit_polynomial_weighted(x, y, order, weights=None, fixed_orders=None, fixed_
     algorithm : PolynomialAlgorithm, its name, or int, default PolynomialAlgorithm.SINGULAR_VALUES
         0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------

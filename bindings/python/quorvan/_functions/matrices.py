@@ -90,7 +90,7 @@ def solve_many(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -158,7 +158,7 @@ def solve_many_complex(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -224,7 +224,7 @@ def solve_kind(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -294,7 +294,7 @@ def solve_kind_complex(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -357,7 +357,7 @@ def solve(a, b, *, out=None):
     b : array_like of float64, shape (n,)
         the right-hand side
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -409,7 +409,7 @@ def solve_upper_triangular(r, b, *, out=None):
     b : array_like of float64, shape (n,)
         the right-hand side
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -459,7 +459,7 @@ def solve_unit_lower(l, b, pivots=None, *, out=None):
     pivots : array_like of int64, shape (n,), default None
         element i of b changes places with element pivots[i], for i from 0 on
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -508,7 +508,7 @@ def inverse(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -558,7 +558,7 @@ def inverse_kind(a, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -612,7 +612,7 @@ def inverse_kind_complex(a, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1180,7 +1180,7 @@ def pseudo_inverse(a, tolerance=-1.0, *, out=None):
     tolerance : float, default -1.0
         absolute; negative: max(m, n) s(0) 2.220446049250313e-16
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1231,7 +1231,7 @@ def pseudo_inverse_complex(a, tolerance=-1.0, *, out=None):
     tolerance : float, default -1.0
         absolute; negative: max(m, n) s(0) 2.220446049250313e-16
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1372,7 +1372,7 @@ def matrix_multiply(a, b, *, out=None):
     b : array_like of float64, shape (cols_a, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1422,7 +1422,7 @@ def matrix_multiply_complex(a, b, *, out=None):
     b : array_like of complex128, shape (cols_a, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1469,7 +1469,7 @@ def matrix_vector_multiply(a, x, *, out=None):
     x : array_like of float64, shape (n,)
         the vector
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1518,7 +1518,7 @@ def matrix_vector_multiply_complex(a, x, *, out=None):
     x : array_like of complex128, shape (n,)
         the vector
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1648,7 +1648,7 @@ def vector_outer_product(x, y, *, out=None):
     y : array_like of float64, shape (ny,)
         a vector
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1696,7 +1696,7 @@ def vector_outer_product_complex(x, y, *, out=None):
     y : array_like of complex128, shape (ny,)
         a vector
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1741,7 +1741,7 @@ def kronecker(a, b, *, out=None):
     b : array_like of float64, shape (rows_b, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1790,7 +1790,7 @@ def kronecker_complex(a, b, *, out=None):
     b : array_like of complex128, shape (rows_b, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1835,7 +1835,7 @@ def transpose(a, *, out=None):
     a : array_like of float64, shape (m, n)
         the matrix
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1877,7 +1877,7 @@ def conjugate_transpose(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1930,7 +1930,7 @@ def special_matrix(type, order=0, first=None, second=None, *, out=None):
     second : array_like of float64, shape (second_length,), default None
         first row of the Toeplitz matrix; not read for other types
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1994,7 +1994,7 @@ def special_matrix_complex(type, order=0, first=None, second=None, *, out=None):
     second : array_like of complex128, shape (second_length,), default None
         first row of the Toeplitz matrix; not read for other types
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

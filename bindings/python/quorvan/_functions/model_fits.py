@@ -71,7 +71,7 @@ def fit_line(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the ordinates
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
@@ -144,7 +144,7 @@ def fit_line_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toler
         the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
@@ -219,7 +219,7 @@ def fit_exponential(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the ordinates
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
@@ -295,7 +295,7 @@ def fit_exponential_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES
         the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
@@ -378,7 +378,7 @@ def fit_power(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, tolerance=0
         the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
@@ -463,7 +463,7 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
         the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
@@ -551,7 +551,7 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     guess : array_like of float64, shape (3,), default None
         amplitude, centre and width to start from; one that is not finite: none
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------

@@ -43,7 +43,7 @@ def poly_roots_multiple(c, *, out=None):
     c : array_like of complex128, shape (n,)
         the coefficients in ascending powers, the constant first
     out : array or None
-        the array for `roots`; an input, to work in place
+        the array for `roots`; it may be an input, to work in place
 
     Returns
     -------
@@ -98,7 +98,7 @@ def lag_product(x, p, method=LagMethod.AUTOCORRELATION, *, out=None):
     method : LagMethod, its name, or int, default LagMethod.AUTOCORRELATION
         0 autocorrelation, 1 prewindowed, 2 postwindowed, 3 covariance, 4 modified covariance
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -155,7 +155,7 @@ def lag_product_complex(x, p, method=LagMethod.AUTOCORRELATION, *, out=None):
     method : LagMethod, its name, or int, default LagMethod.AUTOCORRELATION
         0 autocorrelation, 1 prewindowed, 2 postwindowed, 3 covariance, 4 modified covariance
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -67,7 +67,7 @@ def fit_nonlinear(x, y, model, coefficients, *, out=None):
     coefficients : array_like of float64, shape (m,)
         in: the initial guess; out: the result
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -139,7 +139,7 @@ def fit_nonlinear_alias(x, y, model, coefficients, *, out=None):
     coefficients : array_like of float64, shape (m,)
         in: the initial guess; out: the result
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -207,7 +207,7 @@ def fit_nonlinear_limited(x, y, model, coefficients, limit=-1, *, out=None):
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -283,7 +283,7 @@ def fit_nonlinear_limited_alias(x, y, model, coefficients, limit=-1, *, out=None
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -356,7 +356,7 @@ def fit_nonlinear_weighted(x, y, model, coefficients, weights=None, limit=-1, *,
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -441,7 +441,7 @@ def fit_nonlinear_weighted_alias(x, y, model, coefficients, weights=None, limit=
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------

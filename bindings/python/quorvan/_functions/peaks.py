@@ -47,7 +47,7 @@ def peak_threshold_runs(x, threshold, width, *, out=None):
     width : int
         least length of a run, below n; it must not be 0, which is not tested
     out : array or None
-        the array for `indices`; an input, to work in place
+        the array for `indices`; it may be an input, to work in place
 
     Returns
     -------
@@ -105,7 +105,7 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
     last : bool, default True
         other than 0: the stream ends with this block
     out : array or None
-        the array for `indices`; an input, to work in place
+        the array for `indices`; it may be an input, to work in place
 
     Returns
     -------

@@ -39,7 +39,7 @@ def poly_roots_real(c, *, out=None):
     c : array_like of float64, shape (n,)
         the coefficients in ascending powers, the constant first
     out : array or None
-        the array for `roots`; an input, to work in place
+        the array for `roots`; it may be an input, to work in place
 
     Returns
     -------

@@ -40,7 +40,7 @@ def poly_zeros(c, *, out=None):
     c : array_like of float64, shape (m,)
         the coefficients, the highest power first
     out : array or None
-        the array for `z`; an input, to work in place
+        the array for `z`; it may be an input, to work in place
 
     Returns
     -------

@@ -68,7 +68,7 @@ def uniform_noise(n, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -111,7 +111,7 @@ def white_noise(n, amplitude, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -157,7 +157,7 @@ def gaussian_noise(n, deviation, seed=0, *, out=None):
     seed : int, default 0
         positive restarts and drops the waiting deviate, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -203,7 +203,7 @@ def periodic_random_noise(n, amplitude, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -253,7 +253,7 @@ def shuffle_real(data, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : tuple or None
-        arrays for `data`, `perm`, each may be None; an input, to work in place
+        arrays for `data`, `perm`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -308,7 +308,7 @@ def shuffle_complex(data, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : tuple or None
-        arrays for `data`, `perm`, each may be None; an input, to work in place
+        arrays for `data`, `perm`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -361,7 +361,7 @@ def shuffle_int(data, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : tuple or None
-        arrays for `data`, `perm`, each may be None; an input, to work in place
+        arrays for `data`, `perm`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -413,7 +413,7 @@ def gamma_noise(n, order, seed=0, reset=False, *, out=None):
     reset : bool, default False
         not 0 starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -463,7 +463,7 @@ def poisson_noise(n, mean, seed=0, reset=False, *, out=None):
     reset : bool, default False
         not 0 starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -514,7 +514,7 @@ def binomial_noise(n, trials, probability, seed=0, reset=False, *, out=None):
     reset : bool, default False
         not 0 starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -565,7 +565,7 @@ def bernoulli_noise(n, probability, seed=0, reset=False, *, out=None):
     reset : bool, default False
         not 0 starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -616,7 +616,7 @@ def halton_sequence(n, base, reset=False, *, out=None):
     reset : bool, default False
         not 0 starts at 0 with this base
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -664,7 +664,7 @@ def weyl_sequence(n, step, reset=False, *, out=None):
     reset : bool, default False
         not 0 starts at 0 with this step
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -70,7 +70,7 @@ def spectrum_real_fft(x, *, out=None):
     x : array_like of float64
         the record
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -114,7 +114,7 @@ def spectrum_real_ifft(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the spectrum
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -155,7 +155,7 @@ def spectrum_complex_ifft(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the spectrum
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -196,7 +196,7 @@ def auto_power(x, *, out=None):
     x : array_like of float64, shape (n,)
         the record, then its power spectrum in the unit of x squared
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -239,7 +239,7 @@ def cross_power(x, y, *, out=None):
         the samples
     y : array_like of float64, shape (n,)
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -299,7 +299,7 @@ def amplitude_phase(x, unwrap=False, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `amp`, `phase`, each may be None; an input, to work in place
+        arrays for `amp`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -357,7 +357,7 @@ def power_spectrum(x, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `power`; an input, to work in place
+        the array for `power`; it may be an input, to work in place
 
     Returns
     -------
@@ -412,7 +412,7 @@ def cross_power_polar(x, y, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `mag`, `phase`, each may be None; an input, to work in place
+        arrays for `mag`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -473,7 +473,7 @@ def transfer_function(stimulus, response, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `mag`, `phase`, each may be None; an input, to work in place
+        arrays for `mag`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -526,7 +526,7 @@ def spectrum_deconvolve(divisor, signal, *, out=None):
     divisor : array_like of float64, shape (n,)
     signal : array_like of float64, shape (n,)
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -588,8 +588,8 @@ def network_analysis(stimulus, response, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `cross_mag`, `cross_phase`, `transfer_mag`, `transfer_phase`, `coherence`, `impulse`, each may
-        be None; an input, to work in place
+        arrays for `cross_mag`, `cross_phase`, `transfer_mag`, `transfer_phase`, `coherence`, `impulse`, or None
+        for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -682,7 +682,7 @@ def spectrum_unit_convert(spectrum, unit, kind=SpectrumKind.POWER, display=Displ
     window : (enbw, coherent_gain), default (1.0, 1.0)
         only the equivalent noise bandwidth is read
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -735,7 +735,7 @@ def unwrap_phase(phase, mode=PhaseMode.RADIANS, *, out=None):
     mode : PhaseMode, its name, or int, default PhaseMode.RADIANS
         0 radians; 1 radians to degrees; 2 degrees; 3 degrees to radians; any other is 0
     out : array or None
-        the array for `phase`; an input, to work in place
+        the array for `phase`; it may be an input, to work in place
 
     Returns
     -------
@@ -775,7 +775,7 @@ def unwrap_radians(phase, *, out=None):
     phase : array_like of float64, shape (n,)
         radians
     out : array or None
-        the array for `phase`; an input, to work in place
+        the array for `phase`; it may be an input, to work in place
 
     Returns
     -------

@@ -357,7 +357,7 @@ def histogram(x, base, top, intervals, *, out=None):
         upper end of the last bin, in the unit of x
     intervals : int
     out : tuple or None
-        arrays for `counts`, `centres`, each may be None; an input, to work in place
+        arrays for `counts`, `centres`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -460,7 +460,7 @@ def modes(x, intervals=0, *, out=None):
         the samples
     intervals : int, default 0
     out : array or None
-        the array for `modes`; an input, to work in place
+        the array for `modes`; it may be an input, to work in place
 
     Returns
     -------

@@ -56,7 +56,7 @@ def integrate_simpson(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     final : float, default 0.0
         the sample behind the last
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -105,7 +105,7 @@ def differentiate(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     final : float, default 0.0
         the sample behind the last
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -159,7 +159,7 @@ def differentiate_method(x, initial, final, dt=1.0, method=Difference.CENTRAL2, 
     method : Difference, its name, or int, default Difference.CENTRAL2
         0 central of second order, 1 central of fourth order, 2 forward, 3 backward
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -212,7 +212,7 @@ def decimate(x, factor, average=False, *, out=None):
     average : bool, default False
         0 takes the first sample of each block, anything else its mean
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -260,7 +260,7 @@ def decimate_complex(x, factor, average=False, *, out=None):
     average : bool, default False
         0 takes the first sample of each block, anything else its mean
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -313,7 +313,7 @@ def decimate_continuous(x, factor, average=False, offset=0, reset=True, *, out=N
     reset : bool, default True
         not 0 starts a new signal
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -371,7 +371,7 @@ def decimate_continuous_complex(x, factor, average=False, offset=0, reset=True, 
     reset : bool, default True
         not 0 starts a new signal
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -499,7 +499,7 @@ def detect_level_crossings(x, levels, hysteresis, slopes, reset=True, *, out=Non
     reset : bool, default True
         not 0 starts new signals
     out : tuple or None
-        arrays for `indices`, `found`, each may be None; an input, to work in place
+        arrays for `indices`, `found`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------

@@ -98,7 +98,7 @@ def harmonic_analyzer(power, harmonics, window, fs, fundamental, fft_size=0, *, 
     fft_size : int, default 0
         points of the transform that it is of; below 1: 2n
     out : tuple or None
-        arrays for `amp`, `freq`, each may be None; an input, to work in place
+        arrays for `amp`, `freq`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -177,7 +177,7 @@ def tone_harmonics(x, harmonics, fs, fundamental, *, out=None):
     fundamental : float
         a guess, in the unit of fs, right to 5 percent of fs
     out : tuple or None
-        arrays for `amp`, `freq`, each may be None; an input, to work in place
+        arrays for `amp`, `freq`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -318,7 +318,7 @@ def tone_single_real_ex(x, dt=1.0, search=None, mode=ToneSignal.RESIDUAL, *, out
     mode : ToneSignal, its name, or int, default ToneSignal.RESIDUAL
         0 to 3
     out : tuple or None
-        arrays for `out`, `spectrum`, each may be None; an input, to work in place
+        arrays for `out`, `spectrum`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -407,7 +407,7 @@ def tone_multi_real(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, threshold=0.
     threshold : float, default 0.0
         the least amplitude
     out : tuple or None
-        arrays for `freq`, `amp`, `phase`, each may be None; an input, to work in place
+        arrays for `freq`, `amp`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -485,7 +485,8 @@ def tone_multi_real_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=Tone
     threshold : float, default 0.0
         the least amplitude
     out : tuple or None
-        arrays for `freq`, `amp`, `phase`, `out`, `spectrum`, each may be None; an input, to work in place
+        arrays for `freq`, `amp`, `phase`, `out`, `spectrum`, or None for one to be made; each may be an input, to
+        work in place
 
     Returns
     -------
@@ -638,7 +639,7 @@ def tone_single_complex_ex(x, dt=1.0, search=None, mode=ToneSignal.RESIDUAL, *, 
     mode : ToneSignal, its name, or int, default ToneSignal.RESIDUAL
         0 to 3
     out : tuple or None
-        arrays for `out`, `spectrum`, each may be None; an input, to work in place
+        arrays for `out`, `spectrum`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -723,7 +724,7 @@ def tone_multi_complex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, threshold
     threshold : float, default 0.0
         the least amplitude
     out : tuple or None
-        arrays for `freq`, `amp`, `phase`, each may be None; an input, to work in place
+        arrays for `freq`, `amp`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -800,7 +801,8 @@ def tone_multi_complex_ex(x, max_tones, dt=1.0, sort=ToneOrder.FREQUENCY, mode=T
     threshold : float, default 0.0
         the least amplitude
     out : tuple or None
-        arrays for `freq`, `amp`, `phase`, `out`, `spectrum`, each may be None; an input, to work in place
+        arrays for `freq`, `amp`, `phase`, `out`, `spectrum`, or None for one to be made; each may be an input, to
+        work in place
 
     Returns
     -------

@@ -76,7 +76,7 @@ def real_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -129,7 +129,7 @@ def complex_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -178,7 +178,7 @@ def real_ifft(x, plan=None, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, x[0] first; otherwise x[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -224,7 +224,7 @@ def complex_ifft(x, plan=None, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, x[0] first; otherwise x[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -274,7 +274,7 @@ def real_fft_2d(x, fft_rows=0, fft_cols=0, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -329,7 +329,7 @@ def complex_fft_2d(x, fft_rows=0, fft_cols=0, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -376,7 +376,7 @@ def real_ifft_2d(x, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, x[0] first; otherwise x[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -421,7 +421,7 @@ def complex_ifft_2d(x, shift=False, *, out=None):
     shift : bool, default False
         0: natural order, x[0] first; otherwise x[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -464,7 +464,7 @@ def split_fft(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the complex numbers
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -508,7 +508,7 @@ def dct(x, fft_size=0, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -550,7 +550,7 @@ def idct(x, *, out=None):
     x : array_like of float64, shape (n,)
         the transform
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -594,7 +594,7 @@ def dst(x, fft_size=0, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -636,7 +636,7 @@ def idst(x, *, out=None):
     x : array_like of float64, shape (n,)
         the transform
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -677,7 +677,7 @@ def dct_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -720,7 +720,7 @@ def idct_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -763,7 +763,7 @@ def dst_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -806,7 +806,7 @@ def idst_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -851,7 +851,7 @@ def hartley(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -891,7 +891,7 @@ def inverse_hartley(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -933,7 +933,7 @@ def hilbert(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -973,7 +973,7 @@ def inverse_hilbert(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1024,7 +1024,7 @@ def chirp_z_real(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     m : int, default 0
         how many points of the spiral; below 1: n
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1084,7 +1084,7 @@ def chirp_z_complex(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     m : int, default 0
         how many points of the spiral; below 1: n
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1139,7 +1139,7 @@ def inverse_chirp_z(x, a, w, m=0, *, out=None):
     m : int, default 0
         how many samples; below 1: n
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1185,7 +1185,7 @@ def auto_power_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         the samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1227,7 +1227,7 @@ def cross_power_complex(x, y, *, out=None):
     y : array_like of complex128, shape (n,)
         the second samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -160,7 +160,7 @@ def anova_two_way(y, level_a, level_b, per_cell, levels_a, levels_b, *, out=None
     levels_b : int
         levels of B, negative for a random factor
     out : array or None
-        the array for `table`; an input, to work in place
+        the array for `table`; it may be an input, to work in place
 
     Returns
     -------
@@ -253,7 +253,7 @@ def anova_three_way(y, level_a, level_b, level_c, per_cell, levels_a, levels_b, 
     levels_c : int
         levels of C, negative for a random factor
     out : array or None
-        the array for `table`; an input, to work in place
+        the array for `table`; it may be an input, to work in place
 
     Returns
     -------

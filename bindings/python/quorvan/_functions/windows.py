@@ -94,7 +94,7 @@ def window_hanning(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -136,7 +136,7 @@ def window_hanning_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -176,7 +176,7 @@ def window_hamming(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -218,7 +218,7 @@ def window_hamming_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -259,7 +259,7 @@ def window_blackman_harris3(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -302,7 +302,7 @@ def window_blackman_harris3_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -343,7 +343,7 @@ def window_exact_blackman(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -386,7 +386,7 @@ def window_exact_blackman_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -426,7 +426,7 @@ def window_blackman(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -468,7 +468,7 @@ def window_blackman_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -509,7 +509,7 @@ def window_flat_top(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -551,7 +551,7 @@ def window_flat_top_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -592,7 +592,7 @@ def window_blackman_nuttall(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -635,7 +635,7 @@ def window_blackman_nuttall_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -678,7 +678,7 @@ def window_cosine_sum(x, a, *, out=None):
     a : array_like of float64, shape (count,)
         coefficients, all positive for the usual windows
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -724,7 +724,7 @@ def window_cosine_sum_complex(x, a, *, out=None):
     a : array_like of float64, shape (count,)
         coefficients, all positive for the usual windows
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -772,7 +772,7 @@ def window_cosine_taper(x, ratio, *, out=None):
     ratio : float
         share of the samples; from 1 on the Hanning window, up to 0 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -817,7 +817,7 @@ def window_cosine_taper_complex(x, ratio, *, out=None):
     ratio : float
         share of the samples; from 1 on the Hanning window, up to 0 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -858,7 +858,7 @@ def window_cosine_taper20(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -897,7 +897,7 @@ def window_triangle(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -938,7 +938,7 @@ def window_triangle_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -978,7 +978,7 @@ def window_bartlett_hanning(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1021,7 +1021,7 @@ def window_bartlett_hanning_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1062,7 +1062,7 @@ def window_bohman(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1104,7 +1104,7 @@ def window_bohman_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1145,7 +1145,7 @@ def window_parzen(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1187,7 +1187,7 @@ def window_parzen_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1227,7 +1227,7 @@ def window_welch(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1269,7 +1269,7 @@ def window_welch_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1314,7 +1314,7 @@ def window_kaiser(x, beta, *, out=None):
     beta : float
         shape, not checked; about pi times half the main lobe in bins
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1358,7 +1358,7 @@ def window_kaiser_complex(x, beta, *, out=None):
     beta : float
         shape, not checked; about pi times half the main lobe in bins
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1401,7 +1401,7 @@ def window_gaussian(x, sigma, *, out=None):
     sigma : float
         standard deviation as a share of the length; not positive means 0.2
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1445,7 +1445,7 @@ def window_gaussian_complex(x, sigma, *, out=None):
     sigma : float
         standard deviation as a share of the length; not positive means 0.2
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1489,7 +1489,7 @@ def window_chebyshev(x, attenuation, *, out=None):
     attenuation : float
         dB, of the sidelobes below the main lobe; negative means 0
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1535,7 +1535,7 @@ def window_chebyshev_complex(x, attenuation, *, out=None):
     attenuation : float
         dB, of the sidelobes below the main lobe; negative means 0
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1579,7 +1579,7 @@ def window_exponential(x, final, *, out=None):
     final : float
         factor of the last sample
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1624,7 +1624,7 @@ def window_exponential_complex(x, final, *, out=None):
     final : float
         factor of the last sample
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1667,7 +1667,7 @@ def window_force(x, duty, *, out=None):
     duty : float
         percent; below 0 clears all, above 100 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1711,7 +1711,7 @@ def window_force_complex(x, duty, *, out=None):
     duty : float
         percent; below 0 clears all, above 100 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1758,7 +1758,7 @@ def window_apply_symmetric(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1808,7 +1808,7 @@ def window_apply_symmetric_complex(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1867,7 +1867,7 @@ def window_apply_scaled(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1928,7 +1928,7 @@ def window_apply_scaled_complex(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1985,7 +1985,7 @@ def window_apply_scaled_plain(x, window, *, out=None):
     window : Window, its name, or int
         a `Window`
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
