@@ -18,6 +18,9 @@ import sys
 import urllib.parse
 
 import boundary
+from python_names import function_name
+
+MANY = 60  # functions that give one status; more than that say little of it
 
 PARTS = (
     ("Frame", "status memory arrays complex"),
@@ -37,7 +40,7 @@ INDEX = """Quorvan reference
 
 Flat functions over plain arrays of doubles. Each has a number, which programs bind (``ZemFunc10``), and a readable name
 (``QvSpecPowerSpectrum``): `all numbers <numbers.html>`_ leads from one to the other, the :ref:`genindex` and the search
-know both.
+know both, and the name in Python.
 
 Sizes are signed 64-bit and must fit 32 bits; -20046 follows otherwise, and nothing is touched. A size below the minimum
 gives -20003 unless the function says otherwise. 0 is success, a positive status a warning with valid results, a negative
@@ -113,10 +116,12 @@ class Pages:
         def link(match):
             word = match.group()
             bare = word.removeprefix("Qv")
+            if word in self.families:
+                return f":doc:`{word}`"
             if bare in self.names:
                 return rf":c:func:`{word} <Qv{bare}>`"
             return f":c:func:`{word}`" if word.startswith("ZemFunc") else word
-        words = re.compile(r"\b(?:ZemFunc\d+|(?:Qv)?[A-Z][a-z]+(?:[A-Z0-9][a-z0-9]*)+)\b")
+        words = re.compile(r"\b(?:[a-z]+_[a-z]+|ZemFunc\d+|(?:Qv)?[A-Z][a-z]+(?:[A-Z0-9][a-z0-9]*)+)\b")
         out, last = "", 0
         for match in words.finditer(text):
             linked = link(match)
@@ -133,6 +138,7 @@ class Pages:
         lines = [f".. c:function:: {export.c_result} Qv{export.name}({arguments})",
                  f"                {export.c_result} {export.symbol}({arguments})", ""]
         lines += ["   " + self.prose(" ".join(export.sentences)), ""]
+        lines += [f"   In Python: ``{function_name(export.name)}``.", ""]
         lines += [f"   :param {a.name}: {self.prose(a.doc)}" for a in export.arguments if a.doc]
         if export.statuses:
             lines += ["   :returns: a status:", ""]
@@ -176,6 +182,11 @@ class Pages:
         for code, text in sorted(self.codes.items(), key=lambda row: (row[0] < 0, abs(row[0]))):
             title = str(code)
             lines += [f".. _status{code}:", "", title, "-" * len(title), "", escaped(text.replace('\\"', '"')), ""]
+            givers = [e for e in self.names.values() if any(other == code for other, _ in e.statuses)]
+            if 0 < len(givers) <= MANY:
+                lines += ["Given by " + ", ".join(f":c:func:`Qv{e.name}`" for e in givers) + ".", ""]
+            elif givers:
+                lines += [f"Given by {len(givers)} functions.", ""]
         return lines
 
     def write(self, folder):

@@ -9,6 +9,7 @@ html_theme_options = {"description": "Numerical analysis for measurement, test a
 html_sidebars = {"**": ["about.html", "navigation.html", "searchbox.html"]}
 html_copy_source = False
 add_function_parentheses = False
+smartquotes = False  # formulas have plain ones
 primary_domain = "c"
 highlight_language = "c"
 nitpicky = True

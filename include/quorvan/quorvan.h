@@ -2392,10 +2392,10 @@ QV_API double ZemFunc327(double x, double v);
  * of the denominator. The caller may read the record: stage s has its a at s w, its b at s (w + 1), its d at s w
  * with the newest value first.
  *
- * A filter is created, designed (see the designs of iir_design), and then applied to any number of blocks;
- * MemoryRelease gives the object back. What enters a delay line or leaves the last stage becomes 0 where its
- * magnitude is 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on
- * denormals. An object belongs to one thread at a time.
+ * A filter is created, designed (see iir_design), and then applied to any number of blocks; MemoryRelease gives the
+ * object back. What enters a delay line or leaves the last stage becomes 0 where its magnitude is
+ * 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals. An object
+ * belongs to one thread at a time.
  * @{
  */
 

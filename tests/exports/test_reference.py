@@ -47,6 +47,22 @@ def test_purpose_is_the_first_sentence(sentences, wanted):
     assert reference.purpose(export) == wanted
 
 
+def test_statuses_lead_back_to_the_functions_that_give_them():
+    page = "\n".join(PAGES.statuses())
+    for code in PAGES.codes:
+        part = page.partition(f".. _status{code}:")[2].partition(".. _status")[0]
+        givers = [e.name for f in FAMILIES for e in f.exports if code in [c for c, _ in e.statuses]]
+        if len(givers) <= reference.MANY:
+            assert re.findall(r":c:func:`Qv(\w+)`", part) == givers
+        else:
+            assert f"Given by {len(givers)} functions" in part
+
+
+def test_names_in_texts_become_links():
+    assert PAGES.prose("as QvArrAdd, ArrCopy's, ZemFunc3; see iir_design, a_b") == (
+        r"as :c:func:`QvArrAdd <QvArrAdd>`, :c:func:`ArrCopy <QvArrCopy>`\ 's, :c:func:`ZemFunc3`; see :doc:`iir_design`, a\_b")
+
+
 def test_dead_link_is_found(tmp_path):
     (tmp_path / "a.html").write_text('<a id="here" href="b.html#there">b</a> <a href="c.html">c</a> <a href="#here">a</a>')
     (tmp_path / "b.html").write_text('<p id="elsewhere"></p><a href="https://quorvan.example/">out</a>')
