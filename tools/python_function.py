@@ -279,7 +279,8 @@ class Function(Text):
                                        "the same behind the last sample", f"{name}_", last=True))
             return
         optional = self.is_optional(a)
-        meaning = re.split(r"[,;] (?:replaced by|the .* when|null|the first m are|becomes its)", a.meaning)[0]
+        meaning = re.split(r"[,;] (?:replaced by|the .* when|null|the first m are|becomes its|out: )", a.meaning)[0]
+        meaning = meaning.removeprefix("in: ")
         self.add(a, name, "ArrayLike | None" if optional else "ArrayLike", words, "None" if optional else None, meaning)
         self.before.append(self.take_array(a, name))
         if a.type == "band":

@@ -106,13 +106,21 @@ class Text:
     def documentation(self, names):
         export = self.export
         sentences = re.sub(r"A null [^.]*\. ?", "", " ".join(export.sentences)).strip()
+        sentences = re.sub(r"\bNull (\w+):", r"Without \1:", sentences)
+        if self.export.name != "MemoryRelease":  # what is to be given back is given back here
+            sentences = re.sub(r"[A-Z][^.]* QvMemoryRelease[^.]*\.", "", sentences).strip()
         head, _, rest = (re.split(r"(?<![. ])(?<![ (][A-Z])\.( )(?=[A-Z])", sentences, 1) + ["", ""])[:3]
-        text = [head.rstrip(".") + ".", ""]
+        if export.sentences[0].endswith("..."):  # a formula that goes on and on
+            head, rest = export.sentences[0], sentences.removeprefix(export.sentences[0]).strip()
+        text = [head if head.endswith("...") else head.rstrip(".") + ".", ""]
         if rest:
             text += [rest, ""]
         if self.parameters:
             text += ["Parameters", "----------"]
             for p in self.parameters:
+                if p.type == "bool":
+                    p.meaning = re.sub(r"^(?:other than|not) 0(:|) ", r"true\1 ", p.meaning)
+                    p.meaning = re.sub(r"^0(:|) (.*)(?:; otherwise|, anything else) ", r"false\1 \2; true\1 ", p.meaning)
                 default = "" if p.default is None else f", default {p.default}"
                 text += [f"{p.name} : {p.words}{default}"]
                 text += ["    " + p.meaning] if p.meaning else []
@@ -146,13 +154,20 @@ class Text:
         notes.append(f"The function {export.symbol} ({export.name}) of the C library.")
         text += ["Notes", "-----", " ".join(notes), ""]
         text += ["Example", "-------", f">>> {self.example()}"]
-        words = "\n".join(re.sub(r"[;,] null(:| writes| ).*", "", line) if line.startswith("    ") else line
-                          for line in text)
+        words = "\n".join(self.without_c(line) if line.startswith("    ") else line for line in text)
         words = translated(words, names, export.name)
         for a in export.arguments:
             if a.name != parameter_name(a.name):
                 words = re.sub(rf"\b{a.name}\b", parameter_name(a.name), words)
         return [piece for line in words.split("\n") for piece in self.wrapped(line)]
+
+    @staticmethod
+    def without_c(line):
+        """A meaning without what only a caller in C can do: pass null, or one array twice."""
+        line = re.sub(r"[;,] null(:| writes| ).*", "", line)
+        line = re.sub(r"; (?:written )?(?:only together|give the \w+) with .*|; give the \w+ with it", "", line)
+        line = re.sub(r"[;.] (?:it |It )?may be x( where that has room)?$", "", line)
+        return re.sub(r"\bnull\b", "None", line)
 
     @staticmethod
     def wrapped(line):

@@ -726,7 +726,7 @@ def qr_pivot(a, pivot_mode=PivotMode.VECTOR, economy=False, *, out=None):
     pivot_mode : PivotMode, its name, or int, default PivotMode.VECTOR
         0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
     economy : bool, default False
-        0: Q is m by m; otherwise Q has min(m, n) columns
+        false: Q is m by m; true: Q has min(m, n) columns
     out : tuple or None
         arrays for `p`, `q`, `r`, or None for one to be made; each may be an input, to work in place
 
@@ -794,7 +794,7 @@ def qr_pivot_complex(a, pivot_mode=PivotMode.VECTOR, economy=False, *, out=None)
     pivot_mode : PivotMode, its name, or int, default PivotMode.VECTOR
         0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
     economy : bool, default False
-        0: Q is m by m; otherwise Q has min(m, n) columns
+        false: Q is m by m; true: Q has min(m, n) columns
     out : tuple or None
         arrays for `p`, `q`, `r`, or None for one to be made; each may be an input, to work in place
 

@@ -56,8 +56,9 @@ class FilterFirResult(NamedTuple):
 
 
 def filter_fir(x, b, input_state=None, *, out=None):
-    r"""Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ... Each sum is added in this order, so that
-    blocks give the bits of the whole.
+    r"""Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ...
+
+    Each sum is added in this order, so that blocks give the bits of the whole.
 
     Parameters
     ----------
@@ -73,7 +74,7 @@ def filter_fir(x, b, input_state=None, *, out=None):
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
     input_state : float64 array of shape (nb - 1,)
         the same behind the last sample
 
@@ -115,8 +116,9 @@ class FilterDirectResult(NamedTuple):
 
 
 def filter_direct(x, b, a=None, output_state=None, input_state=None, *, out=None):
-    r"""Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ... Outputs of magnitude
-    2.2250738585072014e-308 and below become 0; without feedback they stay.
+    r"""Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ...
+
+    Outputs of magnitude 2.2250738585072014e-308 and below become 0; without feedback they stay.
 
     Parameters
     ----------
@@ -136,7 +138,7 @@ def filter_direct(x, b, a=None, output_state=None, input_state=None, *, out=None
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
     output_state : float64 array of shape (na - 1,)
         the same behind the last sample
     input_state : float64 array of shape (nb - 1,)
@@ -199,7 +201,7 @@ def filter_fir_complex(x, b, input_state=None, *, out=None):
     Returns
     -------
     y : complex128 array of shape (n,)
-        the output; may be x
+        the output
     input_state : complex128 array of shape (nb - 1,)
         the same behind the last sample
 
@@ -261,7 +263,7 @@ def filter_direct_complex(x, b, a=None, output_state=None, input_state=None, *, 
     Returns
     -------
     y : complex128 array of shape (n,)
-        the output; may be x
+        the output
     output_state : complex128 array of shape (na - 1,)
         the same behind the last sample
     input_state : complex128 array of shape (nb - 1,)
@@ -317,7 +319,7 @@ def filter_zero_phase(x, a, b, *, out=None):
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------
@@ -373,7 +375,7 @@ def savitzky_golay_design(order, side, weights=None, want_derivatives=True, *, o
     weights : array_like of float64, shape (2 * side + 1,), default None
         the weights of the samples of a frame, by magnitude
     want_derivatives : bool, default True
-        not 0: derivatives are written
+        true: derivatives are written
     out : tuple or None
         arrays for `smoother`, `derivatives`, or None for one to be made; each may be an input, to work in place
 
@@ -442,7 +444,7 @@ def savitzky_golay_filter(x, order, side, weights=None, *, out=None):
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------
@@ -502,7 +504,7 @@ def savitzky_golay_filter_complex(x, order, side, weights=None, *, out=None):
     Returns
     -------
     y : complex128 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------
@@ -557,7 +559,7 @@ def filter_median(x, left_rank, right_rank, *, out=None):
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------

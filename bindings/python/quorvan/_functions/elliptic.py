@@ -52,7 +52,7 @@ _ZemFunc318 = rt.bind("ZemFunc318", "double", "dp")
 
 
 def elliptic_k(m, phi=None):
-    r"""Null phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
+    r"""Without phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
 
     Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1
     infinite from |phi| = pi/2 on. NaN for m outside [0, 1]. Rational forms in 1 - m with its logarithm; the
@@ -88,7 +88,7 @@ _ZemFunc319 = rt.bind("ZemFunc319", "double", "dp")
 
 
 def elliptic_e(m, phi=None):
-    r"""Null phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
+    r"""Without phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
 
     Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E. NaN for m
     outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
@@ -419,11 +419,11 @@ _ZemFunc316 = rt.bind("ZemFunc316", "double", "ddd")
 
 
 def hyperg_1f1(x, a, b):
-    r"""Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ... +Inf for b
-    = 0, -1, -2, ... unless a ends the series before.
+    r"""Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ...
 
-    NaN for infinite parameters, and where no digit would be right. Power series, Kummer's transformation or
-    asymptotic form, the best by its estimated error (Moshier 1989, hyperg).
+    +Inf for b = 0, -1, -2, ... unless a ends the series before. NaN for infinite parameters, and where no digit
+    would be right. Power series, Kummer's transformation or asymptotic form, the best by its estimated error
+    (Moshier 1989, hyperg).
 
     Parameters
     ----------

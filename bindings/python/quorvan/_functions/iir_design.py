@@ -806,7 +806,7 @@ def iir_to_direct_form(filter, *, out=None):
     Raises
     ------
     QuorvanError
-        -20066: the filter is null
+        -20066: the filter is None
         -20021: the order of the record is below 1
         -20061: the kind of the record is none of the four
         -20066: the counts of the record do not fit together, or an array is too short

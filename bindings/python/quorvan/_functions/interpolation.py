@@ -289,7 +289,7 @@ def interp_smoothing_spline(y, balance, x=None, weights=None, smoothness=None, *
     ------
     QuorvanError
         -20006: n is below 2
-        -20002: x is null
+        -20002: x is None
         -20049: the abscissas do not ascend strictly; with a balance of 1: two of three consecutive ones are equal
         -20141: a weight of a sample or of an interval is 0
         -20041: the system is singular (seven samples and more)

@@ -130,13 +130,13 @@ def fit_general_linear_ex(design, y, deviations=None, selector=LinearAlgorithm.S
     Returns
     -------
     fitted : float64 array of shape (m,)
-        the fitted curve, X c; only together with the error
+        the fitted curve, X c
     coefficients : float64 array of shape (n,)
         the coefficients
     covariance : float64 array of shape (n, n)
         the covariance of the coefficients, (X' W X)^-1 with W the weights
     mean_squared_error : float
-        sum of w (y - f)^2 / m; only together with the curve
+        sum of w (y - f)^2 / m
 
     Raises
     ------
@@ -211,7 +211,7 @@ def fit_polynomial(x, y, order, *, out=None):
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; only together with the error
+        the fitted curve
     coefficients : float64 array of shape (order + 1,)
         the coefficients in ascending power
     mean_squared_error : float
@@ -293,7 +293,7 @@ def fit_polynomial_constrained(x, y, order, fixed_orders=None, fixed_values=None
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     coefficients : float64 array of shape (order + 1,)
         the coefficients in ascending power
     mean_squared_error : float
@@ -385,7 +385,7 @@ def fit_polynomial_weighted(x, y, order, weights=None, fixed_orders=None, fixed_
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     coefficients : float64 array of shape (order + 1,)
         the coefficients in ascending power
     mean_squared_error : float

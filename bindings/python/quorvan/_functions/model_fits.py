@@ -76,7 +76,7 @@ def fit_line(x, y, *, out=None):
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     slope : float
         a of y = a x + b
     intercept : float
@@ -137,7 +137,7 @@ def fit_line_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toler
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
@@ -149,7 +149,7 @@ def fit_line_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toler
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     slope : float
         a of y = a x + b
     intercept : float
@@ -224,7 +224,7 @@ def fit_exponential(x, y, *, out=None):
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     a : float
         a of y = a exp(b x)
     b : float
@@ -288,7 +288,7 @@ def fit_exponential_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
@@ -300,7 +300,7 @@ def fit_exponential_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     a : float
         a of y = a exp(b x)
     b : float
@@ -371,7 +371,7 @@ def fit_power(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, tolerance=0
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
@@ -383,7 +383,7 @@ def fit_power(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, tolerance=0
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     a : float
         a of y = a x^b
     b : float
@@ -454,7 +454,7 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     base : float, default 0.0
         the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
@@ -468,7 +468,7 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     a : float
         a of y = a log(b x)
     b : float
@@ -542,7 +542,7 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
@@ -556,7 +556,7 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     amplitude : float
         a of y = a exp(-((x - m) / s)^2 / 2)
     centre : float

@@ -65,18 +65,18 @@ def fit_nonlinear(x, y, model, coefficients, *, out=None):
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     out : tuple or None
         arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Raises
     ------
@@ -137,18 +137,18 @@ def fit_nonlinear_alias(x, y, model, coefficients, *, out=None):
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     out : tuple or None
         arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Notes
     -----
@@ -203,7 +203,7 @@ def fit_nonlinear_limited(x, y, model, coefficients, limit=-1, *, out=None):
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
@@ -212,11 +212,11 @@ def fit_nonlinear_limited(x, y, model, coefficients, limit=-1, *, out=None):
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Raises
     ------
@@ -279,7 +279,7 @@ def fit_nonlinear_limited_alias(x, y, model, coefficients, limit=-1, *, out=None
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
@@ -288,11 +288,11 @@ def fit_nonlinear_limited_alias(x, y, model, coefficients, limit=-1, *, out=None
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Notes
     -----
@@ -350,7 +350,7 @@ def fit_nonlinear_weighted(x, y, model, coefficients, weights=None, limit=-1, *,
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     weights : array_like of float64, shape (n,), default None
         the weights, by magnitude; a sample of weight 0 is left out of the fit
     limit : int, default -1
@@ -435,7 +435,7 @@ def fit_nonlinear_weighted_alias(x, y, model, coefficients, weights=None, limit=
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     weights : array_like of float64, shape (n,), default None
         the weights, by magnitude; a sample of weight 0 is left out of the fit
     limit : int, default -1

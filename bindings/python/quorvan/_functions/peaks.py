@@ -101,9 +101,9 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
     width : int
         least length of a run, 1 to 2^30
     reset : bool, default True
-        other than 0: the block is the first of a new stream
+        true: the block is the first of a new stream
     last : bool, default True
-        other than 0: the stream ends with this block
+        true: the stream ends with this block
     out : array or None
         the array for `indices`; it may be an input, to work in place
 
@@ -159,8 +159,7 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
     The apex must lie within the middle half of the window. Windows of 3 and 4 samples are judged by their
     curvature alone. Of peaks less than one sample apart the higher stands, of valleys the lower. This is not done
     across blocks. The last window of a block waits for the next one; call with last to have all, also to end a
-    stream. The three arrays belong to the caller, who releases each with `memory_release`; they are null where
-    nothing was found and after every failure, which also ends the stream.
+    stream.
 
     Parameters
     ----------
@@ -173,9 +172,9 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
     polarity : PeakPolarity, its name, or int, default PeakPolarity.PEAKS
         0 peaks, 1 valleys; others find nothing
     first : bool, default True
-        other than 0: the block begins a new stream
+        true: the block begins a new stream
     last : bool, default True
-        other than 0: the stream ends with this block
+        true: the stream ends with this block
 
     Returns
     -------

@@ -87,7 +87,7 @@ def pulse_state_levels(x, method=LevelMethod.AUTO, bins=256):
     QuorvanError
         -20317: bins is below 1
         -20001: memory is exhausted
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: the method is above 2
         -20309: all samples are equal; not with method 1
 
@@ -154,7 +154,7 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
     low : float, default 10.0
         lower reference
     percent : bool, default True
-        other than 0: the references are in percent
+        true: the references are in percent
     method : LevelMethod, its name, or int, default LevelMethod.AUTO
         of the state levels, for references in percent
     bins : int, default 256
@@ -184,7 +184,7 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
         -20317: bins is below 1
         -20001: memory is exhausted
         -20323: cycle is below 1
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: percent, and the method is above 2
         -20309: percent with method 0 or 2, and all samples are equal
         -20313: mid is above high or below low
@@ -264,7 +264,7 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
     low : float, default 10.0
         lower reference
     percent : bool, default True
-        other than 0: the references are in percent
+        true: the references are in percent
     method : LevelMethod, its name, or int, default LevelMethod.AUTO
         of the state levels, for references in percent
     bins : int, default 256
@@ -294,7 +294,7 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
         -20317: bins is below 1
         -20001: memory is exhausted
         -20323: cycle is below 1
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: percent, and the method is above 2
         -20309: percent with method 0 or 2, and all samples are equal
         -20313: mid is above high or below low
@@ -380,7 +380,7 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
     low : float, default 10.0
         lower reference
     percent : bool, default True
-        other than 0: the references are in percent
+        true: the references are in percent
     method : LevelMethod, its name, or int, default LevelMethod.AUTO
         of the state levels
     bins : int, default 256
@@ -418,7 +418,7 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
         -20317: bins is below 1
         -20001: memory is exhausted
         -20323: edge is below 1
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: the method is above 2
         -20309: all samples are equal; with method 1 after the first cause of -20313
         -20313: mid is above high or below low; or, after -20311, low is not below high

@@ -411,7 +411,7 @@ def gamma_noise(n, order, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -461,7 +461,7 @@ def poisson_noise(n, mean, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -512,7 +512,7 @@ def binomial_noise(n, trials, probability, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -563,7 +563,7 @@ def bernoulli_noise(n, probability, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -614,7 +614,7 @@ def halton_sequence(n, base, reset=False, *, out=None):
     base : int
         its absolute value counts; taken on the first or a resetting call
     reset : bool, default False
-        not 0 starts at 0 with this base
+        true starts at 0 with this base
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -662,7 +662,7 @@ def weyl_sequence(n, step, reset=False, *, out=None):
     step : float
         its absolute value counts; taken on the first or a resetting call
     reset : bool, default False
-        not 0 starts at 0 with this step
+        true starts at 0 with this step
     out : array or None
         the array for `out`; it may be an input, to work in place
 

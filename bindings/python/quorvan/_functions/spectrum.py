@@ -295,7 +295,7 @@ def amplitude_phase(x, unwrap=False, dt=1.0, *, out=None):
     x : array_like of float64, shape (n,)
         the samples
     unwrap : bool, default False
-        other than 0: the phases are unwrapped as by `unwrap_radians`
+        true: the phases are unwrapped as by `unwrap_radians`
     dt : float, default 1.0
         time between samples
     out : tuple or None

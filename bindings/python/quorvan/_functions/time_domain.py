@@ -210,7 +210,7 @@ def decimate(x, factor, average=False, *, out=None):
     factor : int
         samples that make one result
     average : bool, default False
-        0 takes the first sample of each block, anything else its mean
+        false takes the first sample of each block; true its mean
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -258,7 +258,7 @@ def decimate_complex(x, factor, average=False, *, out=None):
     factor : int
         samples that make one result
     average : bool, default False
-        0 takes the first sample of each block, anything else its mean
+        false takes the first sample of each block; true its mean
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -307,11 +307,11 @@ def decimate_continuous(x, factor, average=False, offset=0, reset=True, *, out=N
     factor : int
         samples that make one result; taken on the first or a resetting call
     average : bool, default False
-        0 takes the first sample of each group, anything else its mean
+        false takes the first sample of each group; true its mean
     offset : int, default 0
         samples to skip at the begin of the signal; taken on the first or a resetting call
     reset : bool, default True
-        not 0 starts a new signal
+        true starts a new signal
     out : array or None
         the array for `x`; it may be an input, to work in place
 
@@ -365,11 +365,11 @@ def decimate_continuous_complex(x, factor, average=False, offset=0, reset=True, 
     factor : int
         samples that make one result; taken on the first or a resetting call
     average : bool, default False
-        0 takes the first sample of each group, anything else its mean
+        false takes the first sample of each group; true its mean
     offset : int, default 0
         samples to skip at the begin of the signal; taken on the first or a resetting call
     reset : bool, default True
-        not 0 starts a new signal
+        true starts a new signal
     out : array or None
         the array for `x`; it may be an input, to work in place
 
@@ -436,7 +436,7 @@ def detect_level_crossing(x, level, hysteresis=0.0, slope=EdgePolarity.RISING, r
     slope : EdgePolarity, its name, or int, default EdgePolarity.RISING
         1 rising, 0 falling; any other finds nothing
     reset : bool, default True
-        not 0 starts a new signal
+        true starts a new signal
 
     Returns
     -------
@@ -497,7 +497,7 @@ def detect_level_crossings(x, levels, hysteresis, slopes, reset=True, *, out=Non
     slopes : array_like of int32, shape (channels,)
         1 rising, 0 falling; any other finds nothing
     reset : bool, default True
-        not 0 starts new signals
+        true starts new signals
     out : tuple or None
         arrays for `indices`, `found`, or None for one to be made; each may be an input, to work in place
 

@@ -72,9 +72,9 @@ def real_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+        false: natural order, X[0] first; true: X[0] in the middle, at the length / 2
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -125,9 +125,9 @@ def complex_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+        false: natural order, X[0] first; true: X[0] in the middle, at the length / 2
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -174,9 +174,9 @@ def real_ifft(x, plan=None, shift=False, *, out=None):
     x : array_like of complex128, shape (n,)
         the spectrum of real data
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle, at the length / 2
+        false: natural order, x[0] first; true: x[0] in the middle, at the length / 2
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -220,9 +220,9 @@ def complex_ifft(x, plan=None, shift=False, *, out=None):
     x : array_like of complex128, shape (n,)
         the spectrum
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle, at the length / 2
+        false: natural order, x[0] first; true: x[0] in the middle, at the length / 2
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -272,7 +272,7 @@ def real_fft_2d(x, fft_rows=0, fft_cols=0, shift=False, *, out=None):
     fft_cols : int, default 0
         columns of the transform; below 1: cols
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+        false: natural order, X[0] first; true: X[0] in the middle of both dimensions
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -327,7 +327,7 @@ def complex_fft_2d(x, fft_rows=0, fft_cols=0, shift=False, *, out=None):
     fft_cols : int, default 0
         columns of the transform; below 1: cols
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+        false: natural order, X[0] first; true: X[0] in the middle of both dimensions
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -374,7 +374,7 @@ def real_ifft_2d(x, shift=False, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the spectrum, row-major
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle of both dimensions
+        false: natural order, x[0] first; true: x[0] in the middle of both dimensions
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -419,7 +419,7 @@ def complex_ifft_2d(x, shift=False, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the spectrum, row-major
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle of both dimensions
+        false: natural order, x[0] first; true: x[0] in the middle of both dimensions
     out : array or None
         the array for `out`; it may be an input, to work in place
 
@@ -513,7 +513,7 @@ def dct(x, fft_size=0, *, out=None):
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1. It may be x where that has room
+        the transform; n elements for an fft_size below 1
 
     Raises
     ------
@@ -555,7 +555,7 @@ def idct(x, *, out=None):
     Returns
     -------
     out : float64 array of shape (n,)
-        the samples; it may be x
+        the samples
 
     Raises
     ------
@@ -599,7 +599,7 @@ def dst(x, fft_size=0, *, out=None):
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1. It may be x where that has room
+        the transform; n elements for an fft_size below 1
 
     Raises
     ------
@@ -641,7 +641,7 @@ def idst(x, *, out=None):
     Returns
     -------
     out : float64 array of shape (n,)
-        the samples; it may be x
+        the samples
 
     Raises
     ------
@@ -682,7 +682,7 @@ def dct_2d(x, *, out=None):
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -725,7 +725,7 @@ def idct_2d(x, *, out=None):
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -768,7 +768,7 @@ def dst_2d(x, *, out=None):
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -811,7 +811,7 @@ def idst_2d(x, *, out=None):
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
