@@ -55,7 +55,6 @@ class Text:
 
     def body(self):
         export, lines = self.export, []
-        arguments = ", ".join(p.name for p in self.parameters)
         if self.name in choices.MANY:
             array, many = choices.MANY[self.name]
             given = ", ".join(f"{p.name}={p.name}" for p in self.parameters)
@@ -66,8 +65,6 @@ class Text:
             # by name: the two may order their parameters differently
             given = ", ".join(f"{p.name}={p.name}" for p in self.parameters)
             lines += [f"if rt.is_complex({', '.join(arrays)}):", f"    return {self.twin}({given}{out})"]
-        if self.elementwise:
-            lines += [f"if rt.many({arguments}):", f"    return rt.each({self.name}, {arguments})"]
         many = len(self.arrays) > 1
         slots = {r.slot: f"_out[{i}]" if many else "out" for i, r in enumerate(self.arrays)}
         if many:
@@ -198,17 +195,26 @@ class Text:
         return f"{', '.join(names)} = {call}" if names else call
 
     def text(self, names):
-        lines = []
+        export, lines = self.export, []
         if self.has_class:
             lines += [f"class {self.result_class}(NamedTuple):", f'    """What `{self.name}` gives."""', ""]
             lines += [f"    {r.name}: {r.type.replace('NDArray', 'np.ndarray').split('[')[0]}" if "NDArray" in r.type
                       else f"    {r.name}: {r.type.replace('WindowProperties', 'rt.WindowProperties')}"
                       for r in self.results] + ["", ""]
+        body = self.body()
+        if self.elementwise:  # the work on scalars stands by itself, for a quick pass over the elements of arrays
+            assert not any(code > 0 for code, _ in export.statuses), "a warning would point a frame too low"
+            arguments = ", ".join(p.name for p in self.parameters)
+            made = f", result={self.result_class}" if self.has_class else ""
+            lines += [f"def _{self.name}({arguments}):"]
+            lines += [piece for line in body for piece in self.folded("    " + line)] + ["", ""]
+            body = [f"if rt.many({arguments}):", f"    return rt.each(_{self.name}, {arguments}{made})",
+                    f"return _{self.name}({arguments})"]
         lines.append(f"def {self.name}({self.signature()}):")
         doc = self.documentation(names)
         lines.append(f'    r"""{doc[0]}')
         lines += ["    " + line if line else "" for line in doc[1:]] + ['    """']
-        lines += [piece for line in self.body() for piece in self.folded("    " + line)]
+        lines += [piece for line in body for piece in self.folded("    " + line)]
         letters = "".join("p" if a.direction in ("in", "out", "inout", "alloc", "handle") else
                           "l" if a.direction == "size" else LETTERS[a.type] for a in self.export.arguments)
         result = "handle" if self.export.result.startswith("handle") else self.export.result

@@ -168,6 +168,21 @@ def test_lists_integers_and_strided_arrays_are_arrays():
     np.testing.assert_array_equal(qv.array_negate(np.arange(3, dtype=">f8")), [0, -1, -2])
 
 
+def test_functions_of_scalars_take_arrays_of_any_shape():
+    x = np.linspace(-2, 2, 6).reshape(2, 3)
+    found = qv.airy(x)
+    assert type(found) is qv.AiryResult and found.ai.shape == found.bi.shape == (2, 3)
+    assert found.bi[1, 2] == qv.airy(2.0).bi
+    assert qv.beta([[1.0], [2.0]], [1, 2, 3]).shape == (2, 3)
+    assert type(qv.airy([])) is qv.AiryResult and qv.airy(np.empty((0, 3))).ai.shape == (0, 3)
+    assert qv.gamma([]).shape == (0,) and qv.gamma([], None).dtype == float
+    np.testing.assert_array_equal(qv.gamma([3, 4], None), [2, 6])
+    with pytest.raises(TypeError, match="a must be a real number, not str"):
+        qv.gamma(["3"])
+    with pytest.raises(ValueError):
+        qv.beta([1.0, 2.0], [1.0, 2.0, 3.0])
+
+
 def test_no_copy_of_what_fits():
     x = np.arange(8.0)
     assert rt.array(x, rt.F8, 1, "x") is x

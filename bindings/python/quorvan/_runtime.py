@@ -3,6 +3,7 @@
 import ctypes
 import difflib
 import enum
+import itertools
 import operator
 import os
 import pathlib
@@ -370,22 +371,25 @@ def taken(address, count):
 
 
 def many(*values):
-    return any(np.ndim(value) > 0 for value in values if value is not None)
+    return any(np.ndim(value) > 0 for value in values if value is not None and type(value) is not float)
 
 
-def each(function, *values):
+def each(function, *values, result=None):
     """A function of scalars over arrays, by the rules of broadcasting; None stays None."""
-    given = [value for value in values if value is not None]
-    broadcast = np.broadcast(*given)
-    rows = []
-    for row in broadcast:
-        elements = iter(row)
-        rows.append(function(*(None if value is None else next(elements).item() for value in values)))
-    if not rows:
-        return np.empty(broadcast.shape)
-    if isinstance(rows[0], tuple):
-        return type(rows[0])(*(np.array(column).reshape(broadcast.shape) for column in zip(*rows)))
-    return np.array(rows).reshape(broadcast.shape)
+    given = iter(np.broadcast_arrays(*(value for value in values if value is not None)))
+    columns, shape = [], ()
+    for value in values:
+        if value is None:
+            columns.append(itertools.repeat(None))
+        else:
+            elements = next(given)
+            shape = elements.shape
+            columns.append(elements.ravel().tolist())
+    rows = list(map(function, *columns))
+    if result:
+        columns = zip(*rows) if rows else [()] * len(result._fields)
+        return result(*(np.array(column).reshape(shape) for column in columns))
+    return np.array(rows).reshape(shape)
 
 
 class Model:

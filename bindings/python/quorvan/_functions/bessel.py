@@ -43,6 +43,12 @@ _max, _min = max, min
 _ZemFunc302 = rt.bind("ZemFunc302", "double", "dd")
 
 
+def _bessel_j(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc302(order, x)
+
+
 def bessel_j(order, x):
     r"""The Bessel function of the first kind J of real order.
 
@@ -71,13 +77,17 @@ def bessel_j(order, x):
     >>> value = qv.bessel_j(order, x)
     """
     if rt.many(order, x):
-        return rt.each(bessel_j, order, x)
-    order = rt.real(order, "order")
-    x = rt.real(x, "x")
-    return _ZemFunc302(order, x)
+        return rt.each(_bessel_j, order, x)
+    return _bessel_j(order, x)
 
 
 _ZemFunc301 = rt.bind("ZemFunc301", "double", "dd")
+
+
+def _bessel_y(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc301(order, x)
 
 
 def bessel_y(order, x):
@@ -107,13 +117,17 @@ def bessel_y(order, x):
     >>> value = qv.bessel_y(order, x)
     """
     if rt.many(order, x):
-        return rt.each(bessel_y, order, x)
-    order = rt.real(order, "order")
-    x = rt.real(x, "x")
-    return _ZemFunc301(order, x)
+        return rt.each(_bessel_y, order, x)
+    return _bessel_y(order, x)
 
 
 _ZemFunc303 = rt.bind("ZemFunc303", "double", "ud")
+
+
+def _spherical_bessel_j(n, x):
+    n = rt.u32(n, "n")
+    x = rt.real(x, "x")
+    return _ZemFunc303(n, x)
 
 
 def spherical_bessel_j(n, x):
@@ -142,13 +156,17 @@ def spherical_bessel_j(n, x):
     >>> value = qv.spherical_bessel_j(n, x)
     """
     if rt.many(n, x):
-        return rt.each(spherical_bessel_j, n, x)
-    n = rt.u32(n, "n")
-    x = rt.real(x, "x")
-    return _ZemFunc303(n, x)
+        return rt.each(_spherical_bessel_j, n, x)
+    return _spherical_bessel_j(n, x)
 
 
 _ZemFunc304 = rt.bind("ZemFunc304", "double", "ud")
+
+
+def _spherical_bessel_y(n, x):
+    n = rt.u32(n, "n")
+    x = rt.real(x, "x")
+    return _ZemFunc304(n, x)
 
 
 def spherical_bessel_y(n, x):
@@ -177,13 +195,17 @@ def spherical_bessel_y(n, x):
     >>> value = qv.spherical_bessel_y(n, x)
     """
     if rt.many(n, x):
-        return rt.each(spherical_bessel_y, n, x)
-    n = rt.u32(n, "n")
-    x = rt.real(x, "x")
-    return _ZemFunc304(n, x)
+        return rt.each(_spherical_bessel_y, n, x)
+    return _spherical_bessel_y(n, x)
 
 
 _ZemFunc305 = rt.bind("ZemFunc305", "double", "dd")
+
+
+def _bessel_i(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc305(order, x)
 
 
 def bessel_i(order, x):
@@ -213,13 +235,17 @@ def bessel_i(order, x):
     >>> value = qv.bessel_i(order, x)
     """
     if rt.many(order, x):
-        return rt.each(bessel_i, order, x)
-    order = rt.real(order, "order")
-    x = rt.real(x, "x")
-    return _ZemFunc305(order, x)
+        return rt.each(_bessel_i, order, x)
+    return _bessel_i(order, x)
 
 
 _ZemFunc306 = rt.bind("ZemFunc306", "double", "ud")
+
+
+def _bessel_k(n, x):
+    n = rt.u32(n, "n")
+    x = rt.real(x, "x")
+    return _ZemFunc306(n, x)
 
 
 def bessel_k(n, x):
@@ -248,13 +274,17 @@ def bessel_k(n, x):
     >>> value = qv.bessel_k(n, x)
     """
     if rt.many(n, x):
-        return rt.each(bessel_k, n, x)
-    n = rt.u32(n, "n")
-    x = rt.real(x, "x")
-    return _ZemFunc306(n, x)
+        return rt.each(_bessel_k, n, x)
+    return _bessel_k(n, x)
 
 
 _ZemFunc328 = rt.bind("ZemFunc328", "double", "dd")
+
+
+def _struve(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc328(order, x)
 
 
 def struve(order, x):
@@ -283,10 +313,8 @@ def struve(order, x):
     >>> value = qv.struve(order, x)
     """
     if rt.many(order, x):
-        return rt.each(struve, order, x)
-    order = rt.real(order, "order")
-    x = rt.real(x, "x")
-    return _ZemFunc328(order, x)
+        return rt.each(_struve, order, x)
+    return _struve(order, x)
 
 
 _ZemFunc330 = rt.bind("ZemFunc330", "none", "dpp")
@@ -297,6 +325,14 @@ class AiryResult(NamedTuple):
 
     ai: float
     bi: float
+
+
+def _airy(x):
+    x = rt.real(x, "x")
+    ai_ = ctypes.c_double()
+    bi_ = ctypes.c_double()
+    _ZemFunc330(x, ctypes.byref(ai_), ctypes.byref(bi_))
+    return AiryResult(ai_.value, bi_.value)
 
 
 def airy(x):
@@ -323,15 +359,19 @@ def airy(x):
     >>> ai, bi = qv.airy(x)
     """
     if rt.many(x):
-        return rt.each(airy, x)
-    x = rt.real(x, "x")
-    ai_ = ctypes.c_double()
-    bi_ = ctypes.c_double()
-    _ZemFunc330(x, ctypes.byref(ai_), ctypes.byref(bi_))
-    return AiryResult(ai_.value, bi_.value)
+        return rt.each(_airy, x, result=AiryResult)
+    return _airy(x)
 
 
 _ZemFunc333 = rt.bind("ZemFunc333", "none", "dup")
+
+
+def _kelvin_be(x, n):
+    x = rt.real(x, "x")
+    n = rt.u32(n, "n")
+    out_ = rt.Complex()
+    _ZemFunc333(x, n, ctypes.byref(out_))
+    return complex(out_.re, out_.im)
 
 
 def kelvin_be(x, n):
@@ -360,15 +400,19 @@ def kelvin_be(x, n):
     >>> out = qv.kelvin_be(x, n)
     """
     if rt.many(x, n):
-        return rt.each(kelvin_be, x, n)
-    x = rt.real(x, "x")
-    n = rt.u32(n, "n")
-    out_ = rt.Complex()
-    _ZemFunc333(x, n, ctypes.byref(out_))
-    return complex(out_.re, out_.im)
+        return rt.each(_kelvin_be, x, n)
+    return _kelvin_be(x, n)
 
 
 _ZemFunc334 = rt.bind("ZemFunc334", "none", "dup")
+
+
+def _kelvin_ke(x, n):
+    x = rt.real(x, "x")
+    n = rt.u32(n, "n")
+    out_ = rt.Complex()
+    _ZemFunc334(x, n, ctypes.byref(out_))
+    return complex(out_.re, out_.im)
 
 
 def kelvin_ke(x, n):
@@ -397,9 +441,5 @@ def kelvin_ke(x, n):
     >>> out = qv.kelvin_ke(x, n)
     """
     if rt.many(x, n):
-        return rt.each(kelvin_ke, x, n)
-    x = rt.real(x, "x")
-    n = rt.u32(n, "n")
-    out_ = rt.Complex()
-    _ZemFunc334(x, n, ctypes.byref(out_))
-    return complex(out_.re, out_.im)
+        return rt.each(_kelvin_ke, x, n)
+    return _kelvin_ke(x, n)

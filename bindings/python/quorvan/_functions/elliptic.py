@@ -51,6 +51,11 @@ _max, _min = max, min
 _ZemFunc318 = rt.bind("ZemFunc318", "double", "dp")
 
 
+def _elliptic_k(m, phi):
+    m = rt.real(m, "m")
+    return _ZemFunc318(m, rt.optional(phi, "phi"))
+
+
 def elliptic_k(m, phi=None):
     r"""Without phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
 
@@ -79,12 +84,16 @@ def elliptic_k(m, phi=None):
     >>> value = qv.elliptic_k(m)
     """
     if rt.many(m, phi):
-        return rt.each(elliptic_k, m, phi)
-    m = rt.real(m, "m")
-    return _ZemFunc318(m, rt.optional(phi, "phi"))
+        return rt.each(_elliptic_k, m, phi)
+    return _elliptic_k(m, phi)
 
 
 _ZemFunc319 = rt.bind("ZemFunc319", "double", "dp")
+
+
+def _elliptic_e(m, phi):
+    m = rt.real(m, "m")
+    return _ZemFunc319(m, rt.optional(phi, "phi"))
 
 
 def elliptic_e(m, phi=None):
@@ -114,9 +123,8 @@ def elliptic_e(m, phi=None):
     >>> value = qv.elliptic_e(m)
     """
     if rt.many(m, phi):
-        return rt.each(elliptic_e, m, phi)
-    m = rt.real(m, "m")
-    return _ZemFunc319(m, rt.optional(phi, "phi"))
+        return rt.each(_elliptic_e, m, phi)
+    return _elliptic_e(m, phi)
 
 
 _ZemFunc332 = rt.bind("ZemFunc332", "none", "ddpppp")
@@ -129,6 +137,17 @@ class JacobiEllipticResult(NamedTuple):
     cn: float
     dn: float
     phi: float
+
+
+def _jacobi_elliptic(u, m):
+    u = rt.real(u, "u")
+    m = rt.real(m, "m")
+    sn_ = ctypes.c_double()
+    cn_ = ctypes.c_double()
+    dn_ = ctypes.c_double()
+    phi_ = ctypes.c_double()
+    _ZemFunc332(u, m, ctypes.byref(sn_), ctypes.byref(cn_), ctypes.byref(dn_), ctypes.byref(phi_))
+    return JacobiEllipticResult(sn_.value, cn_.value, dn_.value, phi_.value)
 
 
 def jacobi_elliptic(u, m):
@@ -161,18 +180,16 @@ def jacobi_elliptic(u, m):
     >>> result = qv.jacobi_elliptic(u, m)
     """
     if rt.many(u, m):
-        return rt.each(jacobi_elliptic, u, m)
-    u = rt.real(u, "u")
-    m = rt.real(m, "m")
-    sn_ = ctypes.c_double()
-    cn_ = ctypes.c_double()
-    dn_ = ctypes.c_double()
-    phi_ = ctypes.c_double()
-    _ZemFunc332(u, m, ctypes.byref(sn_), ctypes.byref(cn_), ctypes.byref(dn_), ctypes.byref(phi_))
-    return JacobiEllipticResult(sn_.value, cn_.value, dn_.value, phi_.value)
+        return rt.each(_jacobi_elliptic, u, m, result=JacobiEllipticResult)
+    return _jacobi_elliptic(u, m)
 
 
 _ZemFunc320 = rt.bind("ZemFunc320", "double", "d")
+
+
+def _dawson(x):
+    x = rt.real(x, "x")
+    return _ZemFunc320(x)
 
 
 def dawson(x):
@@ -199,9 +216,8 @@ def dawson(x):
     >>> value = qv.dawson(x)
     """
     if rt.many(x):
-        return rt.each(dawson, x)
-    x = rt.real(x, "x")
-    return _ZemFunc320(x)
+        return rt.each(_dawson, x)
+    return _dawson(x)
 
 
 _ZemFunc331 = rt.bind("ZemFunc331", "none", "dpp")
@@ -212,6 +228,14 @@ class FresnelResult(NamedTuple):
 
     s: float
     c: float
+
+
+def _fresnel(x):
+    x = rt.real(x, "x")
+    s_ = ctypes.c_double()
+    c_ = ctypes.c_double()
+    _ZemFunc331(x, ctypes.byref(s_), ctypes.byref(c_))
+    return FresnelResult(s_.value, c_.value)
 
 
 def fresnel(x):
@@ -240,15 +264,17 @@ def fresnel(x):
     >>> s, c = qv.fresnel(x)
     """
     if rt.many(x):
-        return rt.each(fresnel, x)
-    x = rt.real(x, "x")
-    s_ = ctypes.c_double()
-    c_ = ctypes.c_double()
-    _ZemFunc331(x, ctypes.byref(s_), ctypes.byref(c_))
-    return FresnelResult(s_.value, c_.value)
+        return rt.each(_fresnel, x, result=FresnelResult)
+    return _fresnel(x)
 
 
 _ZemFunc321 = rt.bind("ZemFunc321", "double", "di")
+
+
+def _exp_integral_n(x, n):
+    x = rt.real(x, "x")
+    n = rt.i32(n, "n")
+    return _ZemFunc321(x, n)
 
 
 def exp_integral_n(x, n):
@@ -278,13 +304,16 @@ def exp_integral_n(x, n):
     >>> value = qv.exp_integral_n(x, n)
     """
     if rt.many(x, n):
-        return rt.each(exp_integral_n, x, n)
-    x = rt.real(x, "x")
-    n = rt.i32(n, "n")
-    return _ZemFunc321(x, n)
+        return rt.each(_exp_integral_n, x, n)
+    return _exp_integral_n(x, n)
 
 
 _ZemFunc322 = rt.bind("ZemFunc322", "double", "d")
+
+
+def _sine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc322(x)
 
 
 def sine_integral(x):
@@ -311,12 +340,16 @@ def sine_integral(x):
     >>> value = qv.sine_integral(x)
     """
     if rt.many(x):
-        return rt.each(sine_integral, x)
-    x = rt.real(x, "x")
-    return _ZemFunc322(x)
+        return rt.each(_sine_integral, x)
+    return _sine_integral(x)
 
 
 _ZemFunc323 = rt.bind("ZemFunc323", "double", "d")
+
+
+def _cosine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc323(x)
 
 
 def cosine_integral(x):
@@ -344,12 +377,16 @@ def cosine_integral(x):
     >>> value = qv.cosine_integral(x)
     """
     if rt.many(x):
-        return rt.each(cosine_integral, x)
-    x = rt.real(x, "x")
-    return _ZemFunc323(x)
+        return rt.each(_cosine_integral, x)
+    return _cosine_integral(x)
 
 
 _ZemFunc325 = rt.bind("ZemFunc325", "double", "d")
+
+
+def _hyperbolic_sine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc325(x)
 
 
 def hyperbolic_sine_integral(x):
@@ -377,12 +414,16 @@ def hyperbolic_sine_integral(x):
     >>> value = qv.hyperbolic_sine_integral(x)
     """
     if rt.many(x):
-        return rt.each(hyperbolic_sine_integral, x)
-    x = rt.real(x, "x")
-    return _ZemFunc325(x)
+        return rt.each(_hyperbolic_sine_integral, x)
+    return _hyperbolic_sine_integral(x)
 
 
 _ZemFunc324 = rt.bind("ZemFunc324", "double", "d")
+
+
+def _hyperbolic_cosine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc324(x)
 
 
 def hyperbolic_cosine_integral(x):
@@ -410,12 +451,18 @@ def hyperbolic_cosine_integral(x):
     >>> value = qv.hyperbolic_cosine_integral(x)
     """
     if rt.many(x):
-        return rt.each(hyperbolic_cosine_integral, x)
-    x = rt.real(x, "x")
-    return _ZemFunc324(x)
+        return rt.each(_hyperbolic_cosine_integral, x)
+    return _hyperbolic_cosine_integral(x)
 
 
 _ZemFunc316 = rt.bind("ZemFunc316", "double", "ddd")
+
+
+def _hyperg_1f1(x, a, b):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc316(x, a, b)
 
 
 def hyperg_1f1(x, a, b):
@@ -448,14 +495,18 @@ def hyperg_1f1(x, a, b):
     >>> value = qv.hyperg_1f1(x, a, b)
     """
     if rt.many(x, a, b):
-        return rt.each(hyperg_1f1, x, a, b)
-    x = rt.real(x, "x")
-    a = rt.real(a, "a")
-    b = rt.real(b, "b")
-    return _ZemFunc316(x, a, b)
+        return rt.each(_hyperg_1f1, x, a, b)
+    return _hyperg_1f1(x, a, b)
 
 
 _ZemFunc317 = rt.bind("ZemFunc317", "double", "ddd")
+
+
+def _hyperg_u(x, a, b):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc317(x, a, b)
 
 
 def hyperg_u(x, a, b):
@@ -488,14 +539,19 @@ def hyperg_u(x, a, b):
     >>> value = qv.hyperg_u(x, a, b)
     """
     if rt.many(x, a, b):
-        return rt.each(hyperg_u, x, a, b)
-    x = rt.real(x, "x")
-    a = rt.real(a, "a")
-    b = rt.real(b, "b")
-    return _ZemFunc317(x, a, b)
+        return rt.each(_hyperg_u, x, a, b)
+    return _hyperg_u(x, a, b)
 
 
 _ZemFunc386 = rt.bind("ZemFunc386", "double", "dddd")
+
+
+def _hyperg_2f1(x, a, b, c):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    c = rt.real(c, "c")
+    return _ZemFunc386(x, a, b, c)
 
 
 def hyperg_2f1(x, a, b, c):
@@ -531,15 +587,19 @@ def hyperg_2f1(x, a, b, c):
     >>> value = qv.hyperg_2f1(x, a, b, c)
     """
     if rt.many(x, a, b, c):
-        return rt.each(hyperg_2f1, x, a, b, c)
+        return rt.each(_hyperg_2f1, x, a, b, c)
+    return _hyperg_2f1(x, a, b, c)
+
+
+_ZemFunc315 = rt.bind("ZemFunc315", "double", "dddd")
+
+
+def _hyperg_2f1_transformed(x, a, b, c):
     x = rt.real(x, "x")
     a = rt.real(a, "a")
     b = rt.real(b, "b")
     c = rt.real(c, "c")
-    return _ZemFunc386(x, a, b, c)
-
-
-_ZemFunc315 = rt.bind("ZemFunc315", "double", "dddd")
+    return _ZemFunc315(x, a, b, c)
 
 
 def hyperg_2f1_transformed(x, a, b, c):
@@ -570,15 +630,17 @@ def hyperg_2f1_transformed(x, a, b, c):
     >>> value = qv.hyperg_2f1_transformed(x, a, b, c)
     """
     if rt.many(x, a, b, c):
-        return rt.each(hyperg_2f1_transformed, x, a, b, c)
-    x = rt.real(x, "x")
-    a = rt.real(a, "a")
-    b = rt.real(b, "b")
-    c = rt.real(c, "c")
-    return _ZemFunc315(x, a, b, c)
+        return rt.each(_hyperg_2f1_transformed, x, a, b, c)
+    return _hyperg_2f1_transformed(x, a, b, c)
 
 
 _ZemFunc327 = rt.bind("ZemFunc327", "double", "dd")
+
+
+def _parabolic_cylinder(x, v):
+    x = rt.real(x, "x")
+    v = rt.real(v, "v")
+    return _ZemFunc327(x, v)
 
 
 def parabolic_cylinder(x, v):
@@ -609,7 +671,5 @@ def parabolic_cylinder(x, v):
     >>> value = qv.parabolic_cylinder(x, v)
     """
     if rt.many(x, v):
-        return rt.each(parabolic_cylinder, x, v)
-    x = rt.real(x, "x")
-    v = rt.real(v, "v")
-    return _ZemFunc327(x, v)
+        return rt.each(_parabolic_cylinder, x, v)
+    return _parabolic_cylinder(x, v)

@@ -42,6 +42,12 @@ _max, _min = max, min
 _ZemFunc307 = rt.bind("ZemFunc307", "double", "ddp")
 
 
+def _beta(a, b, x):
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc307(a, b, rt.optional(x, "x"))
+
+
 def beta(a, b, x=None):
     r"""Without x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b).
 
@@ -71,13 +77,16 @@ def beta(a, b, x=None):
     >>> value = qv.beta(a, b)
     """
     if rt.many(a, b, x):
-        return rt.each(beta, a, b, x)
-    a = rt.real(a, "a")
-    b = rt.real(b, "b")
-    return _ZemFunc307(a, b, rt.optional(x, "x"))
+        return rt.each(_beta, a, b, x)
+    return _beta(a, b, x)
 
 
 _ZemFunc308 = rt.bind("ZemFunc308", "double", "l")
+
+
+def _factorial(n):
+    n = rt.i64(n, "n")
+    return _ZemFunc308(n)
 
 
 def factorial(n):
@@ -102,12 +111,16 @@ def factorial(n):
     >>> value = qv.factorial(n)
     """
     if rt.many(n):
-        return rt.each(factorial, n)
-    n = rt.i64(n, "n")
-    return _ZemFunc308(n)
+        return rt.each(_factorial, n)
+    return _factorial(n)
 
 
 _ZemFunc309 = rt.bind("ZemFunc309", "double", "dp")
+
+
+def _gamma(a, x):
+    a = rt.real(a, "a")
+    return _ZemFunc309(a, rt.optional(x, "x"))
 
 
 def gamma(a, x=None):
@@ -137,12 +150,17 @@ def gamma(a, x=None):
     >>> value = qv.gamma(a)
     """
     if rt.many(a, x):
-        return rt.each(gamma, a, x)
-    a = rt.real(a, "a")
-    return _ZemFunc309(a, rt.optional(x, "x"))
+        return rt.each(_gamma, a, x)
+    return _gamma(a, x)
 
 
 _ZemFunc310 = rt.bind("ZemFunc310", "double", "dd")
+
+
+def _incomplete_gamma_complement(a, x):
+    a = rt.real(a, "a")
+    x = rt.real(x, "x")
+    return _ZemFunc310(a, x)
 
 
 def incomplete_gamma_complement(a, x):
@@ -171,13 +189,16 @@ def incomplete_gamma_complement(a, x):
     >>> value = qv.incomplete_gamma_complement(a, x)
     """
     if rt.many(a, x):
-        return rt.each(incomplete_gamma_complement, a, x)
-    a = rt.real(a, "a")
-    x = rt.real(x, "x")
-    return _ZemFunc310(a, x)
+        return rt.each(_incomplete_gamma_complement, a, x)
+    return _incomplete_gamma_complement(a, x)
 
 
 _ZemFunc311 = rt.bind("ZemFunc311", "double", "u")
+
+
+def _ln_factorial(n):
+    n = rt.u32(n, "n")
+    return _ZemFunc311(n)
 
 
 def ln_factorial(n):
@@ -202,12 +223,16 @@ def ln_factorial(n):
     >>> value = qv.ln_factorial(n)
     """
     if rt.many(n):
-        return rt.each(ln_factorial, n)
-    n = rt.u32(n, "n")
-    return _ZemFunc311(n)
+        return rt.each(_ln_factorial, n)
+    return _ln_factorial(n)
 
 
 _ZemFunc312 = rt.bind("ZemFunc312", "double", "d")
+
+
+def _ln_gamma(x):
+    x = rt.real(x, "x")
+    return _ZemFunc312(x)
 
 
 def ln_gamma(x):
@@ -232,12 +257,16 @@ def ln_gamma(x):
     >>> value = qv.ln_gamma(x)
     """
     if rt.many(x):
-        return rt.each(ln_gamma, x)
-    x = rt.real(x, "x")
-    return _ZemFunc312(x)
+        return rt.each(_ln_gamma, x)
+    return _ln_gamma(x)
 
 
 _ZemFunc313 = rt.bind("ZemFunc313", "double", "d")
+
+
+def _digamma(x):
+    x = rt.real(x, "x")
+    return _ZemFunc313(x)
 
 
 def digamma(x):
@@ -262,12 +291,16 @@ def digamma(x):
     >>> value = qv.digamma(x)
     """
     if rt.many(x):
-        return rt.each(digamma, x)
-    x = rt.real(x, "x")
-    return _ZemFunc313(x)
+        return rt.each(_digamma, x)
+    return _digamma(x)
 
 
 _ZemFunc314 = rt.bind("ZemFunc314", "double", "d")
+
+
+def _gamma_stirling(x):
+    x = rt.real(x, "x")
+    return _ZemFunc314(x)
 
 
 def gamma_stirling(x):
@@ -295,12 +328,16 @@ def gamma_stirling(x):
     >>> value = qv.gamma_stirling(x)
     """
     if rt.many(x):
-        return rt.each(gamma_stirling, x)
-    x = rt.real(x, "x")
-    return _ZemFunc314(x)
+        return rt.each(_gamma_stirling, x)
+    return _gamma_stirling(x)
 
 
 _ZemFunc326 = rt.bind("ZemFunc326", "double", "d")
+
+
+def _dilogarithm(x):
+    x = rt.real(x, "x")
+    return _ZemFunc326(x)
 
 
 def dilogarithm(x):
@@ -327,12 +364,16 @@ def dilogarithm(x):
     >>> value = qv.dilogarithm(x)
     """
     if rt.many(x):
-        return rt.each(dilogarithm, x)
-    x = rt.real(x, "x")
-    return _ZemFunc326(x)
+        return rt.each(_dilogarithm, x)
+    return _dilogarithm(x)
 
 
 _ZemFunc329 = rt.bind("ZemFunc329", "double", "d")
+
+
+def _zeta(x):
+    x = rt.real(x, "x")
+    return _ZemFunc329(x)
 
 
 def zeta(x):
@@ -357,6 +398,5 @@ def zeta(x):
     >>> value = qv.zeta(x)
     """
     if rt.many(x):
-        return rt.each(zeta, x)
-    x = rt.real(x, "x")
-    return _ZemFunc329(x)
+        return rt.each(_zeta, x)
+    return _zeta(x)
