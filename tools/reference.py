@@ -58,11 +58,11 @@ TYPES = """Types
 CPP = """C++20
 =====
 
-``quorvan/quorvan.hpp`` puts a thin layer over the C functions: ``qv::call`` takes one of them with its arguments in order,
-contiguous ranges where it wants pointers and ``qv::out`` where it writes a scalar. What comes back is a ``qv::Result``: the
-value, or several as a tuple, or a status below 0 with its text; ``value()`` throws ``qv::Error`` then. Objects of the library
-have owners: ``qv::FftPlan``, ``qv::IirFilter``, ``qv::IirStateComplex``, ``qv::FirNarrowband``; and ``qv::Array`` takes an
-array that the library allocated.
+``quorvan/quorvan.hpp`` puts a thin layer over the C functions: ``qv::call`` takes one of them with its arguments in
+order, contiguous ranges where it wants pointers and ``qv::out`` where it writes a scalar. What comes back is a
+``qv::Result``: the value, or several as a tuple, or a status below 0 with its text; ``value()`` throws ``qv::Error``
+then. Objects of the library have owners: ``qv::FftPlan``, ``qv::IirFilter``, ``qv::IirStateComplex``,
+``qv::FirNarrowband``; and ``qv::Array`` takes an array that the library allocated.
 
 .. code-block:: cpp
 
@@ -79,8 +79,8 @@ array that the library allocated.
    qv::call(QvIirDesignButterworth, 1000, 100, 0, lowpass).value();
    qv::call(QvIirCascadeApply, x, x.size(), lowpass, x).value();
 
-The room of an array is the caller's affair, as in C. Functions that give their value themselves (special functions) need no
-layer. The whole of it:
+The room of an array is the caller's affair, as in C. Functions that give their value themselves (special functions)
+need no layer. The whole of it:
 
 .. literalinclude:: quorvan.hpp
    :language: cpp
@@ -161,7 +161,8 @@ class Pages:
         lines += [".. list-table::", "   :widths: 12 30 58", "   :header-rows: 1", "", "   * - number", "     - name",
                   "     - purpose"]
         for e in ready:
-            lines += [f"   * - :c:func:`{e.symbol}`", f"     - :c:func:`Qv{e.name}`", f"     - {self.prose(purpose(e))}"]
+            lines += [f"   * - :c:func:`{e.symbol}`", f"     - :c:func:`Qv{e.name}`",
+                      f"     - {self.prose(purpose(e))}"]
         lines += [""]
         for export in ready:
             lines += [export.name, "-" * len(export.name), "", *self.function(export)]
@@ -200,7 +201,8 @@ class Pages:
         unlisted = set(self.families) - set(listed)
         if unlisted:
             raise SystemExit(f"tools/reference.py: no part for {', '.join(sorted(unlisted))}")
-        index += [".. toctree::\n   :maxdepth: 1\n   :caption: Tables\n", "   numbers", "   statuses", "   types", "   cpp"]
+        index += [".. toctree::\n   :maxdepth: 1\n   :caption: Tables\n",
+                  *(f"   {name}" for name in ("numbers", "statuses", "types", "cpp"))]
         page("index", index)
         page("numbers", self.numbers())
         page("statuses", self.statuses())

@@ -68,9 +68,9 @@ def load_library():
     try:
         return ctypes.CDLL(place)
     except OSError as error:
-        raise ImportError(f"quorvan needs its shared object, and {place} cannot be loaded ({error}). Build and install the "
-                          "library, name a libquorvan.so in QUORVAN_LIBRARY, or install the wheel, which carries one."
-                          ) from None
+        raise ImportError(
+            f"quorvan needs its shared object, and {place} cannot be loaded ({error}). Build and install the library, "
+            "name a libquorvan.so in QUORVAN_LIBRARY, or install the wheel, which carries one.") from None
 
 
 library = load_library()
