@@ -32,7 +32,7 @@ The table is one text file for each family. Its grammar, line by line:
 TYPE is one of double, complex, int32, uint32, int64, text, window (properties), band (of a filter), model (function),
 or a handle's name: TYPE Name is the record QvName of quorvan/types.h, `block` is any block that the library allocated.
 SHAPE is an integer expression over the integer arguments of the same export, by value or by address, in Python's
-notation: + - * / % == min max and "a if condition else b"; the quotient truncates. Empty: the meaning tells the room.
+notation: + - * / % == > min max and "a if condition else b"; the quotient truncates. Empty: the meaning tells the room.
 """
 
 import ast
@@ -68,7 +68,7 @@ INTEGERS = ("int32", "uint32", "int64")
 DIRECTIONS = ("in", "out", "inout", "alloc", "value", "size", "handle")
 # What a shape may be made of.
 SHAPE_NODES = (ast.Expression, ast.BinOp, ast.Add, ast.Sub, ast.Mult, ast.Div, ast.Mod, ast.IfExp, ast.Compare, ast.Eq,
-               ast.Call, ast.Name, ast.Load, ast.Constant)
+               ast.Gt, ast.Call, ast.Name, ast.Load, ast.Constant)
 
 
 @dataclass

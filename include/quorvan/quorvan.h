@@ -988,7 +988,7 @@ QV_API QvStatus ZemFunc391(const QvComplex* x, int64_t n, const QvComplex* y, in
 /**
  * CorrelateReal.
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
- * If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * If x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -1005,7 +1005,7 @@ QV_API QvStatus ZemFunc33(const double* x, int64_t n, const double* y, int64_t m
  * CorrelateRealBy (CorrelateReal).
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
  * A method other than 0 and 1 does nothing and succeeds.
- * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -1023,7 +1023,7 @@ QV_API QvStatus ZemFunc373(const double* x, int64_t n, const double* y, int64_t 
  * CorrelateRealNormalised (CorrelateReal).
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
  * A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a failure.
- * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -2556,6 +2556,7 @@ QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  * @code
@@ -2579,6 +2580,7 @@ QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, d
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20033 taps is even: the response would be 0 at fs/2
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
@@ -2602,6 +2604,7 @@ QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, d
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2624,6 +2627,7 @@ QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4,
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20033 taps is even: the response would be 0 at fs/2
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
@@ -2648,6 +2652,7 @@ QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4,
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2672,6 +2677,7 @@ QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2697,6 +2703,7 @@ QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2723,6 +2730,7 @@ QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2746,6 +2754,7 @@ QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2770,6 +2779,7 @@ QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2795,6 +2805,7 @@ QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2821,6 +2832,7 @@ QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -8159,7 +8171,7 @@ QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t so
  * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
  *
  *     Fourier    X[k] = sum over j of x[j] exp(-2 pi i j k / N)
- *     x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
+ *     inverse    x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
  *     cosine     X[k] = c(k) sqrt(2/N) sum over j of x[j] cos(pi k (2j + 1) / (2N)),    c(0) = 1 / sqrt(2), else 1
  *     sine       X[k - 1] = sum over j of x[j] sin(pi k (j + 1) / (N + 1)),  k = 1 to N,    inverse with 2 / (N + 1)
  *     Hartley    X[k] = sum over j of x[j] (cos + sin)(2 pi j k / N),   inverse with 1/N
@@ -8183,7 +8195,7 @@ QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t so
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
  * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
- * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @param out written, [fftSize if fftSize > 0 else n]: the spectrum, one record for each bin
  * @retval -20003 n is below 1
  * @retval -20070 the plan is of another length
  * @retval -20001 memory is exhausted
@@ -8203,7 +8215,7 @@ QV_API QvStatus ZemFunc262(const double* x, int64_t n, int64_t fftSize, QvFftPla
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
  * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
- * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @param out written, [fftSize if fftSize > 0 else n]: the spectrum, one record for each bin
  * @retval -20003 n is below 1
  * @retval -20070 the plan is of another length
  * @retval -20001 memory is exhausted
@@ -8252,7 +8264,7 @@ QV_API QvStatus ZemFunc265(const QvComplex* X, int64_t n, QvFftPlan* plan, int32
  * @param fftRows rows of the transform; below 1: rows
  * @param fftCols columns of the transform; below 1: cols
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
- * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @param out written, [(fftRows if fftRows > 0 else rows) * (fftCols if fftCols > 0 else cols)]: the spectrum, row-major
  * @retval -20003 rows or cols is below 1
  * @retval -20046 the result has more than 2^31 - 1 elements
  * @retval -20001 memory is exhausted
@@ -8270,7 +8282,7 @@ QV_API QvStatus ZemFunc266(const double* x, int64_t rows, int64_t cols, int64_t 
  * @param fftRows rows of the transform; below 1: rows
  * @param fftCols columns of the transform; below 1: cols
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
- * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @param out written, [(fftRows if fftRows > 0 else rows) * (fftCols if fftCols > 0 else cols)]: the spectrum, row-major
  * @retval -20003 rows or cols is below 1
  * @retval -20046 the result has more than 2^31 - 1 elements
  * @retval -20001 memory is exhausted
@@ -8327,7 +8339,7 @@ QV_API QvStatus ZemFunc77(double* re, double* im, int64_t n);
  * @param x read, [n]: the samples
  * @param n how many samples there are
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
- * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @param out written, [fftSize if fftSize > 0 else n]: the transform; it may be x where that has room
  * @retval -20046 2 L does not fit 32 bits, with L the length of the transform
  * @retval -20003 n is below 1
  * @retval -20001 memory is exhausted
@@ -8355,7 +8367,7 @@ QV_API QvStatus ZemFunc271(const double* x, int64_t n, double* out);
  * @param x read, [n]: the samples
  * @param n how many samples there are
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
- * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @param out written, [fftSize if fftSize > 0 else n]: the transform; it may be x where that has room
  * @retval -20046 2 L + 2 does not fit 32 bits, with L the length of the transform
  * @retval -20003 n is below 1
  * @retval -20001 memory is exhausted
@@ -8493,7 +8505,7 @@ QV_API QvStatus ZemFunc76(double* x, int64_t n);
  * @param w the ratio of neighbouring points
  * @param method 0: the sum itself; 1: Bluestein's algorithm
  * @param m how many points of the spiral; below 1: n
- * @param out written, [m]: the transform; n records for an m below 1
+ * @param out written, [m if m > 0 else n]: the transform
  * @retval -20003 n is below 1
  * @retval -20061 the method is above 1
  * @retval -20068 a or w is not finite
@@ -8515,7 +8527,7 @@ QV_API QvStatus ZemFunc341(const double* x, int64_t n, QvComplex a, QvComplex w,
  * @param w the ratio of neighbouring points
  * @param method 0: the sum itself; 1: Bluestein's algorithm
  * @param m how many points of the spiral; below 1: n
- * @param out written, [m]: the transform; n records for an m below 1
+ * @param out written, [m if m > 0 else n]: the transform
  * @retval -20003 n is below 1
  * @retval -20061 the method is above 1
  * @retval -20068 a or w is not finite
@@ -8534,7 +8546,7 @@ QV_API QvStatus ZemFunc342(const QvComplex* x, int64_t n, QvComplex a, QvComplex
  * @param n how many points there are
  * @param a where the spiral starts
  * @param w the ratio of neighbouring points
- * @param out written, [m], may be null: the samples; n records for an m below 1
+ * @param out written, [m if m > 0 else n], may be null: the samples
  * @param m how many samples; below 1: n
  * @retval -20003 n is below 1
  * @retval -20068 a or w is not finite

@@ -202,7 +202,7 @@ _ZemFunc33 = rt.bind("ZemFunc33", "status", "plplp")
 def correlate_real(x, y, *, out=None):
     r"""The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
 
-    If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+    If x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
 
     Parameters
     ----------
@@ -253,7 +253,7 @@ def correlate_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     r"""The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
 
     A method other than 0 and 1 does nothing and succeeds. With method 1, if x and y are one pointer, it is the
-    autocorrelation of the n elements, whatever m.
+    autocorrelation of the n elements, 2 n - 1 of them, whatever m.
 
     Parameters
     ----------
@@ -307,7 +307,8 @@ def correlate_real_normalised(x, y, method=Method.TRANSFORM, normalisation=Norma
     r"""The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
 
     A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a
-    failure. With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+    failure. With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of
+    them, whatever m.
 
     Parameters
     ----------

@@ -241,6 +241,7 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -305,6 +306,7 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20033: taps is even: the response would be 0 at fs/2
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
@@ -374,6 +376,7 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -444,6 +447,7 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20033: taps is even: the response would be 0 at fs/2
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
@@ -506,6 +510,7 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -571,6 +576,7 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -638,6 +644,7 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -709,6 +716,7 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -774,6 +782,7 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -836,6 +845,7 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -900,6 +910,7 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -968,6 +979,7 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far

@@ -3,7 +3,7 @@ r"""Transforms.
 Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
 
     Fourier    X[k] = sum over j of x[j] exp(-2 pi i j k / N)
-    x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
+    inverse    x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
     cosine     X[k] = c(k) sqrt(2/N) sum over j of x[j] cos(pi k (2j + 1) / (2N)),    c(0) = 1 / sqrt(2), else 1
     sine       X[k - 1] = sum over j of x[j] sin(pi k (j + 1) / (N + 1)),  k = 1 to N,    inverse with 2 / (N + 1)
     Hartley    X[k] = sum over j of x[j] (cos + sin)(2 pi j k / N),   inverse with 1/N
@@ -81,7 +81,7 @@ def real_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     Returns
     -------
     out : complex128 array of shape (fft_size if fft_size > 0 else n,)
-        the spectrum, one record for each bin; n records for an fft_size below 1
+        the spectrum, one record for each bin
 
     Raises
     ------
@@ -134,7 +134,7 @@ def complex_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     Returns
     -------
     out : complex128 array of shape (fft_size if fft_size > 0 else n,)
-        the spectrum, one record for each bin; n records for an fft_size below 1
+        the spectrum, one record for each bin
 
     Raises
     ------
@@ -513,7 +513,7 @@ def dct(x, fft_size=0, *, out=None):
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1
+        the transform
 
     Raises
     ------
@@ -599,7 +599,7 @@ def dst(x, fft_size=0, *, out=None):
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1
+        the transform
 
     Raises
     ------
@@ -1029,7 +1029,7 @@ def chirp_z_real(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the transform; n records for an m below 1
+        the transform
 
     Raises
     ------
@@ -1089,7 +1089,7 @@ def chirp_z_complex(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the transform; n records for an m below 1
+        the transform
 
     Raises
     ------
@@ -1144,7 +1144,7 @@ def inverse_chirp_z(x, a, w, m=0, *, out=None):
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the samples; n records for an m below 1
+        the samples
 
     Raises
     ------
