@@ -1,10 +1,18 @@
-"""Convolution and correlation.
+r"""Convolution and correlation.
 
-Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is
-the convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
-Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions
-without a method use transforms. Outputs must not overlap inputs. Normalisation of correlations: 0 none, 1
-unbiased (each lag divided by its number of overlapping terms), 2 biased (all divided by the longer length).
+What a linear system does to a signal, how alike two signals are at every shift, and the way back from a
+response to its cause.
+
+    convolution    (x * y)[l] = sum over i of x[i] y[l - i],                       l = 0 to n + m - 2
+    correlation    r[n - 1 + l] = sum over i of conj(x[i]) y[i + l],               l = -(n - 1) to m - 1
+    deconvolution  x * h = y solved for h
+
+The full result has n + m - 1 elements; lag 0 of a correlation stands at index n - 1. A positive lag means
+that y comes later than x. Method 0 adds the products themselves, method 1 works through Fourier transforms of
+a fast length; functions without a method use transforms. Outputs must not overlap inputs.
+
+Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2
+biased (all divided by the longer length).
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -51,7 +59,7 @@ def convolve_real(x, y, *, out=None):
     y : array_like of float64, shape (m,)
         the second sequence
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -102,7 +110,7 @@ def convolve_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -154,7 +162,7 @@ def convolve_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -203,7 +211,7 @@ def correlate_real(x, y, *, out=None):
     y : array_like of float64, shape (m,)
         the second sequence
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -256,7 +264,7 @@ def correlate_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -313,7 +321,7 @@ def correlate_real_normalised(x, y, method=Method.TRANSFORM, normalisation=Norma
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -365,7 +373,7 @@ def auto_correlate_real(x, normalisation=Normalisation.NONE, *, out=None):
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -414,7 +422,7 @@ def correlate_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -465,7 +473,7 @@ def correlate_complex_normalised(x, y, method=Method.TRANSFORM, normalisation=No
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -513,7 +521,7 @@ def auto_correlate_complex(x, normalisation=Normalisation.NONE, *, out=None):
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -559,7 +567,7 @@ def deconvolve(y, x, *, out=None):
     x : array_like of float64, shape (m,)
         the known factor
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -612,7 +620,7 @@ def convolve_2d_real(x, y, shape=Shape.FULL, method=Method.TRANSFORM, *, out=Non
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -673,7 +681,7 @@ def convolve_2d_complex(x, y, shape=Shape.FULL, method=Method.TRANSFORM, *, out=
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -729,7 +737,7 @@ def correlate_2d_real(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -783,7 +791,7 @@ def correlate_2d_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -830,7 +838,7 @@ def auto_correlate_2d_real(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the array, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -876,7 +884,7 @@ def auto_correlate_2d_complex(x, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the array, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
