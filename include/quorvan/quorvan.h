@@ -892,8 +892,8 @@ QV_API QvStatus ZemFunc43(double* re, double* im, int64_t n, double aRe, double 
 /** @defgroup convolution Convolution and correlation
  * Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is the
  * convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
- * Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions without
- * a method use transforms. Outputs must not overlap inputs.
+ * Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length, or of blocks of
+ * the longer sequence where that is faster; functions without a method use transforms. Outputs must not overlap inputs.
  * Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2 biased (all
  * divided by the longer length).
  * @{
