@@ -6,7 +6,6 @@
 #include "frame/memory.h"
 #include "frame/status.h"
 #include "transforms/block_loops.h"
-#include "transforms/fft_loops.h"
 #include "transforms/spectrum_layout.h"
 
 namespace quorvan {
@@ -60,7 +59,7 @@ constexpr Count kBlocksAtOnce = sizeof(ComplexRecord) / sizeof(T);
 // either side, gives them half of that. A short result is not worth their passes.
 template <class T>
 Count BlockLength(Count longer, Count shorter, Count S) noexcept {
-    constexpr Size kShortest = 64;
+    constexpr Size kShortest = 128;
     constexpr Count kShortResult = 1024;
     if (S < kShortResult) return 0;
     const auto work = [](Size n) {
@@ -104,7 +103,7 @@ Status ConvolveInBlocks(const Sequence<T>& longer, const Sequence<T>& shorter, C
     for (Size start = 0; start < length; start += Size{kBlocksAtOnce<T>} * step) {
         const ComplexRecord* in = Pack(longer, start - past, step, block, samples, spectrum);
         if (const Status failure = forward(in, spectrum)) return failure;
-        kFftLoops().conjugateRecordProduct(&spectrum->re, &factors->re, block);
+        kBlockLoops().conjugateProduct(spectrum, factors, block);
         if (const Status failure = forward(spectrum, samples)) return failure;
         Unpack(samples + past, step, length - start, out + start);
     }

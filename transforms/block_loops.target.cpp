@@ -1,10 +1,19 @@
 #include "transforms/block_loops.h"
 
+#include "transforms/vectors.h"
+
 namespace quorvan::QV_TARGET {
 namespace {
 
 void Join(const double* __restrict re, const double* __restrict im, Count n, ComplexRecord* __restrict records) {
     for (Count k = 0; k < n; ++k) records[k] = {re[k], im[k]};
+}
+
+void ConjugateProduct(ComplexRecord* records, const ComplexRecord* factors, Count n) {
+    double* x = &records->re;
+    const double* y = &factors->re;
+    for (Size k = 0; k < 2 * Size{n}; k += kWidth)
+        Store(x + k, Product(FactorsOf(Load<Wide>(y + k)), Load<Wide>(x + k)) * Alternating<Wide>(1, -1));
 }
 
 // 0 - y, not -y: the conjugate of a real number keeps the zero that it has.
@@ -21,6 +30,6 @@ void Conjugate(const ComplexRecord* __restrict records, Count n, ComplexRecord* 
 
 }  // namespace
 
-const BlockLoops kBlockLoops = {Join, PartConjugate, Conjugate};
+const BlockLoops kBlockLoops = {Join, ConjugateProduct, PartConjugate, Conjugate};
 
 }  // namespace quorvan::QV_TARGET

@@ -88,12 +88,12 @@ Status MakeStages(FftPlan& plan) noexcept {
     return status::kSuccess;
 }
 
-// How many doubles the stage kernels read for all columns of a stage.
+// How many doubles the stage kernels read for all columns of a stage: blocks of full width, and one that takes the
+// rest.
 Size BlockedLength(Count f, Count m) noexcept {
-    const FftKernelTable& kernels = kFftKernels();
-    Size length = 0;
-    for (Count j = 0; j < m; j += kernels.blockWidth(m - j)) length += 2 * Size(f - 1) * kernels.blockWidth(m - j);
-    return length;
+    const auto width = kFftKernels().blockWidth;
+    const Count rest = m % width(INT32_MAX);
+    return 2 * Size(f - 1) * (Size(m) - rest + (rest ? width(rest) : 0));
 }
 
 // Tables that follow each other in one block, each from a cache line of its own; from null on they are only measured.
@@ -115,18 +115,20 @@ private:
 // How much to ask for when `used` doubles are touched. glibc gives free memory back to the system as soon as there is
 // more of it than twice the largest block that it has seen freed, of those from 128 KiB to 32 MiB: a call whose tables
 // and workspaces are of one size would lose all pages at its end, and the next one would fetch them again. So the
-// tables are the largest block by far. Pages that are not touched cost nothing.
+// tables of transforms are the largest block by far. Pages that are not touched cost nothing.
 Size RoomyLength(Size used) noexcept {
     constexpr Size kFew = 2048, kPad = 20480, kMost = (Size{31} << 20) / sizeof(double);
     return used < kFew ? used : std::max(used, std::min(3 * used + kPad, kMost));
 }
+Size BareLength(Size used) noexcept { return used; }
 
-// Lays tables out in a new block. `place` takes a layout and puts the tables where it says.
+// Lays tables out in a new block of the length that `asked` gives. `place` takes a layout and puts the tables where it
+// says.
 template <class Place>
-Status AllocateTables(double*& block, Place place) noexcept {
+Status AllocateTables(double*& block, Size (*asked)(Size) noexcept, Place place) noexcept {
     TableLayout measured(nullptr);
     place(measured);
-    if (!Allocate(block, RoomyLength(measured.used() + kCacheLine))) return status::kOutOfMemory;
+    if (!Allocate(block, asked(measured.used() + kCacheLine))) return status::kOutOfMemory;
     const std::size_t past = reinterpret_cast<std::uintptr_t>(block) / sizeof(double) % kCacheLine;
     TableLayout layout(block + (kCacheLine - past) % kCacheLine);
     place(layout);
@@ -150,7 +152,7 @@ void FillStated(FftStage& stage, Count f, Count m) noexcept {
 
 // What the transforms read: the twiddles of each stage in the one order that its routine takes them in.
 Status MakeTwiddles(FftPlan& plan) noexcept {
-    const Status status = AllocateTables(plan.tables, [&plan](TableLayout& layout) {
+    const Status status = AllocateTables(plan.tables, RoomyLength, [&plan](TableLayout& layout) {
         ForTurnedStages(plan, [&](FftStage& stage, Count kind, Count f, Count m) {
             if (kind == kLargePrime)
                 PlaceStated(layout, stage, f, m);
@@ -180,7 +182,7 @@ Status StateTwiddles(FftPlan& plan) noexcept {
             if (kind != kLargePrime) body(stage, f, m);
         });
     };
-    const Status status = AllocateTables(plan.statedTables, [&](TableLayout& layout) {
+    const Status status = AllocateTables(plan.statedTables, BareLength, [&](TableLayout& layout) {
         forBlocked([&](FftStage& stage, Count f, Count m) { PlaceStated(layout, stage, f, m); });
     });
     if (status < 0) return status;
