@@ -9,7 +9,8 @@ response to its cause.
 
 The full result has n + m - 1 elements; lag 0 of a correlation stands at index n - 1. A positive lag means
 that y comes later than x. Method 0 adds the products themselves, method 1 works through Fourier transforms of
-a fast length; functions without a method use transforms. Outputs must not overlap inputs.
+a fast length, or of blocks of the longer sequence where that is faster; functions without a method use
+transforms. Outputs must not overlap inputs.
 
 Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2
 biased (all divided by the longer length).
