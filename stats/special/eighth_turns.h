@@ -31,12 +31,10 @@ QV_INLINE SineCosine SinCosLessEighths(double x) noexcept {
     constexpr double kFarthest = 1e7, kTwoOverPi = 0.63661977236758134308;
     constexpr double kWhole = 0x1.8p52;  // a sum with it ends at the ones, in the low bits of its pattern
     typedef double Lanes __attribute__((vector_size(16)));
-    constexpr Lanes kSines[] = {{1.5895433298102134e-10, -1.1358749267175693e-11},
-                                {-2.5050734389348566e-08, 2.0875705396436402e-09},
-                                {2.7557313538514475e-06, -2.75573142170409e-07},
-                                {-0.00019841269829358528, 2.4801587289002083e-05},
-                                {0.00833333333332184, -0.0013888888888873342},
-                                {-0.1666666666666663, 0.041666666666666595}};
+    constexpr Lanes kSines[] = {
+        {1.5895433298102134e-10, -1.1358749267175693e-11}, {-2.5050734389348566e-08, 2.0875705396436402e-09},
+        {2.7557313538514475e-06, -2.75573142170409e-07},   {-0.00019841269829358528, 2.4801587289002083e-05},
+        {0.00833333333332184, -0.0013888888888873342},     {-0.1666666666666663, 0.041666666666666595}};
     if (!(std::fabs(x) <= kFarthest)) return FarSinCosLessEighths<kEighths>(x);
 
     const double shifted = x * kTwoOverPi - 0.5 * kEighths + kWhole;
