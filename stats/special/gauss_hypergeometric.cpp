@@ -8,6 +8,7 @@
 #include "stats/special/double_double.h"
 #include "stats/special/estimate.h"
 #include "stats/special/gamma_ratio.h"
+#include "stats/special/two_lanes.h"
 
 namespace quorvan {
 namespace {
@@ -38,11 +39,10 @@ struct Argument {
 
 Estimate PowerSeries(const Parameters& p, double x) noexcept {
     const bool ends = IsPole(p.a) || IsPole(p.b);
-    typedef double Lanes __attribute__((vector_size(16)));
     double sum = 1, term = 1, largest = 1;
-    for (Lanes n = {0, 1}; n[0] < kLongest; n += 2) {
+    for (TwoLanes n = {0, 1}; n[0] < kLongest; n += 2) {
         // Two quotients for the price of one division.
-        const Lanes an = p.a + n, bn = p.b + n, cn = p.c + n, quotients = an * bn * x / (cn * (n + 1));
+        const TwoLanes an = p.a + n, bn = p.b + n, cn = p.c + n, quotients = an * bn * x / (cn * (n + 1));
 #pragma GCC unroll 2
         for (int lane = 0; lane < 2; ++lane) {
             if (ends && (an[lane] == 0 || bn[lane] == 0)) return Judged(sum, largest, 0);

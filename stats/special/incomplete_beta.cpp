@@ -6,6 +6,7 @@
 #include "frame/types.h"
 #include "stats/special/beta.h"
 #include "stats/special/incomplete_gamma.h"
+#include "stats/special/two_lanes.h"
 
 namespace quorvan {
 namespace {
@@ -32,17 +33,15 @@ constexpr double kLargeOrder = 1e10;
 // the last bit: I_x(a, b) = P(a, -b ln(1-x)) (1 + O(a^2/b)). Fractions and uniform expansion would overflow.
 constexpr double kHugeOrder = 1e40;
 
-typedef double Lanes __attribute__((vector_size(16)));  // two terms or sums side by side
-
 // I_x(a, b) / (x^a / B(a, b)) = 1/a + sum over n of (1-b)(2-b)...(n-b)/n! x^n/(a+n), for b x <= 1 and x <= 0.95.
 double Series(double a, double b, double x) noexcept {
     const double stop = kEpsilon / a, product = (1 - b) * x, x2 = x * x;
     // The terms n and n + 1, none larger than the one before, and from them those two further on.
-    Lanes n = {1, 2};
-    Lanes term = {product / (a + 1), product * (2 - b) * x / (2 * (a + 2))}, sum = {0, term[1]};
+    TwoLanes n = {1, 2};
+    TwoLanes term = {product / (a + 1), product * (2 - b) * x / (2 * (a + 2))}, sum = {0, term[1]};
     const double first = term[0];
     while (std::fabs(term[0]) > stop) {
-        const Lanes one = n + 1, two = n + 2;
+        const TwoLanes one = n + 1, two = n + 2;
         term *= ((one - b) * (two - b) * x2 * (a + n)) / (one * two * (a + two));
         sum += term;
         n = two;
@@ -54,17 +53,17 @@ double Series(double a, double b, double x) noexcept {
 // recurrence. The two fractions differ in z, in which of a + b and b - 1 stands in k2 and which in k6, and in their
 // direction. The lanes hold k1 and k5, k2 and k6, k3 and k7, k4 and k8; and numerator and denominator.
 double Fraction(double a, double k2, double step2, double k6, double step6, double z) noexcept {
-    const Lanes signed_z = {-z, z}, step = {step2, step6};
-    Lanes above0 = {a, 1}, above1 = {k2, k6}, below0 = {a, a + 1}, below1 = {a + 1, a + 2};
-    Lanes last = {0, 1}, at = {1, 1};
+    const TwoLanes signed_z = {-z, z}, step = {step2, step6};
+    TwoLanes above0 = {a, 1}, above1 = {k2, k6}, below0 = {a, a + 1}, below1 = {a + 1, a + 2};
+    TwoLanes last = {0, 1}, at = {1, 1};
     double value = 1, last_change = 1;
     const auto advance = [&](double d) {
-        const Lanes next = at + last * d;
+        const TwoLanes next = at + last * d;
         last = at;
         at = next;
     };
     for (int round = 0; round < kMostRounds; ++round) {
-        const Lanes d = (signed_z * above0 * above1) / (below0 * below1);
+        const TwoLanes d = (signed_z * above0 * above1) / (below0 * below1);
         advance(d[0]);
         advance(d[1]);
         const double p = at[0], q = at[1], r = q != 0 ? p / q : 0;

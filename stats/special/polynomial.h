@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "stats/special/two_lanes.h"
+
 namespace quorvan {
 
 // c[0] x^(N-1) + ... + c[N-1] by Horner's rule: highest power first.
@@ -38,17 +40,16 @@ constexpr double ChebyshevSum(double x, const double (&c)[N]) noexcept {
 // side by side in the two lanes of a register. Not for sums that are small beside both halves, which then cancel.
 template <std::size_t N>
 inline double ChebyshevHalves(double x, const double (&c)[N]) noexcept {
-    typedef double Lanes __attribute__((vector_size(16)));
     constexpr std::size_t kOdd = N % 2;  // a table of odd length lacks its highest odd order
     const double u = x * x - 2;
-    const Lanes point = {u, u};
-    Lanes b1 = {kOdd ? 0 : c[0], c[1 - kOdd]}, b2 = {};
+    const TwoLanes point = {u, u};
+    TwoLanes b1 = {kOdd ? 0 : c[0], c[1 - kOdd]}, b2 = {};
     for (std::size_t i = 2 - kOdd; i < N - 2; i += 2) {
-        const Lanes b0 = point * b1 + (Lanes{c[i], c[i + 1]} - b2);
+        const TwoLanes b0 = point * b1 + (TwoLanes{c[i], c[i + 1]} - b2);
         b2 = b1;
         b1 = b0;
     }
-    const Lanes rest = point * b1 - b2;
+    const TwoLanes rest = point * b1 - b2;
     return 0.5 * (c[N - 1] + ((rest[1] - b2[1]) + x * (c[N - 2] - b1[0] + rest[0])));
 }
 
