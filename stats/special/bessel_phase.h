@@ -12,7 +12,7 @@
 
 namespace quorvan {
 
-// The tables of both orders. PP/PQ is near 1, and (PP - PQ)/PQ gives P - 1 without its rounding.
+// The tables of one order. PP/PQ is near 1, and P - 1 = (PP - PQ)/PQ keeps what a sum near 1 would round away.
 template <std::size_t N, std::size_t M, std::size_t K>
 struct PhaseTables {
     constexpr PhaseTables(const double (&pp)[N], const double (&pq)[N], const double (&qp)[M],
