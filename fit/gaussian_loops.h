@@ -14,7 +14,7 @@ struct GaussianSamples {
     Count n;
 };
 
-// Sums take each eighth term to one of eight partial sums.
+// Sums take the terms in their order.
 struct GaussianLoops {
     // Makes the shape, and adds up |w| ((f - 2y) f + y²) with f = c0·shape. Soon after the sum exceeds `enough` it is
     // left as it is, and the shape unfinished.

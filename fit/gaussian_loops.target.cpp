@@ -5,11 +5,9 @@
 namespace quorvan::QV_TARGET {
 namespace {
 
-constexpr int kPartial = 8;  // sums in turn, as many on every set, so that the result is one
-constexpr int kRegisters = kPartial / kLanes;
-constexpr int kAtOnce = 4;               // registers, whose exponentials overlap
-using Index = std::ptrdiff_t;            // passes the greatest count
-constexpr Index kBlock = 64 * kPartial;  // samples between two looks at the sum
+constexpr int kAtOnce = 4;     // registers, whose exponentials overlap
+using Index = std::ptrdiff_t;  // passes the greatest count
+constexpr Index kBlock = 512;  // samples between two looks at the sum
 
 typedef std::uint64_t WideUnsigned __attribute__((vector_size(kWideBytes)));
 
@@ -104,7 +102,8 @@ struct GradientTerms {
     }
 };
 
-// Sums of Terms over samples.
+// Sums of Terms over samples, in their order: the additions of a register wait for each other while the terms of the
+// next ones are made.
 template <class Terms>
 class Sums {
 public:
@@ -113,16 +112,11 @@ public:
     void Add(Index first, Index last) {
         Index i = first;
         for (; i + kAtOnce * kLanes <= last; i += kAtOnce * kLanes) AddTerms<kAtOnce>(From(i));
-        for (; i + kPartial <= last; i += kPartial) AddTerms<kRegisters>(From(i));
+        for (; i + kLanes <= last; i += kLanes) AddTerms<1>(From(i));
         if (i < last) AddRest(From(i), static_cast<int>(last - i));
     }
 
-    double Total(int term) const {
-        double sum = 0;
-        for (const Wide& partial : sums_[term])
-            for (int l = 0; l < kLanes; ++l) sum += partial[l];
-        return sum;
-    }
+    double Total(int term) const { return sums_[term]; }
 
 private:
     Samples From(Index i) const {
@@ -134,26 +128,24 @@ private:
     QV_INLINE void AddTerms(const Samples& at, int wanted = kCount * kLanes) {
         Wide terms[Terms::kTerms][kCount];
         terms_(at, terms);
-        for (int t = 0; t < Terms::kTerms; ++t) {
-            for (int j = wanted; j < kCount * kLanes; ++j) terms[t][j / kLanes][j % kLanes] = 0;
-            for (int q = 0; q < kCount; ++q) sums_[t][q % kRegisters] += terms[t][q];
-        }
+        for (int j = 0; j < wanted; ++j)
+            for (int t = 0; t < Terms::kTerms; ++t) sums_[t] += terms[t][j / kLanes][j % kLanes];
     }
 
-    // Fewer samples than partial sums.
+    // Fewer samples than lanes.
     void AddRest(const Samples& at, int rest) {
-        double x[kPartial] = {}, y[kPartial] = {}, weights[kPartial] = {}, shape[kPartial] = {};
+        double x[kLanes] = {}, y[kLanes] = {}, weights[kLanes] = {}, shape[kLanes] = {};
         for (int j = 0; j < rest; ++j) {
             x[j] = at.x[j], y[j] = at.y[j], shape[j] = at.shape[j];
             if (at.weights) weights[j] = at.weights[j];
         }
-        AddTerms<kRegisters>({x, y, at.weights ? weights : nullptr, shape}, rest);
+        AddTerms<1>({x, y, at.weights ? weights : nullptr, shape}, rest);
         for (int j = 0; j < rest; ++j) at.shape[j] = shape[j];
     }
 
     const GaussianSamples samples_;
     const Terms terms_;
-    Wide sums_[Terms::kTerms][kRegisters] = {};
+    double sums_[Terms::kTerms] = {};
 };
 
 double Error(const GaussianSamples& samples, const double* c, double enough) {
