@@ -10,6 +10,8 @@
 #include "frame/status.h"
 #include "transforms/fft.h"
 #include "transforms/fft_plan_record.h"
+#include "transforms/kernels/direct_primes.h"
+#include "transforms/rader_padded.h"
 #include "transforms/twiddles.h"
 
 namespace quorvan {
@@ -30,6 +32,12 @@ template <class T>
 bool Allocate(T*& block, Size count) noexcept {
     block = Block<T>(static_cast<std::size_t>(count)).release();
     return block != nullptr;
+}
+
+// The first start of a cache line in a block.
+double* LineStart(double* block) noexcept {
+    const std::size_t past = reinterpret_cast<std::uintptr_t>(block) / sizeof(double) % kCacheLine;
+    return block + (kCacheLine - past) % kCacheLine;
 }
 
 void Append(FftPlan& plan, Count factor, FactorKind kind) noexcept {
@@ -144,8 +152,7 @@ Status MakeTwiddles(FftPlan& plan) noexcept {
     // after every call, and the next call would fetch all pages again.
     const Size used = PlaceTables(plan, nullptr);
     if (!Allocate(plan.tables, used + used / 4 + kCacheLine)) return status::kOutOfMemory;
-    const std::size_t past = reinterpret_cast<std::uintptr_t>(plan.tables) / sizeof(double) % kCacheLine;
-    PlaceTables(plan, plan.tables + (kCacheLine - past) % kCacheLine);
+    PlaceTables(plan, LineStart(plan.tables));
     Count length = plan.size;
     for (Count i = 0; i + 1 < plan.factorCount; ++i) {
         FftStage& stage = *plan.stages[i];
@@ -192,23 +199,30 @@ Count PrimitiveRoot(Count p) noexcept {
     return 1;
 }
 
+bool RunsOnKernels(Count size) noexcept {
+    for (Count prime : {2, 3, 5, 7, 11, 13, 17, 19, 29, 31, 37, 41, 43})
+        while (size % prime == 0) size /= prime;
+    return size == 1;
+}
+
 // What a pass of one factor costs a point, roughly, in nanoseconds of a wide machine.
 double PassCost(Count factor) noexcept { return factor == 32 ? 0.8 : factor <= 18 ? 0.6 : 0.02 * factor + 0.5; }
 
-// A size from `wanted` up, not much above it, on which the kernels are fast: few passes, few large odd factors.
+// A size from `wanted` up, not much above it, on which the kernels are fast: whole vectors, few passes, few large odd
+// factors.
 Count PaddedSize(Count wanted) noexcept {
-    constexpr Count kStep = 64, kMostCandidates = 4096;
+    constexpr Count kStep = 8, kMostCandidates = 4096;
     Count best = FftFastSize(wanted);
     double bestCost = HUGE_VAL;
     Size size = (Size(wanted) + kStep - 1) / kStep * kStep;
     for (Count i = 0; i < kMostCandidates && size <= 0x7FFFFFFF && size <= wanted + Size(wanted) / 4 + kStep;
          ++i, size += kStep) {
+        if (!RunsOnKernels(static_cast<Count>(size))) continue;
         FftPlan candidate = {};
         candidate.size = static_cast<Count>(size);
         Factorise(candidate);
         double cost = 0;
-        for (Count k = 0; k < candidate.factorCount; ++k)
-            cost += candidate.kinds[k] == kKernelFactor ? PassCost(candidate.factors[k]) : HUGE_VAL;
+        for (Count k = 0; k < candidate.factorCount; ++k) cost += PassCost(candidate.factors[k]);
         if (cost * double(size) < bestCost) {
             best = candidate.size;
             bestCost = cost * double(size);
@@ -217,23 +231,20 @@ Count PaddedSize(Count wanted) noexcept {
     return best;
 }
 
-// Where the plan of n would recur into further large primes, the cyclic convolution of length n is done on a fast size
-// M: with the sequence repeated backwards behind 0, so that its linear convolution holds the cyclic one in 0 to n - 1.
-Status MakePaddedConvolution(FftStage& stage, Count n, const double* sequence) noexcept {
-    const Size wanted = 2 * Size(n) - 1;
-    if (wanted > 0x7FFFFFFF) return status::kSuccess;  // the recursion does it
-    const Count size = PaddedSize(static_cast<Count>(wanted));
-    stage.paddedPlan = CreateUnlocked(size);
-    Block<double> padded(2 * std::size_t(size));
-    if (!stage.paddedPlan || !Allocate(stage.paddedSpectrum, 2 * Size(size)) || !padded) return status::kOutOfMemory;
-    // The sequence carries 1/n for the inverse of length n; here the inverse is of length `size`.
-    const double scale = double(n) / size;
-    for (Size k = 0; k < size; ++k) {
-        const Size from = k < n ? k : k > size - n ? k - (size - n) : -1;
-        padded[2 * k] = from < 0 ? 0 : sequence[from] * scale;
-        padded[2 * k + 1] = from < 0 ? 0 : sequence[n + from] * scale;
-    }
-    return FftComplex(stage.paddedPlan, padded, padded + 1, stage.paddedSpectrum, stage.paddedSpectrum + 1, 2, 2, size);
+// Row j of the matrices of kernels/direct_primes.h runs through the multiples of j on the circle of p points, whose
+// entry k - 1 is point k.
+Status MakeDirectTable(FftStage& stage, Count p, const double* cosines, const double* sines) noexcept {
+    const Count columns = DirectColumns(p);
+    if (!Allocate(stage.directBlock, DirectTableLength(p) + kCacheLine)) return status::kOutOfMemory;
+    stage.directTable = LineStart(stage.directBlock);
+    double* row = stage.directTable;
+    for (Count j = 1; j <= p / 2; ++j, row += 2 * columns)
+        for (Count k = 0, q = j; k < columns; ++k) {
+            row[k] = cosines[q - 1];
+            row[columns + k] = sines[q - 1];
+            q = q + j < p ? q + j : q + j - p;
+        }
+    return status::kSuccess;
 }
 
 // Rader (1968): the DFT of a prime length p as a cyclic convolution of length p - 1 over the powers of a primitive
@@ -265,8 +276,13 @@ Status MakeLargePrime(FftStage& stage, Count p) noexcept {
             FftComplex(stage.raderPlan, sequence, sequence + n, stage.raderSpectrumRe, stage.raderSpectrumIm, 1, 1, n);
         status < 0)
         return status;
-    if (stage.raderPlan->kinds[stage.raderPlan->factorCount - 1] != kLargePrime) return status::kSuccess;
-    return MakePaddedConvolution(stage, n, sequence);
+    const bool rough = stage.raderPlan->kinds[stage.raderPlan->factorCount - 1] == kLargePrime;
+    if (p <= (rough ? kDirectPrimes().largestRough : kDirectPrimes().largest))
+        return MakeDirectTable(stage, p, circle, circle + n);
+    if (!rough) return status::kSuccess;
+    stage.paddedPlan = CreateUnlocked(PaddedSize(n / 2));
+    if (!stage.paddedPlan) return status::kOutOfMemory;
+    return MakePaddedTables(stage, p, sequence);
 }
 
 Status MakeLargePrimes(FftPlan& plan) noexcept {
@@ -298,6 +314,8 @@ void Free(FftPlan* plan) noexcept {
         ReleaseUnlocked(stage->raderPlan);
         ReleaseUnlocked(stage->paddedPlan);
         HeapFree(stage->paddedSpectrum);
+        HeapFree(stage->paddedTurns);
+        HeapFree(stage->directBlock);
         HeapFree(stage->primeCos);
         HeapFree(stage->primeSin);
         HeapFree(stage->raderSpectrumRe);
@@ -367,10 +385,7 @@ Count FftFastSize(Count n) noexcept {
     if (n < 2) return n;
     constexpr Count kLargest = 0x7FFFFFFF;
     for (Count size = n;; ++size) {
-        Count rest = size;
-        for (Count prime : {2, 3, 5, 7, 11, 13, 17, 19, 29, 31, 37, 41, 43})
-            while (rest % prime == 0) rest /= prime;
-        if (rest == 1) return size;
+        if (RunsOnKernels(size)) return size;
         if (size == kLargest) return n;  // no fast size fits: any size transforms
     }
 }

@@ -1,0 +1,167 @@
+#include "transforms/rader_padded.h"
+
+#include <cmath>
+#include <cstring>
+#include <initializer_list>
+
+#include "frame/memory.h"
+#include "frame/status.h"
+#include "transforms/fft.h"
+#include "transforms/rader_loops.h"
+
+namespace quorvan {
+namespace {
+
+// exp(-pi i q / M) for q = 0 to M - 1, from a coarse and a fine table: one product an entry, and no error that grows.
+void HalfBinTurns(Count M, double* turns) noexcept {
+    constexpr Count kFine = 64;
+    double fine[2 * kFine];
+    const auto root = [M](Count q, double* at) {
+        at[0] = std::cos(kPi * q / M);
+        at[1] = -std::sin(kPi * q / M);
+    };
+    for (Count q = 0; q < kFine; ++q) root(q, fine + 2 * q);
+    for (Size from = 0; from < M; from += kFine) {
+        double coarse[2];
+        root(static_cast<Count>(from), coarse);
+        for (Size q = 0; q < kFine && from + q < M; ++q) {
+            turns[2 * (from + q)] = coarse[0] * fine[2 * q] - coarse[1] * fine[2 * q + 1];
+            turns[2 * (from + q) + 1] = coarse[0] * fine[2 * q + 1] + coarse[1] * fine[2 * q];
+        }
+    }
+}
+
+Status Forward(const FftPlan* plan, const double* in, double* out) noexcept {
+    return FftComplex(plan, in, in + 1, out, out + 1, 2, 2, plan->size);
+}
+
+// M records each, one after the other.
+struct Lanes {
+    double* first;
+    Size M;
+    double* operator[](int lane) const noexcept { return first + 2 * M * lane; }
+
+    // Lane `from` holds `count` records; lane `to` becomes the same turned, and both end in zeros.
+    void TurnAndPad(const FftStage& stage, int from, int to, Count count) const noexcept {
+        double *records = (*this)[from], *turned = (*this)[to];
+        kRaderLoops().turn(records, stage.paddedTurns, count, turned);
+        for (double* lane : {records, turned})
+            std::memset(lane + 2 * Size(count), 0, 2 * sizeof(double) * static_cast<std::size_t>(M - count));
+    }
+};
+
+// What the sequence of the convolution is in one half: repeated after h places, with this sign.
+struct Half {
+    const double* sequence;
+    double sign;
+};
+
+}  // namespace
+
+Status MakePaddedTables(FftStage& stage, Count p, const double* sequence) noexcept {
+    const FftPlan* plan = stage.paddedPlan;
+    const Count h = p / 2, M = plan->size;
+    stage.paddedTurns = Block<double>(2 * std::size_t(M)).release();
+    stage.paddedSpectrum = Block<double>(8 * std::size_t(M)).release();
+    const Block<double> lanes(4 * std::size_t(M));
+    if (!stage.paddedTurns || !stage.paddedSpectrum || !lanes) return status::kOutOfMemory;
+    HalfBinTurns(M, stage.paddedTurns);
+    // The sequence carries 1/(p - 1) for the inverse of that length; here the inverse is of length 2M.
+    const double scale = double(p - 1) / (2 * double(M));
+    double *even = lanes, *odd = lanes + 2 * Size(M), *spectrum = stage.paddedSpectrum;
+    for (const Half half : {Half{sequence, 1}, Half{sequence + p - 1, -1}}) {
+        // The linear convolution needs entry q of the sequence for -h < q < h; those below 0 stand behind, at 2M + q.
+        for (Count q = 0; q < M; ++q) {
+            const Count behind = q + h - M;  // 2M + (behind - h) = M + q
+            const double low = q < h ? half.sequence[q] * scale : 0;
+            const double high = behind > 0 ? half.sign * half.sequence[behind] * scale : 0;
+            even[2 * Size(q)] = low + high;
+            odd[2 * Size(q)] = low - high;
+            even[2 * Size(q) + 1] = odd[2 * Size(q) + 1] = 0;
+        }
+        kRaderLoops().turn(odd, stage.paddedTurns, M, odd);
+        for (const double* lane : {even, odd}) {
+            if (const Status status = Forward(plan, lane, spectrum); status < 0) return status;
+            spectrum += 2 * Size(M);
+        }
+    }
+    return status::kSuccess;
+}
+
+Size PaddedWorkLength(const FftStage& stage) noexcept { return 10 * Size(stage.paddedPlan->size); }
+
+Status PaddedTransform(const ComplexInput& in, const ComplexOutput& out, const FftStage& stage, Count p,
+                       double* work) noexcept {
+    enum { kSums, kTurnedSums, kDifferences, kTurnedDifferences, kSpectrum };
+    const FftPlan* plan = stage.paddedPlan;
+    const Count h = p / 2, M = plan->size;
+    const Lanes lanes{work, M};
+    double *sums = lanes[kSums], *differences = lanes[kDifferences], *spectrum = lanes[kSpectrum];
+    const Record first = in[0];
+    WithLayout(in, [=, gather = stage.raderGather + 1](auto x) {
+        for (Count q = 0; q < h; ++q) {
+            const Record low = x[gather[q]], high = x[p - gather[q]];
+            StoreRecord(sums + 2 * Size(q), low + high);
+            StoreRecord(differences + 2 * Size(q), low - high);
+        }
+    });
+    lanes.TurnAndPad(stage, kSums, kTurnedSums, h);
+    lanes.TurnAndPad(stage, kDifferences, kTurnedDifferences, h);
+    Record total = first;
+    for (int lane : {kSums, kTurnedSums, kDifferences, kTurnedDifferences}) {
+        if (const Status status = Forward(plan, lanes[lane], spectrum); status < 0) return status;
+        if (lane == kSums) total += LoadRecord(spectrum);
+        kRaderLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum + 2 * Size(M) * lane, M);
+        if (const Status status = Forward(plan, spectrum, lanes[lane]); status < 0) return status;
+    }
+    kRaderLoops().unfold(sums, lanes[kTurnedSums], differences, lanes[kTurnedDifferences], stage.paddedTurns,
+                         {first[0], first[1]}, h);
+    out.Set(0, total);
+    WithLayout(out, [=, scatter = stage.raderScatter + 1](auto X) {
+        for (Count q = 0; q < h; ++q) {
+            X.Set(scatter[q], LoadRecord(sums + 2 * Size(q)));
+            X.Set(p - scatter[q], LoadRecord(differences + 2 * Size(q)));
+        }
+    });
+    return status::kSuccess;
+}
+
+// Sums and differences go through as the real and the imaginary parts of one sequence.
+Status PaddedTransformReal(const double* in, Size inStride, double* out, Size outStride, const FftStage& stage, Count p,
+                           double* work) noexcept {
+    enum { kEven, kOdd, kSpectrum };
+    const FftPlan* plan = stage.paddedPlan;
+    const Count h = p / 2, M = plan->size;
+    const Lanes lanes{work, M};
+    double *even = lanes[kEven], *odd = lanes[kOdd], *spectrum = lanes[kSpectrum];
+    const double first = in[0];
+    for (Count q = 0; q < h; ++q) {
+        const Count j = stage.raderGather[q + 1];
+        const double low = in[j * inStride], high = in[(p - j) * inStride];
+        even[2 * Size(q)] = low + high;
+        even[2 * Size(q) + 1] = low - high;
+    }
+    lanes.TurnAndPad(stage, kEven, kOdd, h);
+    double total = first;
+    for (int lane : {kEven, kOdd}) {
+        const double *cosines = stage.paddedSpectrum + 2 * Size(M) * lane, *sines = cosines + 4 * Size(M);
+        if (const Status status = Forward(plan, lanes[lane], spectrum); status < 0) return status;
+        if (lane == kEven) total += spectrum[0];
+        double* product = lanes[kSpectrum + 1];
+        kRaderLoops().pairProduct(spectrum, cosines, sines, lane == kOdd, M, product);
+        if (const Status status = Forward(plan, product, lanes[lane]); status < 0) return status;
+    }
+    kRaderLoops().turn(odd, stage.paddedTurns, h, odd);
+    out[0] = total;
+    for (Count q = 0; q < h; ++q) {
+        const Size k = 2 * Size(q);
+        const double re = first + even[k] + odd[k], im = -(even[k + 1] + odd[k + 1]);
+        const Count t = stage.raderScatter[q + 1];
+        const bool upper = t > p / 2;
+        out[(upper ? p - t : t) * outStride] = re;
+        out[(upper ? t : p - t) * outStride] = upper ? -im : im;
+    }
+    return status::kSuccess;
+}
+
+}  // namespace quorvan
