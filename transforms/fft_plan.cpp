@@ -8,6 +8,7 @@
 #include "frame/memory.h"
 #include "frame/platform.h"
 #include "frame/status.h"
+#include "transforms/cache_lines.h"
 #include "transforms/fft.h"
 #include "transforms/fft_plan_record.h"
 #include "transforms/kernels/direct_primes.h"
@@ -20,10 +21,17 @@ namespace {
 // The live plans, newest first. Guarded by the plan mutex, like every refCount.
 FftPlan* plan_list = nullptr;
 
-// 10 stands first on purpose: it keeps decimal sizes on one kernel.
-constexpr Count kKernelSizes[] = {10, 43, 41, 37, 32, 31, 29, 19, 18, 17, 16, 14, 13, 11, 9, 8, 7, 5, 4, 3, 2};
+// The kernel sizes in the order in which they are tried: 10 stands first on purpose, it keeps decimal sizes on one
+// kernel. And what a pass of each costs a point, in nanoseconds of a wide machine, fitted to the times of 700 sizes.
+struct KernelSize {
+    Count size;
+    double cost;
+};
+constexpr KernelSize kKernelSizes[] = {{10, 0.35}, {43, 1.60}, {41, 1.60}, {37, 1.35}, {32, 0.47}, {31, 1.07},
+                                       {29, 1.05}, {19, 0.75}, {18, 0.45}, {17, 0.58}, {16, 0.40}, {14, 0.40},
+                                       {13, 0.50}, {11, 0.44}, {9, 0.39},  {8, 0.38},  {7, 0.39},  {5, 0.36},
+                                       {4, 0.33},  {3, 0.28},  {2, 0.26}};
 constexpr Count kFirstLargePrime = 50;
-constexpr Count kCacheLine = 8;  // doubles
 
 FftPlan* CreateUnlocked(Count size) noexcept;
 void ReleaseUnlocked(FftPlan* plan) noexcept;
@@ -34,12 +42,6 @@ bool Allocate(T*& block, Size count) noexcept {
     return block != nullptr;
 }
 
-// The first start of a cache line in a block.
-double* LineStart(double* block) noexcept {
-    const std::size_t past = reinterpret_cast<std::uintptr_t>(block) / sizeof(double) % kCacheLine;
-    return block + (kCacheLine - past) % kCacheLine;
-}
-
 void Append(FftPlan& plan, Count factor, FactorKind kind) noexcept {
     plan.factors[plan.factorCount] = factor;
     plan.kinds[plan.factorCount++] = kind;
@@ -47,7 +49,7 @@ void Append(FftPlan& plan, Count factor, FactorKind kind) noexcept {
 
 void Factorise(FftPlan& plan) noexcept {
     Count rest = plan.size;
-    for (Count kernel : kKernelSizes)
+    for (const auto& [kernel, cost] : kKernelSizes)
         for (; rest > 1 && rest % kernel == 0; rest /= kernel) Append(plan, kernel, kKernelFactor);
     if (rest >= 9) {
         for (Size divisor = 3; divisor * divisor <= rest; divisor += 2)
@@ -199,15 +201,6 @@ Count PrimitiveRoot(Count p) noexcept {
     return 1;
 }
 
-bool RunsOnKernels(Count size) noexcept {
-    for (Count prime : {2, 3, 5, 7, 11, 13, 17, 19, 29, 31, 37, 41, 43})
-        while (size % prime == 0) size /= prime;
-    return size == 1;
-}
-
-// What a pass of one factor costs a point, roughly, in nanoseconds of a wide machine.
-double PassCost(Count factor) noexcept { return factor == 32 ? 0.8 : factor <= 18 ? 0.6 : 0.02 * factor + 0.5; }
-
 // A size from `wanted` up, not much above it, on which the kernels are fast: whole vectors, few passes, few large odd
 // factors.
 Count PaddedSize(Count wanted) noexcept {
@@ -217,14 +210,13 @@ Count PaddedSize(Count wanted) noexcept {
     Size size = (Size(wanted) + kStep - 1) / kStep * kStep;
     for (Count i = 0; i < kMostCandidates && size <= 0x7FFFFFFF && size <= wanted + Size(wanted) / 4 + kStep;
          ++i, size += kStep) {
-        if (!RunsOnKernels(static_cast<Count>(size))) continue;
-        FftPlan candidate = {};
-        candidate.size = static_cast<Count>(size);
-        Factorise(candidate);
+        Count rest = static_cast<Count>(size);
         double cost = 0;
-        for (Count k = 0; k < candidate.factorCount; ++k) cost += PassCost(candidate.factors[k]);
+        for (const auto& [kernel, pass] : kKernelSizes)
+            for (; rest % kernel == 0; rest /= kernel) cost += pass;
+        if (rest > 1) continue;
         if (cost * double(size) < bestCost) {
-            best = candidate.size;
+            best = static_cast<Count>(size);
             bestCost = cost * double(size);
         }
     }
@@ -235,7 +227,7 @@ Count PaddedSize(Count wanted) noexcept {
 // entry k - 1 is point k.
 Status MakeDirectTable(FftStage& stage, Count p, const double* cosines, const double* sines) noexcept {
     const Count columns = DirectColumns(p);
-    if (!Allocate(stage.directBlock, DirectTableLength(p) + kCacheLine)) return status::kOutOfMemory;
+    if (!Allocate(stage.directBlock, LinesLength(DirectTableLength(p)))) return status::kOutOfMemory;
     stage.directTable = LineStart(stage.directBlock);
     double* row = stage.directTable;
     for (Count j = 1; j <= p / 2; ++j, row += 2 * columns)
@@ -281,7 +273,8 @@ Status MakeLargePrime(FftStage& stage, Count p) noexcept {
         return MakeDirectTable(stage, p, circle, circle + n);
     if (!rough) return status::kSuccess;
     stage.paddedPlan = CreateUnlocked(PaddedSize(n / 2));
-    if (!stage.paddedPlan) return status::kOutOfMemory;
+    if (!stage.paddedPlan || !Allocate(stage.paddedBlock, LinesLength(PaddedTableLength(stage))))
+        return status::kOutOfMemory;
     return MakePaddedTables(stage, p, sequence);
 }
 
@@ -313,8 +306,7 @@ void Free(FftPlan* plan) noexcept {
         if (!stage) continue;
         ReleaseUnlocked(stage->raderPlan);
         ReleaseUnlocked(stage->paddedPlan);
-        HeapFree(stage->paddedSpectrum);
-        HeapFree(stage->paddedTurns);
+        HeapFree(stage->paddedBlock);
         HeapFree(stage->directBlock);
         HeapFree(stage->primeCos);
         HeapFree(stage->primeSin);
@@ -385,7 +377,10 @@ Count FftFastSize(Count n) noexcept {
     if (n < 2) return n;
     constexpr Count kLargest = 0x7FFFFFFF;
     for (Count size = n;; ++size) {
-        if (RunsOnKernels(size)) return size;
+        Count rest = size;
+        for (Count prime : {2, 3, 5, 7, 11, 13, 17, 19, 29, 31, 37, 41, 43})
+            while (rest % prime == 0) rest /= prime;
+        if (rest == 1) return size;
         if (size == kLargest) return n;  // no fast size fits: any size transforms
     }
 }

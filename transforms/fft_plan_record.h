@@ -23,10 +23,12 @@ struct FftStage {
     Count* raderScatter;
     // Large primes whose f - 1 has a large prime factor itself: the plan of a fast size M >= (f - 1)/2, the spectra of
     // the cosines and of the sines at the even and at the odd bins of twice that size, as records one after the other,
-    // and exp(-pi i q / M), q = 0 to M - 1.
+    // exp(-pi i q / M), q = 0 to M - 1, and the block that both
+    // stand in.
     FftPlan* paddedPlan;
     double* paddedSpectrum;
     double* paddedTurns;
+    double* paddedBlock;
     // Large primes that go by their defining sums: the matrices of kernels/direct_primes.h, and the block that they
     // stand in.
     double* directTable;

@@ -2,6 +2,7 @@
 
 #include "frame/memory.h"
 #include "frame/status.h"
+#include "transforms/cache_lines.h"
 #include "transforms/kernels/direct_primes.h"
 #include "transforms/rader_cyclic.h"
 #include "transforms/rader_padded.h"
@@ -19,8 +20,9 @@ public:
           length_(stage.directTable  ? DirectWorkLength(p)
                   : stage.paddedPlan ? PaddedWorkLength(stage)
                                      : CyclicWorkLength(p)),
-          work_(static_cast<std::size_t>(length_ + (withColumn ? 2 * Size(p) : 0))) {}
-    explicit operator bool() const noexcept { return static_cast<bool>(work_); }
+          block_(LinesLength(length_ + (withColumn ? 2 * Size(p) : 0))),
+          work_(LineStart(block_)) {}
+    explicit operator bool() const noexcept { return static_cast<bool>(block_); }
     double* column() const noexcept { return work_ + length_; }
 
     // One complex DFT. The input may be the output. Only the defining sums need the column, for scattered outputs.
@@ -47,7 +49,8 @@ private:
     const FftStage& stage_;
     Count p_;
     Size length_;
-    Block<double> work_;
+    Block<double> block_;
+    double* work_;
 };
 
 // Column j of p blocks, twiddled, as records.

@@ -3,8 +3,14 @@
 
 #include "frame/targets.h"
 #include "frame/types.h"
+#include "transforms/rader_records.h"
 
 namespace quorvan {
+
+// What belongs to the sums x[j] + x[p - j], and to the differences x[j] - x[p - j].
+struct HalvesOfRecords {
+    double *sums, *turnedSums, *differences, *turnedDifferences;
+};
 
 struct RaderLoops {
     // records[k] = conj(records[k] * (re[k], im[k])).
@@ -19,10 +25,13 @@ struct RaderLoops {
     // where bin k has its mirror at m = n - k, or for odd bins, which stand half a bin further up, at m = n - 1 - k.
     void (*pairProduct)(const double* spectrum, const double* cosines, const double* sines, bool odd, Count n,
                         double* out);
-    // From four convolutions, conjugated, e = sums + turns * turnedSums and f likewise of the differences, to
-    // sums[k] = first + conj e + i conj f, and differences[k] = first + conj e - i conj f.
-    void (*unfold)(double* sums, const double* turnedSums, double* differences, const double* turnedDifferences,
-                   const double* turns, ComplexRecord first, Count n);
+    // For q = 0 to h - 1, with j = indices[q]: sums[q] = x[j] + x[p - j] and differences[q] = x[j] - x[p - j], and both
+    // times turns[q].
+    void (*fold)(const ComplexInput& x, const Count* indices, Count p, const double* turns, const HalvesOfRecords& out);
+    // From four convolutions, conjugated, e = sums + turns * turned sums and f likewise of the differences, for
+    // q = 0 to h - 1, with k = indices[q]: X[k] = first + conj e + i conj f and X[p - k] = first + conj e - i conj f.
+    void (*unfold)(const HalvesOfRecords& in, const double* turns, Record first, const Count* indices, Count p,
+                   const ComplexOutput& X);
 };
 QV_DECLARE_TARGETS(RaderLoops, kRaderLoops)
 

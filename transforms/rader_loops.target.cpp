@@ -57,20 +57,65 @@ void PairProduct(const double* spectrum, const double* cosines, const double* si
     });
 }
 
-void Unfold(double* sums, const double* turnedSums, double* differences, const double* turnedDifferences,
-            const double* turns, ComplexRecord first, Count n) {
-    ForRecords(n, [=]<class V>(Size i) {
-        const Factor<V> turn = FactorsOf(Load<V>(turns + i));
-        const V e = Load<V>(sums + i) + Product(turn, Load<V>(turnedSums + i));
-        const V f = Load<V>(differences + i) + Product(turn, Load<V>(turnedDifferences + i));
-        const V even = Alternating<V>(first.re, first.im) + Conjugate(e), odd = Swapped(f);  // i conj f
-        Store(sums + i, even + odd);
-        Store(differences + i, even - odd);
+template <class Half, int... I>
+QV_INLINE auto JoinedHalves(Half low, Half high, std::integer_sequence<int, I...>) {
+    return __builtin_shufflevector(low, high, I...);
+}
+// The records get(0), get(1), ... side by side.
+template <class V, class Get>
+QV_INLINE V Joined(const Get& get) {
+    if constexpr (kLanes<V> == 2) {
+        return get(0);
+    } else {
+        typedef double Half __attribute__((vector_size(sizeof(V) / 2)));
+        return JoinedHalves(Joined<Half>(get), Joined<Half>([&](int r) { return get(kLanes<V> / 4 + r); }), Lanes<V>{});
+    }
+}
+template <int r, class V>
+QV_INLINE Pair RecordOf(V v) {
+    return __builtin_shufflevector(v, v, 2 * r, 2 * r + 1);
+}
+// put(0, first record of v), put(1, second record), ...
+template <class V, class Put, int... R>
+QV_INLINE void Part(V v, const Put& put, std::integer_sequence<int, R...>) {
+    (put(R, RecordOf<R>(v)), ...);
+}
+
+void Fold(const ComplexInput& x, const Count* indices, Count p, const double* turns, const HalvesOfRecords& out) {
+    WithLayout(x, [=](auto x) {
+        ForRecords(p / 2, [=]<class V>(Size i) {
+            const Count* j = indices + i / 2;
+            const V low = Joined<V>([&](int r) { return x[j[r]]; });
+            const V high = Joined<V>([&](int r) { return x[p - j[r]]; });
+            const Factor<V> turn = FactorsOf(Load<V>(turns + i));
+            Store(out.sums + i, low + high);
+            Store(out.differences + i, low - high);
+            Store(out.turnedSums + i, Product(turn, low + high));
+            Store(out.turnedDifferences + i, Product(turn, low - high));
+        });
+    });
+}
+
+void Unfold(const HalvesOfRecords& in, const double* turns, Record first, const Count* indices, Count p,
+            const ComplexOutput& X) {
+    WithLayout(X, [=](auto X) {
+        ForRecords(p / 2, [=]<class V>(Size i) {
+            const Count* k = indices + i / 2;
+            const Factor<V> turn = FactorsOf(Load<V>(turns + i));
+            const V e = Load<V>(in.sums + i) + Product(turn, Load<V>(in.turnedSums + i));
+            const V f = Load<V>(in.differences + i) + Product(turn, Load<V>(in.turnedDifferences + i));
+            const V even = Alternating<V>(first[0], first[1]) + Conjugate(e), odd = Swapped(f);  // i conj f
+            constexpr std::make_integer_sequence<int, kLanes<V> / 2> records;
+            Part(
+                even + odd, [&](int r, Pair value) { X.Set(k[r], value); }, records);
+            Part(
+                even - odd, [&](int r, Pair value) { X.Set(p - k[r], value); }, records);
+        });
     });
 }
 
 }  // namespace
 
-const RaderLoops kRaderLoops = {ConjugateProduct, ConjugateRecordProduct, Turn, PairProduct, Unfold};
+const RaderLoops kRaderLoops = {ConjugateProduct, ConjugateRecordProduct, Turn, PairProduct, Fold, Unfold};
 
 }  // namespace quorvan::QV_TARGET

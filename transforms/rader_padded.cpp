@@ -6,6 +6,7 @@
 
 #include "frame/memory.h"
 #include "frame/status.h"
+#include "transforms/cache_lines.h"
 #include "transforms/fft.h"
 #include "transforms/rader_loops.h"
 
@@ -41,12 +42,9 @@ struct Lanes {
     Size M;
     double* operator[](int lane) const noexcept { return first + 2 * M * lane; }
 
-    // Lane `from` holds `count` records; lane `to` becomes the same turned, and both end in zeros.
-    void TurnAndPad(const FftStage& stage, int from, int to, Count count) const noexcept {
-        double *records = (*this)[from], *turned = (*this)[to];
-        kRaderLoops().turn(records, stage.paddedTurns, count, turned);
-        for (double* lane : {records, turned})
-            std::memset(lane + 2 * Size(count), 0, 2 * sizeof(double) * static_cast<std::size_t>(M - count));
+    // The lane holds `count` records and ends in zeros.
+    void Pad(int lane, Count count) const noexcept {
+        std::memset((*this)[lane] + 2 * Size(count), 0, 2 * sizeof(double) * static_cast<std::size_t>(M - count));
     }
 };
 
@@ -61,10 +59,10 @@ struct Half {
 Status MakePaddedTables(FftStage& stage, Count p, const double* sequence) noexcept {
     const FftPlan* plan = stage.paddedPlan;
     const Count h = p / 2, M = plan->size;
-    stage.paddedTurns = Block<double>(2 * std::size_t(M)).release();
-    stage.paddedSpectrum = Block<double>(8 * std::size_t(M)).release();
     const Block<double> lanes(4 * std::size_t(M));
-    if (!stage.paddedTurns || !stage.paddedSpectrum || !lanes) return status::kOutOfMemory;
+    if (!lanes) return status::kOutOfMemory;
+    stage.paddedTurns = LineStart(stage.paddedBlock);
+    stage.paddedSpectrum = stage.paddedTurns + 2 * Size(M);
     HalfBinTurns(M, stage.paddedTurns);
     // The sequence carries 1/(p - 1) for the inverse of that length; here the inverse is of length 2M.
     const double scale = double(p - 1) / (2 * double(M));
@@ -88,41 +86,28 @@ Status MakePaddedTables(FftStage& stage, Count p, const double* sequence) noexce
     return status::kSuccess;
 }
 
+Size PaddedTableLength(const FftStage& stage) noexcept { return 10 * Size(stage.paddedPlan->size); }
 Size PaddedWorkLength(const FftStage& stage) noexcept { return 10 * Size(stage.paddedPlan->size); }
 
 Status PaddedTransform(const ComplexInput& in, const ComplexOutput& out, const FftStage& stage, Count p,
                        double* work) noexcept {
-    enum { kSums, kTurnedSums, kDifferences, kTurnedDifferences, kSpectrum };
     const FftPlan* plan = stage.paddedPlan;
     const Count h = p / 2, M = plan->size;
     const Lanes lanes{work, M};
-    double *sums = lanes[kSums], *differences = lanes[kDifferences], *spectrum = lanes[kSpectrum];
+    const HalvesOfRecords halves{lanes[0], lanes[1], lanes[2], lanes[3]};
+    double* spectrum = lanes[4];
     const Record first = in[0];
-    WithLayout(in, [=, gather = stage.raderGather + 1](auto x) {
-        for (Count q = 0; q < h; ++q) {
-            const Record low = x[gather[q]], high = x[p - gather[q]];
-            StoreRecord(sums + 2 * Size(q), low + high);
-            StoreRecord(differences + 2 * Size(q), low - high);
-        }
-    });
-    lanes.TurnAndPad(stage, kSums, kTurnedSums, h);
-    lanes.TurnAndPad(stage, kDifferences, kTurnedDifferences, h);
     Record total = first;
-    for (int lane : {kSums, kTurnedSums, kDifferences, kTurnedDifferences}) {
+    kRaderLoops().fold(in, stage.raderGather + 1, p, stage.paddedTurns, halves);
+    for (int lane = 0; lane < 4; ++lane) {
+        lanes.Pad(lane, h);
         if (const Status status = Forward(plan, lanes[lane], spectrum); status < 0) return status;
-        if (lane == kSums) total += LoadRecord(spectrum);
+        if (lane == 0) total += LoadRecord(spectrum);
         kRaderLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum + 2 * Size(M) * lane, M);
         if (const Status status = Forward(plan, spectrum, lanes[lane]); status < 0) return status;
     }
-    kRaderLoops().unfold(sums, lanes[kTurnedSums], differences, lanes[kTurnedDifferences], stage.paddedTurns,
-                         {first[0], first[1]}, h);
     out.Set(0, total);
-    WithLayout(out, [=, scatter = stage.raderScatter + 1](auto X) {
-        for (Count q = 0; q < h; ++q) {
-            X.Set(scatter[q], LoadRecord(sums + 2 * Size(q)));
-            X.Set(p - scatter[q], LoadRecord(differences + 2 * Size(q)));
-        }
-    });
+    kRaderLoops().unfold(halves, stage.paddedTurns, first, stage.raderScatter + 1, p, out);
     return status::kSuccess;
 }
 
@@ -141,10 +126,11 @@ Status PaddedTransformReal(const double* in, Size inStride, double* out, Size ou
         even[2 * Size(q)] = low + high;
         even[2 * Size(q) + 1] = low - high;
     }
-    lanes.TurnAndPad(stage, kEven, kOdd, h);
+    kRaderLoops().turn(even, stage.paddedTurns, h, odd);
     double total = first;
     for (int lane : {kEven, kOdd}) {
         const double *cosines = stage.paddedSpectrum + 2 * Size(M) * lane, *sines = cosines + 4 * Size(M);
+        lanes.Pad(lane, h);
         if (const Status status = Forward(plan, lanes[lane], spectrum); status < 0) return status;
         if (lane == kEven) total += spectrum[0];
         double* product = lanes[kSpectrum + 1];
@@ -155,11 +141,10 @@ Status PaddedTransformReal(const double* in, Size inStride, double* out, Size ou
     out[0] = total;
     for (Count q = 0; q < h; ++q) {
         const Size k = 2 * Size(q);
-        const double re = first + even[k] + odd[k], im = -(even[k + 1] + odd[k + 1]);
-        const Count t = stage.raderScatter[q + 1];
-        const bool upper = t > p / 2;
-        out[(upper ? p - t : t) * outStride] = re;
-        out[(upper ? t : p - t) * outStride] = upper ? -im : im;
+        // X[t] or its conjugate X[p - t], whichever comes first; chosen without a jump, since t is as good as random.
+        const Count t = stage.raderScatter[q + 1], low = t < p - t ? t : p - t;
+        out[low * outStride] = first + even[k] + odd[k];
+        out[(p - low) * outStride] = (even[k + 1] + odd[k + 1]) * (low == t ? -1 : 1);
     }
     return status::kSuccess;
 }

@@ -13,7 +13,9 @@
 
 namespace quorvan {
 
-// Fills paddedSpectrum and paddedTurns of the stage of prime p, whose paddedPlan exists. `sequence` holds the roots of
+// Doubles of the tables of a stage whose paddedPlan exists.
+Size PaddedTableLength(const FftStage& stage) noexcept;
+// Fills them, for prime p, from the start of the first line in paddedBlock on. `sequence` holds the roots of
 // unity over p - 1 in generator order, the real parts and then the imaginary ones.
 Status MakePaddedTables(FftStage& stage, Count p, const double* sequence) noexcept;
 

@@ -1,6 +1,7 @@
 // Complex elements of any layout as registers of one record, for the passes that Rader's index tables scatter.
 #pragma once
 
+#include "frame/targets.h"
 #include "frame/types.h"
 
 namespace quorvan {
@@ -8,56 +9,56 @@ namespace quorvan {
 // A record in one register, where real and imaginary parts are neighbours.
 typedef double Record __attribute__((vector_size(2 * sizeof(double))));
 
-inline Record LoadRecord(const double* p) noexcept { return Record{p[0], p[1]}; }
-inline void StoreRecord(double* p, Record value) noexcept {
-    p[0] = value[0];
-    p[1] = value[1];
+QV_INLINE Record LoadRecord(const double* p) noexcept {
+    Record value;
+    __builtin_memcpy(&value, p, sizeof value);
+    return value;
 }
+QV_INLINE void StoreRecord(double* p, Record value) noexcept { __builtin_memcpy(p, &value, sizeof value); }
 
 // Element k stands at (re[k * stride], im[k * stride]).
 struct ComplexInput {
     const double *re, *im;
     Size stride;
 
-    Record operator[](Size k) const noexcept { return Record{re[k * stride], im[k * stride]}; }
+    QV_INLINE bool AreRecords() const noexcept { return im == re + 1 && stride == 2; }
+    QV_INLINE Record operator[](Size k) const noexcept { return Record{re[k * stride], im[k * stride]}; }
 };
 struct ComplexOutput {
     double *re, *im;
     Size stride;
 
-    bool AreRecords() const noexcept { return im == re + 1 && stride == 2; }
-    void Set(Size k, Record value) const noexcept {
+    QV_INLINE bool AreRecords() const noexcept { return im == re + 1 && stride == 2; }
+    QV_INLINE void Set(Size k, Record value) const noexcept {
         re[k * stride] = value[0];
         im[k * stride] = value[1];
     }
 };
 
-// The same where the parts of an element are neighbours: one move each.
-struct AdjacentInput {
-    const double* re;
-    Size stride;
+// The same for an array of records: one move and no product an element.
+struct RecordInput {
+    const double* records;
 
-    Record operator[](Size k) const noexcept { return LoadRecord(re + k * stride); }
+    QV_INLINE Record operator[](Size k) const noexcept { return LoadRecord(records + 2 * k); }
 };
-struct AdjacentOutput {
-    double* re;
-    Size stride;
+struct RecordOutput {
+    double* records;
 
-    void Set(Size k, Record value) const noexcept { StoreRecord(re + k * stride, value); }
+    QV_INLINE void Set(Size k, Record value) const noexcept { StoreRecord(records + 2 * k, value); }
 };
 
-// body(in) with the narrowest type that fits the layout.
+// body(array), with the type that fits the layout.
 template <class Body>
-void WithLayout(const ComplexInput& in, const Body& body) {
-    if (in.im == in.re + 1)
-        body(AdjacentInput{in.re, in.stride});
+QV_INLINE void WithLayout(const ComplexInput& in, const Body& body) {
+    if (in.AreRecords())
+        body(RecordInput{in.re});
     else
         body(in);
 }
 template <class Body>
-void WithLayout(const ComplexOutput& out, const Body& body) {
-    if (out.im == out.re + 1)
-        body(AdjacentOutput{out.re, out.stride});
+QV_INLINE void WithLayout(const ComplexOutput& out, const Body& body) {
+    if (out.AreRecords())
+        body(RecordOutput{out.re});
     else
         body(out);
 }
