@@ -223,22 +223,6 @@ Count PaddedSize(Count wanted) noexcept {
     return best;
 }
 
-// Row j of the matrices of kernels/direct_primes.h runs through the multiples of j on the circle of p points, whose
-// entry k - 1 is point k.
-Status MakeDirectTable(FftStage& stage, Count p, const double* cosines, const double* sines) noexcept {
-    const Count columns = DirectColumns(p);
-    if (!Allocate(stage.directBlock, LinesLength(DirectTableLength(p)))) return status::kOutOfMemory;
-    stage.directTable = LineStart(stage.directBlock);
-    double* row = stage.directTable;
-    for (Count j = 1; j <= p / 2; ++j, row += 2 * columns)
-        for (Count k = 0, q = j; k < columns; ++k) {
-            row[k] = cosines[q - 1];
-            row[columns + k] = sines[q - 1];
-            q = q + j < p ? q + j : q + j - p;
-        }
-    return status::kSuccess;
-}
-
 // Rader (1968): the DFT of a prime length p as a cyclic convolution of length p - 1 over the powers of a primitive
 // root.
 Status MakeLargePrime(FftStage& stage, Count p) noexcept {
@@ -268,10 +252,15 @@ Status MakeLargePrime(FftStage& stage, Count p) noexcept {
             FftComplex(stage.raderPlan, sequence, sequence + n, stage.raderSpectrumRe, stage.raderSpectrumIm, 1, 1, n);
         status < 0)
         return status;
-    const bool rough = stage.raderPlan->kinds[stage.raderPlan->factorCount - 1] == kLargePrime;
-    if (p <= (rough ? kDirectPrimes().largestRough : kDirectPrimes().largest))
-        return MakeDirectTable(stage, p, circle, circle + n);
-    if (!rough) return status::kSuccess;
+    const Count last = stage.raderPlan->factorCount - 1, factor = stage.raderPlan->factors[last];
+    const bool slow = factor > 19 && factor % 2;
+    if (p <= (slow ? kDirectPrimes().largestSlow : kDirectPrimes().largest)) {
+        if (!Allocate(stage.directBlock, LinesLength(DirectTableLength(p)))) return status::kOutOfMemory;
+        stage.directTable = LineStart(stage.directBlock);
+        kDirectPrimes().fillTable(p, circle, circle + n, scatter + 1, stage.directTable);
+        return status::kSuccess;
+    }
+    if (stage.raderPlan->kinds[last] != kLargePrime) return status::kSuccess;
     stage.paddedPlan = CreateUnlocked(PaddedSize(n / 2));
     if (!stage.paddedPlan || !Allocate(stage.paddedBlock, LinesLength(PaddedTableLength(stage))))
         return status::kOutOfMemory;

@@ -22,9 +22,8 @@ struct FftStage {
     Count* raderGather;
     Count* raderScatter;
     // Large primes whose f - 1 has a large prime factor itself: the plan of a fast size M >= (f - 1)/2, the spectra of
-    // the cosines and of the sines at the even and at the odd bins of twice that size, as records one after the other,
-    // exp(-pi i q / M), q = 0 to M - 1, and the block that both
-    // stand in.
+    // the cosines and of the sines at the even and at the odd bins of twice that size, as records one after the other;
+    // exp(-pi i q / M), q = 0 to M - 1; and the block that both stand in.
     FftPlan* paddedPlan;
     double* paddedSpectrum;
     double* paddedTurns;

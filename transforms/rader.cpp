@@ -10,47 +10,65 @@
 namespace quorvan {
 namespace {
 
-// One prime with the way that its plan holds for it: the defining sums, the convolution in padded halves, or the one of
-// its own length. The workspace is that of one transform at a time, and a column of records.
+Status DirectTransform(const ComplexInput& in, const ComplexOutput& out, const FftStage& stage, Count p,
+                       double* work) noexcept {
+    kDirectPrimes().complex(in, out, p, stage.raderGather + 1, stage.raderScatter + 1, stage.directTable, work);
+    return status::kSuccess;
+}
+
+Status DirectTransformReal(const double* in, Size inStride, double* out, Size outStride, const FftStage& stage, Count p,
+                           double* work) noexcept {
+    kDirectPrimes().real(in, inStride, out, outStride, p, stage.raderGather + 1, stage.raderScatter + 1,
+                         stage.directTable, work);
+    return status::kSuccess;
+}
+
+// A way to one DFT of length p, and the doubles of workspace that it takes.
+struct Way {
+    decltype(&DirectTransform) complex;
+    decltype(&DirectTransformReal) real;
+    Size workLength;
+};
+
+// The way that the plan holds tables for.
+Way WayOf(const FftStage& stage, Count p) noexcept {
+    if (stage.directTable) return {DirectTransform, DirectTransformReal, DirectWorkLength(p)};
+    if (stage.paddedPlan) return {PaddedTransform, PaddedTransformReal, kCacheLine + PaddedWorkLength(stage)};
+    return {CyclicTransform, CyclicTransformReal, kCacheLine + CyclicWorkLength(p)};
+}
+
+// The transforms of one prime, one at a time, with their workspace. It starts with a cache line where vectors read it;
+// that of the defining sums is rather kept as small as the allocator is fast with. In front of it, a column of records.
 class LargePrime {
 public:
     LargePrime(const FftStage& stage, Count p, bool withColumn) noexcept
         : stage_(stage),
           p_(p),
-          length_(stage.directTable  ? DirectWorkLength(p)
-                  : stage.paddedPlan ? PaddedWorkLength(stage)
-                                     : CyclicWorkLength(p)),
-          block_(LinesLength(length_ + (withColumn ? 2 * Size(p) : 0))),
-          work_(LineStart(block_)) {}
+          way_(WayOf(stage, p)),
+          columnLength_(withColumn ? 2 * Size(p) : 0),
+          block_(static_cast<std::size_t>(columnLength_ + way_.workLength)) {}
     explicit operator bool() const noexcept { return static_cast<bool>(block_); }
-    double* column() const noexcept { return work_ + length_; }
+    double* column() const noexcept { return block_; }
 
-    // One complex DFT. The input may be the output. Only the defining sums need the column, for scattered outputs.
+    // One complex DFT. The input may be the output.
     Status Transform(const ComplexInput& in, const ComplexOutput& out) const noexcept {
-        if (!stage_.directTable)
-            return (stage_.paddedPlan ? PaddedTransform : CyclicTransform)(in, out, stage_, p_, work_);
-        double* records = out.AreRecords() ? out.re : column();
-        kDirectPrimes().complex(in.re, in.im, in.stride, records, p_, stage_.directTable, work_);
-        if (records != out.re)
-            for (Count k = 0; k < p_; ++k) out.Set(k, LoadRecord(records + 2 * Size(k)));
-        return status::kSuccess;
+        return way_.complex(in, out, stage_, p_, work());
     }
-
     // One real DFT into HalfComplex.
     Status TransformReal(const double* in, Size inStride, double* out, Size outStride) const noexcept {
-        if (!stage_.directTable)
-            return (stage_.paddedPlan ? PaddedTransformReal : CyclicTransformReal)(in, inStride, out, outStride, stage_,
-                                                                                   p_, work_);
-        kDirectPrimes().real(in, inStride, out, outStride, p_, stage_.directTable, work_);
-        return status::kSuccess;
+        return way_.real(in, inStride, out, outStride, stage_, p_, work());
     }
 
 private:
+    double* work() const noexcept {
+        return stage_.directTable ? block_ + columnLength_ : LineStart(block_ + columnLength_);
+    }
+
     const FftStage& stage_;
     Count p_;
-    Size length_;
+    Way way_;
+    Size columnLength_;
     Block<double> block_;
-    double* work_;
 };
 
 // Column j of p blocks, twiddled, as records.
@@ -70,7 +88,7 @@ void TurnColumn(double* column, const FftStage& stage, Size j, Count p) noexcept
 Status RaderComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride,
                         Size outStride, Count count, Size elementStride, const Count* positions, const FftStage& stage,
                         Count p) noexcept {
-    const LargePrime prime(stage, p, !ComplexOutput{outRe, outIm, outStride}.AreRecords());
+    const LargePrime prime(stage, p, false);
     if (!prime) return status::kOutOfMemory;
     for (Count t = 0; t < count; ++t) {
         const Size out = positions[t] * outStride;

@@ -57,30 +57,6 @@ void PairProduct(const double* spectrum, const double* cosines, const double* si
     });
 }
 
-template <class Half, int... I>
-QV_INLINE auto JoinedHalves(Half low, Half high, std::integer_sequence<int, I...>) {
-    return __builtin_shufflevector(low, high, I...);
-}
-// The records get(0), get(1), ... side by side.
-template <class V, class Get>
-QV_INLINE V Joined(const Get& get) {
-    if constexpr (kLanes<V> == 2) {
-        return get(0);
-    } else {
-        typedef double Half __attribute__((vector_size(sizeof(V) / 2)));
-        return JoinedHalves(Joined<Half>(get), Joined<Half>([&](int r) { return get(kLanes<V> / 4 + r); }), Lanes<V>{});
-    }
-}
-template <int r, class V>
-QV_INLINE Pair RecordOf(V v) {
-    return __builtin_shufflevector(v, v, 2 * r, 2 * r + 1);
-}
-// put(0, first record of v), put(1, second record), ...
-template <class V, class Put, int... R>
-QV_INLINE void Part(V v, const Put& put, std::integer_sequence<int, R...>) {
-    (put(R, RecordOf<R>(v)), ...);
-}
-
 void Fold(const ComplexInput& x, const Count* indices, Count p, const double* turns, const HalvesOfRecords& out) {
     WithLayout(x, [=](auto x) {
         ForRecords(p / 2, [=]<class V>(Size i) {
@@ -105,11 +81,8 @@ void Unfold(const HalvesOfRecords& in, const double* turns, Record first, const 
             const V e = Load<V>(in.sums + i) + Product(turn, Load<V>(in.turnedSums + i));
             const V f = Load<V>(in.differences + i) + Product(turn, Load<V>(in.turnedDifferences + i));
             const V even = Alternating<V>(first[0], first[1]) + Conjugate(e), odd = Swapped(f);  // i conj f
-            constexpr std::make_integer_sequence<int, kLanes<V> / 2> records;
-            Part(
-                even + odd, [&](int r, Pair value) { X.Set(k[r], value); }, records);
-            Part(
-                even - odd, [&](int r, Pair value) { X.Set(p - k[r], value); }, records);
+            Part(even + odd, [&](int r, Pair value) { X.Set(k[r], value); });
+            Part(even - odd, [&](int r, Pair value) { X.Set(p - k[r], value); });
         });
     });
 }

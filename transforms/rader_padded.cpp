@@ -37,14 +37,14 @@ Status Forward(const FftPlan* plan, const double* in, double* out) noexcept {
 }
 
 // M records each, one after the other.
-struct Lanes {
+struct Rows {
     double* first;
     Size M;
-    double* operator[](int lane) const noexcept { return first + 2 * M * lane; }
+    double* operator[](int row) const noexcept { return first + 2 * M * row; }
 
-    // The lane holds `count` records and ends in zeros.
-    void Pad(int lane, Count count) const noexcept {
-        std::memset((*this)[lane] + 2 * Size(count), 0, 2 * sizeof(double) * static_cast<std::size_t>(M - count));
+    // Row `row` holds `count` records and ends in zeros.
+    void Pad(int row, Count count) const noexcept {
+        std::memset((*this)[row] + 2 * Size(count), 0, 2 * sizeof(double) * static_cast<std::size_t>(M - count));
     }
 };
 
@@ -59,14 +59,14 @@ struct Half {
 Status MakePaddedTables(FftStage& stage, Count p, const double* sequence) noexcept {
     const FftPlan* plan = stage.paddedPlan;
     const Count h = p / 2, M = plan->size;
-    const Block<double> lanes(4 * std::size_t(M));
-    if (!lanes) return status::kOutOfMemory;
+    const Block<double> rows(4 * std::size_t(M));
+    if (!rows) return status::kOutOfMemory;
     stage.paddedTurns = LineStart(stage.paddedBlock);
     stage.paddedSpectrum = stage.paddedTurns + 2 * Size(M);
     HalfBinTurns(M, stage.paddedTurns);
     // The sequence carries 1/(p - 1) for the inverse of that length; here the inverse is of length 2M.
     const double scale = double(p - 1) / (2 * double(M));
-    double *even = lanes, *odd = lanes + 2 * Size(M), *spectrum = stage.paddedSpectrum;
+    double *even = rows, *odd = rows + 2 * Size(M), *spectrum = stage.paddedSpectrum;
     for (const Half half : {Half{sequence, 1}, Half{sequence + p - 1, -1}}) {
         // The linear convolution needs entry q of the sequence for -h < q < h; those below 0 stand behind, at 2M + q.
         for (Count q = 0; q < M; ++q) {
@@ -78,8 +78,8 @@ Status MakePaddedTables(FftStage& stage, Count p, const double* sequence) noexce
             even[2 * Size(q) + 1] = odd[2 * Size(q) + 1] = 0;
         }
         kRaderLoops().turn(odd, stage.paddedTurns, M, odd);
-        for (const double* lane : {even, odd}) {
-            if (const Status status = Forward(plan, lane, spectrum); status < 0) return status;
+        for (const double* bins : {even, odd}) {
+            if (const Status status = Forward(plan, bins, spectrum); status < 0) return status;
             spectrum += 2 * Size(M);
         }
     }
@@ -93,18 +93,18 @@ Status PaddedTransform(const ComplexInput& in, const ComplexOutput& out, const F
                        double* work) noexcept {
     const FftPlan* plan = stage.paddedPlan;
     const Count h = p / 2, M = plan->size;
-    const Lanes lanes{work, M};
-    const HalvesOfRecords halves{lanes[0], lanes[1], lanes[2], lanes[3]};
-    double* spectrum = lanes[4];
+    const Rows rows{work, M};
+    const HalvesOfRecords halves{rows[0], rows[1], rows[2], rows[3]};
+    double* spectrum = rows[4];
     const Record first = in[0];
     Record total = first;
     kRaderLoops().fold(in, stage.raderGather + 1, p, stage.paddedTurns, halves);
-    for (int lane = 0; lane < 4; ++lane) {
-        lanes.Pad(lane, h);
-        if (const Status status = Forward(plan, lanes[lane], spectrum); status < 0) return status;
-        if (lane == 0) total += LoadRecord(spectrum);
-        kRaderLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum + 2 * Size(M) * lane, M);
-        if (const Status status = Forward(plan, spectrum, lanes[lane]); status < 0) return status;
+    for (int row = 0; row < 4; ++row) {
+        rows.Pad(row, h);
+        if (const Status status = Forward(plan, rows[row], spectrum); status < 0) return status;
+        if (row == 0) total += LoadRecord(spectrum);
+        kRaderLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum + 2 * Size(M) * row, M);
+        if (const Status status = Forward(plan, spectrum, rows[row]); status < 0) return status;
     }
     out.Set(0, total);
     kRaderLoops().unfold(halves, stage.paddedTurns, first, stage.raderScatter + 1, p, out);
@@ -117,8 +117,8 @@ Status PaddedTransformReal(const double* in, Size inStride, double* out, Size ou
     enum { kEven, kOdd, kSpectrum };
     const FftPlan* plan = stage.paddedPlan;
     const Count h = p / 2, M = plan->size;
-    const Lanes lanes{work, M};
-    double *even = lanes[kEven], *odd = lanes[kOdd], *spectrum = lanes[kSpectrum];
+    const Rows rows{work, M};
+    double *even = rows[kEven], *odd = rows[kOdd], *spectrum = rows[kSpectrum];
     const double first = in[0];
     for (Count q = 0; q < h; ++q) {
         const Count j = stage.raderGather[q + 1];
@@ -128,14 +128,14 @@ Status PaddedTransformReal(const double* in, Size inStride, double* out, Size ou
     }
     kRaderLoops().turn(even, stage.paddedTurns, h, odd);
     double total = first;
-    for (int lane : {kEven, kOdd}) {
-        const double *cosines = stage.paddedSpectrum + 2 * Size(M) * lane, *sines = cosines + 4 * Size(M);
-        lanes.Pad(lane, h);
-        if (const Status status = Forward(plan, lanes[lane], spectrum); status < 0) return status;
-        if (lane == kEven) total += spectrum[0];
-        double* product = lanes[kSpectrum + 1];
-        kRaderLoops().pairProduct(spectrum, cosines, sines, lane == kOdd, M, product);
-        if (const Status status = Forward(plan, product, lanes[lane]); status < 0) return status;
+    for (int row : {kEven, kOdd}) {
+        const double *cosines = stage.paddedSpectrum + 2 * Size(M) * row, *sines = cosines + 4 * Size(M);
+        rows.Pad(row, h);
+        if (const Status status = Forward(plan, rows[row], spectrum); status < 0) return status;
+        if (row == kEven) total += spectrum[0];
+        double* product = rows[kSpectrum + 1];
+        kRaderLoops().pairProduct(spectrum, cosines, sines, row == kOdd, M, product);
+        if (const Status status = Forward(plan, product, rows[row]); status < 0) return status;
     }
     kRaderLoops().turn(odd, stage.paddedTurns, h, odd);
     out[0] = total;

@@ -16,26 +16,7 @@ QV_INLINE Record LoadRecord(const double* p) noexcept {
 }
 QV_INLINE void StoreRecord(double* p, Record value) noexcept { __builtin_memcpy(p, &value, sizeof value); }
 
-// Element k stands at (re[k * stride], im[k * stride]).
-struct ComplexInput {
-    const double *re, *im;
-    Size stride;
-
-    QV_INLINE bool AreRecords() const noexcept { return im == re + 1 && stride == 2; }
-    QV_INLINE Record operator[](Size k) const noexcept { return Record{re[k * stride], im[k * stride]}; }
-};
-struct ComplexOutput {
-    double *re, *im;
-    Size stride;
-
-    QV_INLINE bool AreRecords() const noexcept { return im == re + 1 && stride == 2; }
-    QV_INLINE void Set(Size k, Record value) const noexcept {
-        re[k * stride] = value[0];
-        im[k * stride] = value[1];
-    }
-};
-
-// The same for an array of records: one move and no product an element.
+// Elements that are records already: one move and no product each.
 struct RecordInput {
     const double* records;
 
@@ -47,20 +28,32 @@ struct RecordOutput {
     QV_INLINE void Set(Size k, Record value) const noexcept { StoreRecord(records + 2 * k, value); }
 };
 
+// Element k stands at (re[k * stride], im[k * stride]).
+struct ComplexInput {
+    using Records = RecordInput;
+    const double *re, *im;
+    Size stride;
+
+    QV_INLINE Record operator[](Size k) const noexcept { return Record{re[k * stride], im[k * stride]}; }
+};
+struct ComplexOutput {
+    using Records = RecordOutput;
+    double *re, *im;
+    Size stride;
+
+    QV_INLINE void Set(Size k, Record value) const noexcept {
+        re[k * stride] = value[0];
+        im[k * stride] = value[1];
+    }
+};
+
 // body(array), with the type that fits the layout.
-template <class Body>
-QV_INLINE void WithLayout(const ComplexInput& in, const Body& body) {
-    if (in.AreRecords())
-        body(RecordInput{in.re});
+template <class Array, class Body>
+QV_INLINE void WithLayout(const Array& array, const Body& body) {
+    if (array.im == array.re + 1 && array.stride == 2)
+        body(typename Array::Records{array.re});
     else
-        body(in);
-}
-template <class Body>
-QV_INLINE void WithLayout(const ComplexOutput& out, const Body& body) {
-    if (out.AreRecords())
-        body(RecordOutput{out.re});
-    else
-        body(out);
+        body(array);
 }
 
 }  // namespace quorvan

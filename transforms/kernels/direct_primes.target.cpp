@@ -8,8 +8,28 @@ namespace {
 // Vectors of columns that are summed side by side: as many as the registers hold, with two sums for each part.
 constexpr int kMostVectors = kWidth == 8 ? 6 : 2;
 
-// Measured against the convolutions.
-constexpr Count kLargest = kWidth == 8 ? 103 : kWidth == 4 ? 79 : 61, kLargestRough = 107;
+// Measured against the convolutions. Two lanes lose against fast ones at any size.
+constexpr Count kLargest = kWidth == 8 ? 79 : kWidth == 4 ? 61 : 0, kLargestSlow = 107;
+
+void FillTable(Count p, const double* cosines, const double* sines, const Count* powers, double* table) {
+    constexpr Count kMost = kLargestSlow;
+    const Count h = p / 2, columns = DirectColumns(p);
+    // The sequences from -h on: after h places the cosines repeat, the sines with the other sign.
+    double c[kMost / 2 + DirectColumns(kMost)], s[kMost / 2 + DirectColumns(kMost)];
+    for (Count v = 0; v < columns; ++v) {
+        c[h + v] = cosines[powers[v] - 1];
+        s[h + v] = sines[powers[v] - 1];
+    }
+    for (Count v = 0; v < h; ++v) {
+        c[v] = c[h + v];
+        s[v] = -s[h + v];
+    }
+    for (Count u = 0; u < h; ++u, table += 2 * columns)
+        for (Count v = 0; v < columns; v += kWidth) {
+            Store(table + v, Load<Wide>(c + h - u + v));
+            Store(table + columns + v, Load<Wide>(s + h - u + v));
+        }
+}
 
 QV_INLINE Wide Broadcast(double value) { return value - Wide{}; }
 
@@ -37,6 +57,13 @@ struct Sums {
     }
 };
 
+// put(i, the i-th record) of vectors of real and imaginary parts.
+template <class Put>
+QV_INLINE void PartInterleaved(Wide re, Wide im, const Put& put) {
+    Part(InterleavedLanes<0>(re, im, Lanes<Wide>{}), put);
+    Part(InterleavedLanes<kWidth / 2>(re, im, Lanes<Wide>{}), [&](int i, Pair bin) { put(kWidth / 2 + i, bin); });
+}
+
 // Calls body.operator()<V>(column) over all columns.
 template <class Body>
 QV_INLINE void ForColumns(Count columns, const Body& body) {
@@ -59,54 +86,46 @@ QV_INLINE void ForColumns(Count columns, const Body& body) {
     }
 }
 
-QV_INLINE Pair Record(const double* re, const double* im) { return Pair{*re, *im}; }
-
-// The first record and the folded ones; returns their sum.
-template <bool kAdjacent>
-QV_INLINE Pair Fold(const double* inRe, const double* inIm, Size stride, Count p, double* folded) {
-    const auto record = [=](Size j) {
-        return kAdjacent ? Load<Pair>(inRe + j * stride) : Record(inRe + j * stride, inIm + j * stride);
-    };
-    Pair total = record(0);
-    for (Count j = 1; 2 * j < p; ++j, folded += 4) {
-        const Pair low = record(j), high = record(p - j);
-        total += low + high;
-        Store(folded, low + high);
-        Store(folded + 2, low - high);
-    }
-    return total;
-}
-
-void Complex(const double* inRe, const double* inIm, Size inStride, double* out, Count p, const double* table,
-             double* work) {
-    const Count columns = DirectColumns(p);
-    const double first[] = {*inRe, *inIm};
-    const Pair total =
-        inIm == inRe + 1 ? Fold<true>(inRe, inIm, inStride, p, work) : Fold<false>(inRe, inIm, inStride, p, work);
-    Store(out, total);
-    // A vector that reaches beyond column h stores right bins there, which their mirrors give once more.
-    ForColumns(columns, [&]<int V>(Count column) {
-        const Sums<V, 2> sums(first, work, table + column, p / 2, columns);
-        for (int v = 0; v < V; ++v) {
-            const Wide* even = sums.even[v];
-            const Wide* odd = sums.odd[v];
-            const Size k = 1 + column + v * kWidth;
-            StoreInterleaved(out + 2 * k, even[0] - odd[1], even[1] + odd[0]);
-            StoreInterleaved(out + 2 * (p - k - kWidth + 1), Reversed(even[0] + odd[1]), Reversed(even[1] - odd[0]));
+void Complex(const ComplexInput& x, const ComplexOutput& X, Count p, const Count* inverses, const Count* powers,
+             const double* table, double* work) {
+    const Count h = p / 2, columns = DirectColumns(p);
+    const Record first = x[0];
+    const double parts[] = {first[0], first[1]};
+    Record total = first;
+    WithLayout(x, [&](auto x) {
+        for (Count u = 0; u < h; ++u) {
+            const Record low = x[inverses[u]], high = x[p - inverses[u]];
+            total += low + high;
+            StoreRecord(work + 4 * u, low + high);
+            StoreRecord(work + 4 * u + 2, low - high);
         }
+    });
+    X.Set(0, total);
+    WithLayout(X, [&](auto X) {
+        ForColumns(columns, [&]<int V>(Count column) {
+            const Sums<V, 2> sums(parts, work, table + column, h, columns);
+            for (int v = 0; v < V; ++v) {
+                const Wide* even = sums.even[v];
+                const Wide* odd = sums.odd[v];
+                const Count* k = powers + column + v * kWidth;
+                PartInterleaved(even[0] - odd[1], even[1] + odd[0], [&](int i, Pair bin) { X.Set(k[i], bin); });
+                PartInterleaved(even[0] + odd[1], even[1] - odd[0], [&](int i, Pair bin) { X.Set(p - k[i], bin); });
+            }
+        });
     });
 }
 
-void Real(const double* in, Size inStride, double* out, Size outStride, Count p, const double* table, double* work) {
-    const Count columns = DirectColumns(p), h = p / 2;
+void Real(const double* in, Size inStride, double* out, Size outStride, Count p, const Count* inverses,
+          const Count* powers, const double* table, double* work) {
+    const Count h = p / 2, columns = DirectColumns(p);
     double *even = work + 2 * columns, *odd = even + columns;
     const double first = in[0];
     double total = first;
-    for (Count j = 1; j <= h; ++j) {
-        const double low = in[j * inStride], high = in[(p - j) * inStride];
+    for (Count u = 0; u < h; ++u) {
+        const double low = in[inverses[u] * inStride], high = in[(p - inverses[u]) * inStride];
         total += low + high;
-        work[2 * (j - 1)] = low + high;
-        work[2 * (j - 1) + 1] = low - high;
+        work[2 * u] = low + high;
+        work[2 * u + 1] = low - high;
     }
     ForColumns(columns, [&]<int V>(Count column) {
         const Sums<V, 1> sums(&first, work, table + column, h, columns);
@@ -116,14 +135,16 @@ void Real(const double* in, Size inStride, double* out, Size outStride, Count p,
         }
     });
     out[0] = total;
-    for (Size k = 1; k <= h; ++k) {
-        out[k * outStride] = even[k - 1];
-        out[(p - k) * outStride] = odd[k - 1];
+    for (Count v = 0; v < h; ++v) {
+        // X[k] or its conjugate X[p - k], whichever comes first; chosen without a jump, since k is as good as random.
+        const Count k = powers[v], low = k < p - k ? k : p - k;
+        out[low * outStride] = even[v];
+        out[(p - low) * outStride] = odd[v] * (low == k ? 1 : -1);
     }
 }
 
 }  // namespace
 
-const DirectPrimes kDirectPrimes = {Complex, Real, kLargest, kLargestRough};
+const DirectPrimes kDirectPrimes = {FillTable, Complex, Real, kLargest, kLargestSlow};
 
 }  // namespace quorvan::QV_TARGET
