@@ -10,6 +10,9 @@ namespace quorvan {
 
 inline constexpr Count kCacheLine = 8;  // doubles
 
+// `count` and what fills its last line.
+constexpr Size WholeLines(Size count) noexcept { return (count + kCacheLine - 1) / kCacheLine * kCacheLine; }
+
 // How many doubles hold `count` that start with a line.
 constexpr std::size_t LinesLength(Size count) noexcept { return static_cast<std::size_t>(count) + kCacheLine; }
 

@@ -131,7 +131,7 @@ Size PlaceTables(FftPlan& plan, double* tables) noexcept {
     Size used = 0;
     const auto take = [&](double*& table, Size length) {
         if (tables) table = tables + used;
-        used += (length + kCacheLine - 1) / kCacheLine * kCacheLine;
+        used += WholeLines(length);
     };
     Count m = plan.size;
     for (Count i = 0; i + 1 < plan.factorCount; ++i) {

@@ -19,7 +19,7 @@ Status FinishConvolution(const FftStage& stage, Count n, double* spectrum, doubl
 Status CyclicTransform(const ComplexInput& in, const ComplexOutput& out, const FftStage& stage, Count p,
                        double* work) noexcept {
     const Count n = p - 1;
-    double *sequence = work, *spectrum = work + 2 * Size(n);
+    double *sequence = work, *spectrum = work + WholeLines(2 * Size(n));
     const Record first = in[0];
     WithLayout(in, [=, gather = stage.raderGather + 1](auto x) {
         for (Count q = 0; q < n; ++q) StoreRecord(sequence + 2 * Size(q), x[gather[q]]);
@@ -40,7 +40,7 @@ Status CyclicTransform(const ComplexInput& in, const ComplexOutput& out, const F
 Status CyclicTransformReal(const double* in, Size inStride, double* out, Size outStride, const FftStage& stage, Count p,
                            double* work) noexcept {
     const Count n = p - 1;
-    double *sequence = work, *spectrum = work + 2 * Size(n);
+    double *sequence = work, *spectrum = work + WholeLines(2 * Size(n));
     const double first = in[0];
     for (Count q = 0; q < n; ++q) sequence[q] = in[stage.raderGather[q + 1] * inStride];
     double* h = sequence + n;
