@@ -34,24 +34,8 @@ void Hartley(double* h, Count n, double scale) {
     }
 }
 
-void ConjugateProduct(double* __restrict records, const double* __restrict re, const double* __restrict im, Count n) {
-    for (Count k = 0; k < n; ++k) {
-        const double x = records[2 * Size(k)], y = records[2 * Size(k) + 1];
-        records[2 * Size(k)] = x * re[k] - y * im[k];
-        records[2 * Size(k) + 1] = -(x * im[k] + y * re[k]);
-    }
-}
-
-void ConjugateRecordProduct(double* __restrict records, const double* __restrict factors, Count n) {
-    for (Size k = 0; k < 2 * Size(n); k += 2) {
-        const double x = records[k], y = records[k + 1];
-        records[k] = x * factors[k] - y * factors[k + 1];
-        records[k + 1] = -(x * factors[k + 1] + y * factors[k]);
-    }
-}
-
 }  // namespace
 
-const FftLoops kFftLoops = {MirrorRecords, Hartley, ConjugateProduct, ConjugateRecordProduct};
+const FftLoops kFftLoops = {MirrorRecords, Hartley};
 
 }  // namespace quorvan::QV_TARGET

@@ -9,8 +9,11 @@
 #include "frame/memory.h"
 #include "frame/platform.h"
 #include "frame/status.h"
+#include "transforms/cache_lines.h"
 #include "transforms/fft.h"
 #include "transforms/fft_plan_record.h"
+#include "transforms/kernels/direct_primes.h"
+#include "transforms/rader_padded.h"
 #include "transforms/twiddles.h"
 
 namespace quorvan {
@@ -19,10 +22,17 @@ namespace {
 // The live plans, newest first. Guarded by the plan mutex, like every refCount.
 FftPlan* plan_list = nullptr;
 
-// 10 stands first on purpose: it keeps decimal sizes on one kernel.
-constexpr Count kKernelSizes[] = {10, 43, 41, 37, 32, 31, 29, 19, 18, 17, 16, 14, 13, 11, 9, 8, 7, 5, 4, 3, 2};
+// The kernel sizes in the order in which they are tried: 10 stands first on purpose, it keeps decimal sizes on one
+// kernel. And what a pass of each costs a point, in nanoseconds of a wide machine, fitted to the times of 700 sizes.
+struct KernelSize {
+    Count size;
+    double cost;
+};
+constexpr KernelSize kKernelSizes[] = {{10, 0.35}, {43, 1.60}, {41, 1.60}, {37, 1.35}, {32, 0.47}, {31, 1.07},
+                                       {29, 1.05}, {19, 0.75}, {18, 0.45}, {17, 0.58}, {16, 0.40}, {14, 0.40},
+                                       {13, 0.50}, {11, 0.44}, {9, 0.39},  {8, 0.38},  {7, 0.39},  {5, 0.36},
+                                       {4, 0.33},  {3, 0.28},  {2, 0.26}};
 constexpr Count kFirstLargePrime = 50;
-constexpr Count kCacheLine = 8;  // doubles
 
 FftPlan* CreateUnlocked(Count size) noexcept;
 void ReleaseUnlocked(FftPlan* plan) noexcept;
@@ -40,7 +50,7 @@ void Append(FftPlan& plan, Count factor, FactorKind kind) noexcept {
 
 void Factorise(FftPlan& plan) noexcept {
     Count rest = plan.size;
-    for (Count kernel : kKernelSizes)
+    for (const auto& [kernel, cost] : kKernelSizes)
         for (; rest > 1 && rest % kernel == 0; rest /= kernel) Append(plan, kernel, kKernelFactor);
     if (rest >= 9) {
         for (Size divisor = 3; divisor * divisor <= rest; divisor += 2)
@@ -102,7 +112,7 @@ public:
     explicit TableLayout(double* start) noexcept : start_(start) {}
     double* Take(Size length) noexcept {
         double* table = start_ ? start_ + used_ : nullptr;
-        used_ += (length + kCacheLine - 1) / kCacheLine * kCacheLine;
+        used_ += WholeLines(length);
         return table;
     }
     Size used() const noexcept { return used_; }
@@ -129,8 +139,7 @@ Status AllocateTables(double*& block, Size (*asked)(Size) noexcept, Place place)
     TableLayout measured(nullptr);
     place(measured);
     if (!Allocate(block, asked(measured.used() + kCacheLine))) return status::kOutOfMemory;
-    const std::size_t past = reinterpret_cast<std::uintptr_t>(block) / sizeof(double) % kCacheLine;
-    TableLayout layout(block + (kCacheLine - past) % kCacheLine);
+    TableLayout layout(LineStart(block));
     place(layout);
     return status::kSuccess;
 }
@@ -225,48 +234,26 @@ Count PrimitiveRoot(Count p) noexcept {
     return 1;
 }
 
-// What a pass of one factor costs a point, roughly, in nanoseconds of a wide machine.
-double PassCost(Count factor) noexcept { return factor == 32 ? 0.8 : factor <= 18 ? 0.6 : 0.02 * factor + 0.5; }
-
-// A size from `wanted` up, not much above it, on which the kernels are fast: few passes, few large odd factors.
+// A size from `wanted` up, not much above it, on which the kernels are fast: whole vectors, few passes, few large odd
+// factors.
 Count PaddedSize(Count wanted) noexcept {
-    constexpr Count kStep = 64, kMostCandidates = 4096;
+    constexpr Count kStep = 8, kMostCandidates = 4096;
     Count best = FftFastSize(wanted);
     double bestCost = HUGE_VAL;
     Size size = (Size(wanted) + kStep - 1) / kStep * kStep;
     for (Count i = 0; i < kMostCandidates && size <= 0x7FFFFFFF && size <= wanted + Size(wanted) / 4 + kStep;
          ++i, size += kStep) {
-        FftPlan candidate = {};
-        candidate.size = static_cast<Count>(size);
-        Factorise(candidate);
+        Count rest = static_cast<Count>(size);
         double cost = 0;
-        for (Count k = 0; k < candidate.factorCount; ++k)
-            cost += candidate.kinds[k] == kKernelFactor ? PassCost(candidate.factors[k]) : HUGE_VAL;
+        for (const auto& [kernel, pass] : kKernelSizes)
+            for (; rest % kernel == 0; rest /= kernel) cost += pass;
+        if (rest > 1) continue;
         if (cost * double(size) < bestCost) {
-            best = candidate.size;
+            best = static_cast<Count>(size);
             bestCost = cost * double(size);
         }
     }
     return best;
-}
-
-// Where the plan of n would recur into further large primes, the cyclic convolution of length n is done on a fast size
-// M: with the sequence repeated backwards behind 0, so that its linear convolution holds the cyclic one in 0 to n - 1.
-Status MakePaddedConvolution(FftStage& stage, Count n, const double* sequence) noexcept {
-    const Size wanted = 2 * Size(n) - 1;
-    if (wanted > 0x7FFFFFFF) return status::kSuccess;  // the recursion does it
-    const Count size = PaddedSize(static_cast<Count>(wanted));
-    stage.paddedPlan = CreateUnlocked(size);
-    Block<double> padded(2 * std::size_t(size));
-    if (!stage.paddedPlan || !Allocate(stage.paddedSpectrum, 2 * Size(size)) || !padded) return status::kOutOfMemory;
-    // The sequence carries 1/n for the inverse of length n; here the inverse is of length `size`.
-    const double scale = double(n) / size;
-    for (Size k = 0; k < size; ++k) {
-        const Size from = k < n ? k : k > size - n ? k - (size - n) : -1;
-        padded[2 * k] = from < 0 ? 0 : sequence[from] * scale;
-        padded[2 * k + 1] = from < 0 ? 0 : sequence[n + from] * scale;
-    }
-    return FftComplex(stage.paddedPlan, padded, padded + 1, stage.paddedSpectrum, stage.paddedSpectrum + 1, 2, 2, size);
 }
 
 // Rader (1968): the DFT of a prime length p as a cyclic convolution of length p - 1 over the powers of a primitive
@@ -298,8 +285,19 @@ Status MakeLargePrime(FftStage& stage, Count p) noexcept {
             FftComplex(stage.raderPlan, sequence, sequence + n, stage.raderSpectrumRe, stage.raderSpectrumIm, 1, 1, n);
         status < 0)
         return status;
-    if (stage.raderPlan->kinds[stage.raderPlan->factorCount - 1] != kLargePrime) return status::kSuccess;
-    return MakePaddedConvolution(stage, n, sequence);
+    const Count last = stage.raderPlan->factorCount - 1, factor = stage.raderPlan->factors[last];
+    const bool slow = factor > 19 && factor % 2;
+    if (p <= (slow ? kDirectPrimes().largestSlow : kDirectPrimes().largest)) {
+        if (!Allocate(stage.directBlock, LinesLength(DirectTableLength(p)))) return status::kOutOfMemory;
+        stage.directTable = LineStart(stage.directBlock);
+        kDirectPrimes().fillTable(p, circle, circle + n, scatter + 1, stage.directTable);
+        return status::kSuccess;
+    }
+    if (stage.raderPlan->kinds[last] != kLargePrime) return status::kSuccess;
+    stage.paddedPlan = CreateUnlocked(PaddedSize(n / 2));
+    if (!stage.paddedPlan || !Allocate(stage.paddedBlock, LinesLength(PaddedTableLength(stage))))
+        return status::kOutOfMemory;
+    return MakePaddedTables(stage, p, sequence);
 }
 
 Status MakeLargePrimes(FftPlan& plan) noexcept {
@@ -330,7 +328,8 @@ void Free(FftPlan* plan) noexcept {
         if (!stage) continue;
         ReleaseUnlocked(stage->raderPlan);
         ReleaseUnlocked(stage->paddedPlan);
-        HeapFree(stage->paddedSpectrum);
+        HeapFree(stage->paddedBlock);
+        HeapFree(stage->directBlock);
         HeapFree(stage->primeCos);
         HeapFree(stage->primeSin);
         HeapFree(stage->raderSpectrumRe);

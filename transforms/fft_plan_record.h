@@ -21,10 +21,17 @@ struct FftStage {
     double* raderSpectrumIm;
     Count* raderGather;
     Count* raderScatter;
-    // Large primes whose f - 1 has a large prime factor itself: the plan of a fast size of at least 2 (f - 1) - 1, on
-    // which the convolution runs zero-padded, and the spectrum of its sequence there, as records.
+    // Large primes whose f - 1 has a large prime factor itself: the plan of a fast size M >= (f - 1)/2, the spectra of
+    // the cosines and of the sines at the even and at the odd bins of twice that size, as records one after the other;
+    // exp(-pi i q / M), q = 0 to M - 1; and the block that both stand in.
     FftPlan* paddedPlan;
     double* paddedSpectrum;
+    double* paddedTurns;
+    double* paddedBlock;
+    // Large primes that go by their defining sums: the matrices of kernels/direct_primes.h, and the block that they
+    // stand in.
+    double* directTable;
+    double* directBlock;
     // Kernel factors and generic primes: the same twiddles in the order in which the stage kernels take their blocks of
     // columns, column 0 included: for each block, for each r, the cosines of its lanes and then the sines.
     double* blockedTwiddles;

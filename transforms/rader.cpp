@@ -1,137 +1,75 @@
 #include "transforms/rader.h"
 
-#include <cstring>
-
 #include "frame/memory.h"
 #include "frame/status.h"
-#include "transforms/fft.h"
-#include "transforms/fft_loops.h"
+#include "transforms/cache_lines.h"
+#include "transforms/kernels/direct_primes.h"
+#include "transforms/rader_cyclic.h"
+#include "transforms/rader_padded.h"
 
 namespace quorvan {
 namespace {
 
-// The plan that the convolution of a stage runs on.
-const FftPlan* ConvolutionPlan(const FftStage& stage) noexcept {
-    return stage.paddedPlan ? stage.paddedPlan : stage.raderPlan;
+Status DirectTransform(const ComplexInput& in, const ComplexOutput& out, const FftStage& stage, Count p,
+                       double* work) noexcept {
+    kDirectPrimes().complex(in, out, p, stage.raderGather + 1, stage.raderScatter + 1, stage.directTable, work);
+    return status::kSuccess;
 }
 
-// The workspace of one prime: two record arrays as long as the convolution, and the column that a stage gathers.
-class Workspace {
-public:
-    Workspace(const FftStage& stage, Count p, bool withColumn) noexcept
-        : length_(ConvolutionPlan(stage)->size),
-          block_(4 * static_cast<std::size_t>(length_) + (withColumn ? 2 * static_cast<std::size_t>(p) : 0)) {}
-    explicit operator bool() const noexcept { return static_cast<bool>(block_); }
-    double* sequence() const noexcept { return block_; }
-    double* spectrum() const noexcept { return block_ + 2 * Size(length_); }
-    double* column() const noexcept { return block_ + 4 * Size(length_); }
+Status DirectTransformReal(const double* in, Size inStride, double* out, Size outStride, const FftStage& stage, Count p,
+                           double* work) noexcept {
+    kDirectPrimes().real(in, inStride, out, outStride, p, stage.raderGather + 1, stage.raderScatter + 1,
+                         stage.directTable, work);
+    return status::kSuccess;
+}
 
-private:
-    Count length_;
-    Block<double> block_;
+// A way to one DFT of length p, and the doubles of workspace that it takes.
+struct Way {
+    decltype(&DirectTransform) complex;
+    decltype(&DirectTransformReal) real;
+    Size workLength;
 };
 
-// From the spectrum of the gathered inputs in work.spectrum() to their cyclic convolution with the roots, conjugated,
-// in work.sequence().
-Status FinishConvolution(const FftStage& stage, const Workspace& work) noexcept {
-    double *sequence = work.sequence(), *spectrum = work.spectrum();
-    const FftPlan* plan = ConvolutionPlan(stage);
-    const Count length = plan->size;
-    if (stage.paddedPlan) {
-        kFftLoops().conjugateRecordProduct(spectrum, stage.paddedSpectrum, length);
-    } else {
-        kFftLoops().conjugateProduct(spectrum, stage.raderSpectrumRe, stage.raderSpectrumIm, length);
+// The way that the plan holds tables for.
+Way WayOf(const FftStage& stage, Count p) noexcept {
+    if (stage.directTable) return {DirectTransform, DirectTransformReal, DirectWorkLength(p)};
+    if (stage.paddedPlan) return {PaddedTransform, PaddedTransformReal, kCacheLine + PaddedWorkLength(stage)};
+    return {CyclicTransform, CyclicTransformReal, kCacheLine + CyclicWorkLength(p)};
+}
+
+// The transforms of one prime, one at a time, with their workspace. It starts with a cache line where vectors read it;
+// that of the defining sums is rather kept as small as the allocator is fast with. In front of it, a column of records.
+class LargePrime {
+public:
+    LargePrime(const FftStage& stage, Count p, bool withColumn) noexcept
+        : stage_(stage),
+          p_(p),
+          way_(WayOf(stage, p)),
+          columnLength_(withColumn ? 2 * Size(p) : 0),
+          block_(static_cast<std::size_t>(columnLength_ + way_.workLength)) {}
+    explicit operator bool() const noexcept { return static_cast<bool>(block_); }
+    double* column() const noexcept { return block_; }
+
+    // One complex DFT. The input may be the output.
+    Status Transform(const ComplexInput& in, const ComplexOutput& out) const noexcept {
+        return way_.complex(in, out, stage_, p_, work());
     }
-    return FftComplex(plan, spectrum, spectrum + 1, sequence, sequence + 1, 2, 2, length);
-}
-
-// From the n gathered records in work.sequence() to their cyclic convolution, conjugated, in the same place, and to
-// their sum, which is the spectrum at 0.
-Status Convolve(const FftStage& stage, Count n, const Workspace& work, ComplexRecord& sum) noexcept {
-    double *sequence = work.sequence(), *spectrum = work.spectrum();
-    const FftPlan* plan = ConvolutionPlan(stage);
-    const Count length = plan->size;
-    if (length > n) std::memset(sequence + 2 * Size(n), 0, 2 * sizeof(double) * static_cast<std::size_t>(length - n));
-    if (const Status status = FftComplex(plan, sequence, sequence + 1, spectrum, spectrum + 1, 2, 2, length);
-        status < 0)
-        return status;
-    sum = {spectrum[0], spectrum[1]};
-    return FinishConvolution(stage, work);
-}
-
-// A record in one register, where real and imaginary parts are neighbours.
-typedef double Record __attribute__((vector_size(2 * sizeof(double))));
-
-Record Load(const double* re, const double* im) noexcept { return Record{*re, *im}; }
-void Store(double* re, double* im, Record value) noexcept {
-    *re = value[0];
-    *im = value[1];
-}
-
-// sequence[q] = in[gather[q + 1]], and out[scatter[q + 1]] = first + conj sequence[q].
-template <bool kRecords>
-void Gather(const double* inRe, const double* inIm, Size stride, const FftStage& stage, Count n,
-            double* sequence) noexcept {
-    for (Count q = 0; q < n; ++q) {
-        const Size from = stage.raderGather[q + 1] * stride;
-        double* to = sequence + 2 * Size(q);
-        Store(to, to + 1, Load(inRe + from, kRecords ? inRe + from + 1 : inIm + from));
+    // One real DFT into HalfComplex.
+    Status TransformReal(const double* in, Size inStride, double* out, Size outStride) const noexcept {
+        return way_.real(in, inStride, out, outStride, stage_, p_, work());
     }
-}
-template <bool kRecords>
-void Scatter(const double* sequence, Record first, double* outRe, double* outIm, Size stride, const FftStage& stage,
-             Count n) noexcept {
-    for (Count q = 0; q < n; ++q) {
-        const Size to = stage.raderScatter[q + 1] * stride;
-        const double* from = sequence + 2 * Size(q);
-        const Record result = first + Load(from, from + 1) * Record{1, -1};
-        Store(outRe + to, kRecords ? outRe + to + 1 : outIm + to, result);
-    }
-}
 
-// One complex DFT of length p. The input may be the output.
-Status Transform(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride, Size outStride,
-                 const FftStage& stage, Count p, const Workspace& work) noexcept {
-    const Count n = p - 1;
-    const Record first = Load(inRe, inIm);
-    double* sequence = work.sequence();
-    (inIm == inRe + 1 ? Gather<true> : Gather<false>)(inRe, inIm, inStride, stage, n, sequence);
-    ComplexRecord sum;
-    if (const Status status = Convolve(stage, n, work, sum); status < 0) return status;
-    Store(outRe, outIm, first + Record{sum.re, sum.im});
-    (outIm == outRe + 1 ? Scatter<true> : Scatter<false>)(sequence, first, outRe, outIm, outStride, stage, n);
-    return status::kSuccess;
-}
+private:
+    double* work() const noexcept {
+        return stage_.directTable ? block_ + columnLength_ : LineStart(block_ + columnLength_);
+    }
 
-// One real DFT of length p into HalfComplex: the first transform of the convolution is real too.
-Status TransformReal(const double* in, double* out, Size inStride, Size outStride, const FftStage& stage, Count p,
-                     const Workspace& work) noexcept {
-    const Count n = p - 1;
-    const FftPlan* plan = ConvolutionPlan(stage);
-    const Count length = plan->size;
-    const double first = in[0];
-    double *sequence = work.sequence(), *spectrum = work.spectrum();
-    for (Count q = 0; q < n; ++q) sequence[q] = in[stage.raderGather[q + 1] * inStride];
-    for (Count q = n; q < length; ++q) sequence[q] = 0;
-    double* h = sequence + length;
-    if (const Status status = FftReal(plan, sequence, h, 1, 1, length); status < 0) return status;
-    spectrum[0] = h[0], spectrum[1] = 0;
-    for (Size k = 1; 2 * k <= length; ++k) {
-        const Size mirror = length - k;
-        spectrum[2 * k] = spectrum[2 * mirror] = h[k];
-        spectrum[2 * k + 1] = k < mirror ? h[mirror] : 0;
-        spectrum[2 * mirror + 1] = -spectrum[2 * k + 1];
-    }
-    out[0] = first + h[0];
-    if (const Status status = FinishConvolution(stage, work); status < 0) return status;
-    for (Count q = 0; q < n; ++q) {
-        const Count t = stage.raderScatter[q + 1];
-        if (t > p / 2) continue;
-        out[t * outStride] = first + sequence[2 * Size(q)];
-        out[(p - t) * outStride] = -sequence[2 * Size(q) + 1];
-    }
-    return status::kSuccess;
-}
+    const FftStage& stage_;
+    Count p_;
+    Way way_;
+    Size columnLength_;
+    Block<double> block_;
+};
 
 // Column j of p blocks, twiddled, as records.
 void TurnColumn(double* column, const FftStage& stage, Size j, Count p) noexcept {
@@ -150,12 +88,12 @@ void TurnColumn(double* column, const FftStage& stage, Size j, Count p) noexcept
 Status RaderComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride,
                         Size outStride, Count count, Size elementStride, const Count* positions, const FftStage& stage,
                         Count p) noexcept {
-    const Workspace work(stage, p, false);
-    if (!work) return status::kOutOfMemory;
+    const LargePrime prime(stage, p, false);
+    if (!prime) return status::kOutOfMemory;
     for (Count t = 0; t < count; ++t) {
         const Size out = positions[t] * outStride;
-        if (const Status status = Transform(inRe + t * inStride, inIm + t * inStride, outRe + out, outIm + out,
-                                            elementStride, outStride, stage, p, work);
+        if (const Status status = prime.Transform({inRe + t * inStride, inIm + t * inStride, elementStride},
+                                                  {outRe + out, outIm + out, outStride});
             status < 0)
             return status;
     }
@@ -164,20 +102,20 @@ Status RaderComplexLeaf(const double* inRe, const double* inIm, double* outRe, d
 
 Status RaderRealLeaf(const double* in, double* out, Size inStride, Size outStride, Count count, Size elementStride,
                      const Count* positions, const FftStage& stage, Count p) noexcept {
-    const Workspace work(stage, p, false);
-    if (!work) return status::kOutOfMemory;
+    const LargePrime prime(stage, p, false);
+    if (!prime) return status::kOutOfMemory;
     for (Count t = 0; t < count; ++t)
-        if (const Status status = TransformReal(in + t * inStride, out + positions[t] * outStride, elementStride,
-                                                outStride, stage, p, work);
+        if (const Status status =
+                prime.TransformReal(in + t * inStride, elementStride, out + positions[t] * outStride, outStride);
             status < 0)
             return status;
     return status::kSuccess;
 }
 
 Status RaderComplexStage(double* re, double* im, Size stride, Count m, const FftStage& stage, Count p) noexcept {
-    const Workspace work(stage, p, true);
-    if (!work) return status::kOutOfMemory;
-    double* column = work.column();
+    const LargePrime prime(stage, p, true);
+    if (!prime) return status::kOutOfMemory;
+    double* column = prime.column();
     for (Size j = 0; j < m; ++j) {
         for (Size t = 0; t < p; ++t) {
             column[2 * t] = re[(t * m + j) * stride];
@@ -185,7 +123,7 @@ Status RaderComplexStage(double* re, double* im, Size stride, Count m, const Fft
         }
         TurnColumn(column, stage, j, p);
         if (const Status status =
-                Transform(column, column + 1, re + j * stride, im + j * stride, 2, m * stride, stage, p, work);
+                prime.Transform({column, column + 1, 2}, {re + j * stride, im + j * stride, m * stride});
             status < 0)
             return status;
     }
@@ -193,9 +131,9 @@ Status RaderComplexStage(double* re, double* im, Size stride, Count m, const Fft
 }
 
 Status RaderRealStage(double* data, Size stride, Count m, const FftStage& stage, Count p) noexcept {
-    const Workspace work(stage, p, true);
-    if (!work) return status::kOutOfMemory;
-    double* column = work.column();
+    const LargePrime prime(stage, p, true);
+    if (!prime) return status::kOutOfMemory;
+    double* column = prime.column();
     const Size length = Size(p) * m;
     for (Size j = 0; 2 * j <= m; ++j) {
         const bool real = j == 0 || 2 * j == m;  // no imaginary part is stored for these
@@ -204,7 +142,7 @@ Status RaderRealStage(double* data, Size stride, Count m, const FftStage& stage,
             column[2 * t + 1] = real ? 0 : data[(t * m + m - j) * stride];
         }
         TurnColumn(column, stage, j, p);
-        if (const Status status = Transform(column, column + 1, column, column + 1, 2, 2, stage, p, work); status < 0)
+        if (const Status status = prime.Transform({column, column + 1, 2}, {column, column + 1, 2}); status < 0)
             return status;
         for (Size k = 0; k < p; ++k) {
             const Size q = j + k * m;  // the bin; the upper half is stored as the conjugate of its mirror

@@ -95,6 +95,30 @@ QV_INLINE V SwappedLanes(V v, std::integer_sequence<int, I...>) {
     return __builtin_shufflevector(v, v, (I / 2 * 2 + 1 - I % 2)...);
 }
 
+template <class Half, int... I>
+QV_INLINE auto JoinedHalves(Half low, Half high, std::integer_sequence<int, I...>) {
+    return __builtin_shufflevector(low, high, I...);
+}
+// The records get(0), get(1), ... side by side.
+template <class V, class Get>
+QV_INLINE V Joined(const Get& get) {
+    if constexpr (kLanes<V> == 2) {
+        return get(0);
+    } else {
+        typedef double Half __attribute__((vector_size(sizeof(V) / 2)));
+        return JoinedHalves(Joined<Half>(get), Joined<Half>([&](int r) { return get(kLanes<V> / 4 + r); }), Lanes<V>{});
+    }
+}
+// put(0, the first record of v), put(1, the second), ...
+template <class V, class Put, int... R>
+QV_INLINE void PartRecords(V v, const Put& put, std::integer_sequence<int, R...>) {
+    (put(R, __builtin_shufflevector(v, v, 2 * R, 2 * R + 1)), ...);
+}
+template <class V, class Put>
+QV_INLINE void Part(V v, const Put& put) {
+    PartRecords(v, put, std::make_integer_sequence<int, kLanes<V> / 2>{});
+}
+
 // The factor of a complex product that stays: its real part in all lanes, its imaginary part with the signs - + - +.
 template <class V>
 struct Factor {
