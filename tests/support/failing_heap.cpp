@@ -5,11 +5,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "frame/memory.h"
 #include "frame/platform.h"
 #include "linalg/provider_memory.h"
+#include "tests/support/tagged_blocks.h"
 
-namespace quorvan {
+namespace quorvan::testing {
 namespace {
 
 std::atomic<long> fail_at{-1};
@@ -22,42 +22,35 @@ struct alignas(kProviderAlignment) Tag {
     std::uint64_t allocator;
     std::uint64_t unused[3];
 };
-constexpr std::uint64_t kGeneral = 0x6745230189ABCDEF;
-constexpr std::uint64_t kProvider = 0xFEDCBA9876543210;
 
-void* Allocate(std::size_t bytes, std::uint64_t allocator) {
+std::size_t Lead(Allocator allocator) { return allocator == Allocator::kProvider ? sizeof(Tag) : sizeof(Tag) + 16; }
+
+}  // namespace
+
+void* AllocateTagged(std::size_t bytes, Allocator allocator) {
     if (allocations++ == fail_at) return nullptr;
-    const std::size_t lead = allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16;
+    const std::size_t lead = Lead(allocator);
     if (bytes > SIZE_MAX / 2) return nullptr;
     void* start = AlignedAllocate(lead + bytes, alignof(Tag));
     if (!start) return nullptr;
     ++live_blocks;
     auto* block = static_cast<unsigned char*>(start) + lead;
-    reinterpret_cast<std::uint64_t*>(block)[-1] = allocator;
+    reinterpret_cast<std::uint64_t*>(block)[-1] = static_cast<std::uint64_t>(allocator);
     return block;
 }
 
-void Release(void* block, std::uint64_t allocator) {
+void ReleaseTagged(void* block, Allocator allocator) {
     if (!block) return;
     std::uint64_t& tag = static_cast<std::uint64_t*>(block)[-1];
-    if (tag != allocator) {
+    if (tag != static_cast<std::uint64_t>(allocator)) {
         std::fprintf(stderr,
                      "a block was released by an allocator that did not make it, or written before its start\n");
         std::abort();
     }
     tag = 0;
     --live_blocks;
-    AlignedFree(static_cast<unsigned char*>(block) - (allocator == kProvider ? sizeof(Tag) : sizeof(Tag) + 16));
+    AlignedFree(static_cast<unsigned char*>(block) - Lead(allocator));
 }
-
-}  // namespace
-
-void* HeapAllocate(std::size_t bytes) noexcept { return Allocate(bytes ? bytes : 1, kGeneral); }
-void HeapFree(void* block) noexcept { Release(block, kGeneral); }
-void* ProviderAllocate(std::size_t bytes) noexcept { return Allocate(bytes ? bytes : 1, kProvider); }
-void ProviderFree(void* block) noexcept { Release(block, kProvider); }
-
-namespace testing {
 
 void FailAllocation(long k) {
     allocations = 0;
@@ -66,5 +59,4 @@ void FailAllocation(long k) {
 long AllocationCount() { return allocations; }
 long LiveBlocks() { return live_blocks; }
 
-}  // namespace testing
-}  // namespace quorvan
+}  // namespace quorvan::testing
