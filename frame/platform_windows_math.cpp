@@ -101,6 +101,7 @@ double pow(double x, double y) {
 
 // With t = x - 1: log(1 + t + sqrt(2 t + t t)).
 double acosh(double x) {
+    if (!(x >= 1)) return __builtin_nan("");
     if (x > 0x1p28) return __imp_log(x) + 0.6931471805599453;
     const double t = x - 1;
     return log1p(t + __builtin_sqrt(2 * t + t * t));

@@ -68,7 +68,10 @@ BOOL WINAPI PlayReadFile(HANDLE, void* bytes, DWORD room, DWORD* count, OVERLAPP
     return played.reads;
 }
 BOOL WINAPI PlayCloseHandle(HANDLE handle) {
-    EXPECT_EQ(handle, Mark<HANDLE>(64));
+    // Threads of the emulator and the test program have handles of their own.
+    static const auto close = reinterpret_cast<BOOL(WINAPI*)(HANDLE)>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryA("kernel32.dll"), "CloseHandle")));
+    if (handle != Mark<HANDLE>(64)) return close(handle);
     played.calls.push_back("close");
     return TRUE;
 }
@@ -259,7 +262,7 @@ TEST(ProviderSearch, SplitsTheModulesPathWithinItsLimits) {
     const auto loads = [&](const std::string& path) {
         played.modules = {{"quorvan.dll", path}};
         const Calls calls = Search();
-        return calls.size() > 3 ? calls[2].substr(5) : "nothing";
+        return calls.size() > 3 && calls[2].rfind("load ", 0) == 0 ? calls[2].substr(5) : "nothing";
     };
     EXPECT_EQ(loads("D:\\here\\quorvan.dll"), "D:\\here\\" + kFile);
     EXPECT_EQ(loads("D:\\quorvan.dll"), "D:\\" + kFile);
