@@ -29,7 +29,7 @@ function(add_windows_suite name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 900 FIXTURES_REQUIRED wine
                          WORKING_DIRECTORY ${QUORVAN_PROVIDER_FOLDER} ENVIRONMENT "${QUORVAN_WINE_ENVIRONMENT}" ${ARGN})
-    # The emulator makes a mutex dear, so that the tests that cut streams in all ways are the longest: they begin first.
+    # The longest begin first.
     if(name MATCHES "^(measure_tests|transforms_tests_inside)$")
         set_tests_properties(${name} PROPERTIES COST 100)
     endif()
