@@ -9,7 +9,7 @@ PYTHON ?= $(firstword $(wildcard /usr/bin/python3) python3)
 help:
 	@echo 'make demo       the tour: readings from real recordings'
 	@echo 'make check      build and run all tests'
-	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan and ThreadSanitizer'
+	@echo 'make check-all  the same after the suites under AddressSanitizer, UBSan, ThreadSanitizer and Wine'
 	@echo 'make check-windows  build quorvan.dll with MinGW-w64 and run its tests under Wine'
 	@echo 'make docs       the reference pages, with search, in build/reference/html'
 	@echo 'make gallery    draw docs/gallery again, each picture with the lines that made it'
@@ -44,6 +44,7 @@ check-sanitizers:
 
 # The full suite comes last: its summary is the last word.
 check-all: check-sanitizers
+	@$(MAKE) --no-print-directory check-windows
 	@$(MAKE) --no-print-directory check
 
 # The release build of this system's library is the measure of the bits.

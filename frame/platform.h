@@ -18,15 +18,17 @@
 
 namespace quorvan {
 
-// A plain lock, for std::lock_guard. Usable before and after every static object of the library.
+// A plain lock, for std::lock_guard.
 #ifdef _WIN32
 class PlainMutex {
 public:
+    void Create() noexcept;
+    void Close() noexcept;
     void lock() noexcept;
     void unlock() noexcept;
 
 private:
-    void* slim_lock_ = nullptr;
+    void* handle_ = nullptr;  // without it nothing is locked
 };
 using NativeMutex = void*;  // a handle
 #else
@@ -34,8 +36,10 @@ using PlainMutex = std::mutex;
 using NativeMutex = pthread_mutex_t;
 #endif
 
-// Guards the FFT plan list and all reference counts.
+// Guards the FFT plan list and all reference counts. Where the system makes a mutex, it stands between these two calls.
 PlainMutex& PlanMutex() noexcept;
+void CreatePlanMutex() noexcept;
+void ClosePlanMutex() noexcept;
 
 // A lock that its owner may take again, and that goes on to the next waiter when its owner ends without releasing it.
 // Before Create and after Close, and if Create failed, it locks nothing.

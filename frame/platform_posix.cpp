@@ -27,6 +27,10 @@ PlainMutex& PlanMutex() noexcept {
     return mutex;
 }
 
+// It needs neither: it is usable before and after every static object.
+void CreatePlanMutex() noexcept {}
+void ClosePlanMutex() noexcept {}
+
 void RecursiveMutex::Create() noexcept {
     pthread_mutexattr_t attributes;
     if (pthread_mutexattr_init(&attributes) != 0) return;

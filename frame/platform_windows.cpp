@@ -13,13 +13,29 @@ constinit std::atomic<void (*)() noexcept> thread_end_handler{nullptr};
 
 }  // namespace
 
-void PlainMutex::lock() noexcept { AcquireSRWLockExclusive(reinterpret_cast<SRWLOCK*>(&slim_lock_)); }
-void PlainMutex::unlock() noexcept { ReleaseSRWLockExclusive(reinterpret_cast<SRWLOCK*>(&slim_lock_)); }
+// Mutexes have no name and no owner at first. A failure to make one is ignored.
+void PlainMutex::Create() noexcept { handle_ = CreateMutexA(nullptr, FALSE, nullptr); }
+
+void PlainMutex::Close() noexcept {
+    if (handle_) CloseHandle(handle_);
+    handle_ = nullptr;
+}
+
+void PlainMutex::lock() noexcept {
+    if (handle_) WaitForSingleObject(handle_, INFINITE);
+}
+
+void PlainMutex::unlock() noexcept {
+    if (handle_) ReleaseMutex(handle_);
+}
 
 PlainMutex& PlanMutex() noexcept {
     static constinit PlainMutex mutex;
     return mutex;
 }
+
+void CreatePlanMutex() noexcept { PlanMutex().Create(); }
+void ClosePlanMutex() noexcept { PlanMutex().Close(); }
 
 void RecursiveMutex::Create() noexcept {
     native_ = CreateMutexA(nullptr, FALSE, nullptr);

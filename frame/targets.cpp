@@ -11,10 +11,9 @@ Target Widest() noexcept {
     return Target::kBaseline;
 }
 
-std::atomic<Target>& Active() noexcept {
-    static std::atomic<Target> active{Widest()};
-    return active;
-}
+// Chosen at the first use, without a guard: all who choose at the same time choose the same.
+constexpr int kUnchosen = -1;
+constinit std::atomic<int> active{kUnchosen};
 
 }  // namespace
 
@@ -32,8 +31,15 @@ bool TargetAvailable(Target target) noexcept {
 #endif
 }
 
-Target ActiveTarget() noexcept { return Active().load(std::memory_order_relaxed); }
+Target ActiveTarget() noexcept {
+    const int chosen = active.load(std::memory_order_relaxed);
+    if (chosen != kUnchosen) [[likely]]
+        return static_cast<Target>(chosen);
+    const Target widest = Widest();
+    ForceTarget(widest);
+    return widest;
+}
 
-void ForceTarget(Target target) noexcept { Active().store(target, std::memory_order_relaxed); }
+void ForceTarget(Target target) noexcept { active.store(static_cast<int>(target), std::memory_order_relaxed); }
 
 }  // namespace quorvan

@@ -14,15 +14,16 @@ void RemoveAtThreadEnd() noexcept {
     process_registry.mutex.ReleaseAll();
 }
 
-// The registry stands from the loading of the library to its unloading. The plan mutex needs neither step: it is there
-// before anything runs, so that it comes after the registry and goes before it for all that a caller can see.
+// The registry stands from the loading of the library to its unloading; the plan mutex comes after it and goes before.
 struct RegistryLifetime {
     RegistryLifetime() noexcept {
         ThreadRegistryStart(process_registry);
+        CreatePlanMutex();
         NoticeThreadEnds(RemoveAtThreadEnd);
     }
     ~RegistryLifetime() {
         IgnoreThreadEnds();
+        ClosePlanMutex();
         ThreadRegistryStop(process_registry);
     }
 } lifetime;

@@ -23,7 +23,7 @@ if ! compgen -G "$folder/lapack-*/CMakeLists.txt" >/dev/null; then
     mkdir -p "$apt/sources" "$apt/lists/partial" "$apt/cache/archives/partial"
     for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
         [[ -e $list ]] || continue
-        sed -n 's/^deb[[:space:]]/deb-src /p' "$list" >"$apt/sources/$(basename "$list" .list).list"
+        sed -n '/cdrom:/!s/^deb[[:space:]]/deb-src /p' "$list" >"$apt/sources/$(basename "$list" .list).list"
     done
     for list in /etc/apt/sources.list.d/*.sources; do
         [[ -e $list ]] || continue

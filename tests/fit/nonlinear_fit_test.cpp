@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "quorvan/quorvan.h"
+#include "tests/support/entry_address.h"
 #include "tests/support/failing_heap.h"
 #include "tests/support/guarded.h"
 
@@ -42,9 +43,9 @@ TEST(FitNonlinear, RecoversTheCoefficientsOfNoiselessData) {
 }
 
 TEST(FitNonlinear, AliasesAreTheSameEntries) {
-    EXPECT_EQ(reinterpret_cast<void*>(ZemFunc339), reinterpret_cast<void*>(ZemFunc130));
-    EXPECT_EQ(reinterpret_cast<void*>(ZemFunc338), reinterpret_cast<void*>(ZemFunc131));
-    EXPECT_EQ(reinterpret_cast<void*>(ZemFunc375), reinterpret_cast<void*>(ZemFunc374));
+    EXPECT_EQ(EntryAddress(ZemFunc339), EntryAddress(ZemFunc130));
+    EXPECT_EQ(EntryAddress(ZemFunc338), EntryAddress(ZemFunc131));
+    EXPECT_EQ(EntryAddress(ZemFunc375), EntryAddress(ZemFunc374));
 }
 
 TEST(FitNonlinear, TheCurveAndTheErrorAreWrittenOnlyTogether) {

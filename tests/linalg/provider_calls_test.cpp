@@ -1,8 +1,7 @@
 // The rules of size that decide how the provider is called: its routines are replaced by ones that count and pass on.
-#include <dlfcn.h>
-
 #include "linalg/provider.h"
 #include "tests/linalg/matrices.h"
+#include "tests/support/replaced_routines.h"
 
 namespace {
 
@@ -12,35 +11,33 @@ struct Calls {
 };
 Calls calls;
 
-template <class Function>
-Function* Next(Function*, const char* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
-
 }  // namespace
 
 namespace quorvan::provider {
 
 extern "C" {
 
-void cblas_dgemm(Order order, Transposition transa, Transposition transb, Int m, Int n, Int k, Real alpha,
-                 const Real* a, Int lda, const Real* b, Int ldb, Real beta, Real* c, Int ldc) {
+QV_REPLACEMENT void cblas_dgemm(Order order, Transposition transa, Transposition transb, Int m, Int n, Int k,
+                                Real alpha, const Real* a, Int lda, const Real* b, Int ldb, Real beta, Real* c,
+                                Int ldc) {
     ++calls.gemm;
     calls.rows.push_back(m);
-    Next(&cblas_dgemm, "cblas_dgemm")(order, transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
+    QV_REPLACED(cblas_dgemm)(order, transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
 }
 
-void cblas_zgemm(Order order, Transposition transa, Transposition transb, Int m, Int n, Int k, const void* alpha,
-                 const void* a, Int lda, const void* b, Int ldb, const void* beta, void* c, Int ldc) {
+QV_REPLACEMENT void cblas_zgemm(Order order, Transposition transa, Transposition transb, Int m, Int n, Int k,
+                                const void* alpha, const void* a, Int lda, const void* b, Int ldb, const void* beta,
+                                void* c, Int ldc) {
     ++calls.zgemm;
     calls.rows.push_back(m);
-    Next(&cblas_zgemm, "cblas_zgemm")(order, transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
+    QV_REPLACED(cblas_zgemm)(order, transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
 }
 
-void QV_LAPACK(dgelsd)(const Int* m, const Int* n, const Int* nrhs, Real* a, const Int* lda, Real* b, const Int* ldb,
-                       Real* s, const Real* rcond, Int* rank, Real* work, const Int* lwork, Int* iwork, Int* info) {
+QV_REPLACEMENT void QV_LAPACK(dgelsd)(const Int* m, const Int* n, const Int* nrhs, Real* a, const Int* lda, Real* b,
+                                      const Int* ldb, Real* s, const Real* rcond, Int* rank, Real* work,
+                                      const Int* lwork, Int* iwork, Int* info) {
     ++calls.gelsd;
-    Next(&QV_LAPACK(dgelsd), "dgelsd_")(m, n, nrhs, a, lda, b, ldb, s, rcond, rank, work, lwork, iwork, info);
+    QV_REPLACED(QV_LAPACK(dgelsd))(m, n, nrhs, a, lda, b, ldb, s, rcond, rank, work, lwork, iwork, info);
 }
 
 }  // extern "C"

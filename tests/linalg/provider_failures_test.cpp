@@ -1,9 +1,8 @@
 // What becomes of failures that no matrix provokes: routines of the provider are replaced by ones that pass on and then
 // report the failure that a test asks for.
-#include <dlfcn.h>
-
 #include "linalg/provider.h"
 #include "tests/linalg/matrices.h"
+#include "tests/support/replaced_routines.h"
 
 namespace {
 
@@ -16,11 +15,6 @@ struct Failures {
     bool refused = false;
 };
 Failures failures;
-
-template <class Function>
-Function* Next(Function*, const char* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
 
 void Report(int* info, int failure) {
     if (failure != 0) *info = failure;
@@ -38,121 +32,125 @@ bool Refuse(int* info, int failure) {
 
 namespace quorvan::provider {
 
-#define QV_NEXT(name) Next(&QV_LAPACK(name), QV_NAME(QV_LAPACK(name)))
-#define QV_NAME(name) QV_TEXT(name)
-#define QV_TEXT(name) #name
+#define QV_NEXT(name) QV_REPLACED(QV_LAPACK(name))
 
 extern "C" {
 
-void QV_LAPACK(dgesdd)(const char* jobz, const Int* m, const Int* n, Real* a, const Int* lda, Real* s, Real* u,
-                       const Int* ldu, Real* vt, const Int* ldvt, Real* work, const Int* lwork, Int* iwork, Int* info,
-                       Length length) {
+QV_REPLACEMENT void QV_LAPACK(dgesdd)(const char* jobz, const Int* m, const Int* n, Real* a, const Int* lda, Real* s,
+                                      Real* u, const Int* ldu, Real* vt, const Int* ldvt, Real* work, const Int* lwork,
+                                      Int* iwork, Int* info, Length length) {
     QV_NEXT(dgesdd)(jobz, m, n, a, lda, s, u, ldu, vt, ldvt, work, lwork, iwork, info, length);
     Report(info, failures.gesdd);
 }
-void QV_LAPACK(zgesdd)(const char* jobz, const Int* m, const Int* n, Complex* a, const Int* lda, Real* s, Complex* u,
-                       const Int* ldu, Complex* vt, const Int* ldvt, Complex* work, const Int* lwork, Real* rwork,
-                       Int* iwork, Int* info, Length length) {
+QV_REPLACEMENT void QV_LAPACK(zgesdd)(const char* jobz, const Int* m, const Int* n, Complex* a, const Int* lda, Real* s,
+                                      Complex* u, const Int* ldu, Complex* vt, const Int* ldvt, Complex* work,
+                                      const Int* lwork, Real* rwork, Int* iwork, Int* info, Length length) {
     QV_NEXT(zgesdd)(jobz, m, n, a, lda, s, u, ldu, vt, ldvt, work, lwork, rwork, iwork, info, length);
     Report(info, failures.gesdd);
 }
-void QV_LAPACK(dgeev)(const char* jobvl, const char* jobvr, const Int* n, Real* a, const Int* lda, Real* wr, Real* wi,
-                      Real* vl, const Int* ldvl, Real* vr, const Int* ldvr, Real* work, const Int* lwork, Int* info,
-                      Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(dgeev)(const char* jobvl, const char* jobvr, const Int* n, Real* a, const Int* lda,
+                                     Real* wr, Real* wi, Real* vl, const Int* ldvl, Real* vr, const Int* ldvr,
+                                     Real* work, const Int* lwork, Int* info, Length l1, Length l2) {
     QV_NEXT(dgeev)(jobvl, jobvr, n, a, lda, wr, wi, vl, ldvl, vr, ldvr, work, lwork, info, l1, l2);
     Report(info, failures.geev);
 }
-void QV_LAPACK(zgeev)(const char* jobvl, const char* jobvr, const Int* n, Complex* a, const Int* lda, Complex* w,
-                      Complex* vl, const Int* ldvl, Complex* vr, const Int* ldvr, Complex* work, const Int* lwork,
-                      Real* rwork, Int* info, Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(zgeev)(const char* jobvl, const char* jobvr, const Int* n, Complex* a, const Int* lda,
+                                     Complex* w, Complex* vl, const Int* ldvl, Complex* vr, const Int* ldvr,
+                                     Complex* work, const Int* lwork, Real* rwork, Int* info, Length l1, Length l2) {
     QV_NEXT(zgeev)(jobvl, jobvr, n, a, lda, w, vl, ldvl, vr, ldvr, work, lwork, rwork, info, l1, l2);
     Report(info, failures.geev);
 }
-void QV_LAPACK(dsyevd)(const char* jobz, const char* uplo, const Int* n, Real* a, const Int* lda, Real* w, Real* work,
-                       const Int* lwork, Int* iwork, const Int* liwork, Int* info, Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(dsyevd)(const char* jobz, const char* uplo, const Int* n, Real* a, const Int* lda,
+                                      Real* w, Real* work, const Int* lwork, Int* iwork, const Int* liwork, Int* info,
+                                      Length l1, Length l2) {
     QV_NEXT(dsyevd)(jobz, uplo, n, a, lda, w, work, lwork, iwork, liwork, info, l1, l2);
     Report(info, failures.syevd);
 }
-void QV_LAPACK(zheevd)(const char* jobz, const char* uplo, const Int* n, Complex* a, const Int* lda, Real* w,
-                       Complex* work, const Int* lwork, Real* rwork, const Int* lrwork, Int* iwork, const Int* liwork,
-                       Int* info, Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(zheevd)(const char* jobz, const char* uplo, const Int* n, Complex* a, const Int* lda,
+                                      Real* w, Complex* work, const Int* lwork, Real* rwork, const Int* lrwork,
+                                      Int* iwork, const Int* liwork, Int* info, Length l1, Length l2) {
     QV_NEXT(zheevd)(jobz, uplo, n, a, lda, w, work, lwork, rwork, lrwork, iwork, liwork, info, l1, l2);
     Report(info, failures.syevd);
 }
-void QV_LAPACK(dgees)(const char* jobvs, const char* sort, SelectReal select, const Int* n, Real* a, const Int* lda,
-                      Int* sdim, Real* wr, Real* wi, Real* vs, const Int* ldvs, Real* work, const Int* lwork,
-                      Int* bwork, Int* info, Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(dgees)(const char* jobvs, const char* sort, SelectReal select, const Int* n, Real* a,
+                                     const Int* lda, Int* sdim, Real* wr, Real* wi, Real* vs, const Int* ldvs,
+                                     Real* work, const Int* lwork, Int* bwork, Int* info, Length l1, Length l2) {
     QV_NEXT(dgees)(jobvs, sort, select, n, a, lda, sdim, wr, wi, vs, ldvs, work, lwork, bwork, info, l1, l2);
     Report(info, failures.gees);
 }
-void QV_LAPACK(zgees)(const char* jobvs, const char* sort, SelectComplex select, const Int* n, Complex* a,
-                      const Int* lda, Int* sdim, Complex* w, Complex* vs, const Int* ldvs, Complex* work,
-                      const Int* lwork, Real* rwork, Int* bwork, Int* info, Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(zgees)(const char* jobvs, const char* sort, SelectComplex select, const Int* n,
+                                     Complex* a, const Int* lda, Int* sdim, Complex* w, Complex* vs, const Int* ldvs,
+                                     Complex* work, const Int* lwork, Real* rwork, Int* bwork, Int* info, Length l1,
+                                     Length l2) {
     QV_NEXT(zgees)(jobvs, sort, select, n, a, lda, sdim, w, vs, ldvs, work, lwork, rwork, bwork, info, l1, l2);
     Report(info, failures.gees);
 }
-void QV_LAPACK(dgges)(const char* jobvsl, const char* jobvsr, const char* sort, SelectRealPair select, const Int* n,
-                      Real* a, const Int* lda, Real* b, const Int* ldb, Int* sdim, Real* alphar, Real* alphai,
-                      Real* beta, Real* vsl, const Int* ldvsl, Real* vsr, const Int* ldvsr, Real* work,
-                      const Int* lwork, Int* bwork, Int* info, Length l1, Length l2, Length l3) {
+QV_REPLACEMENT void QV_LAPACK(dgges)(const char* jobvsl, const char* jobvsr, const char* sort, SelectRealPair select,
+                                     const Int* n, Real* a, const Int* lda, Real* b, const Int* ldb, Int* sdim,
+                                     Real* alphar, Real* alphai, Real* beta, Real* vsl, const Int* ldvsl, Real* vsr,
+                                     const Int* ldvsr, Real* work, const Int* lwork, Int* bwork, Int* info, Length l1,
+                                     Length l2, Length l3) {
     QV_NEXT(dgges)
     (jobvsl, jobvsr, sort, select, n, a, lda, b, ldb, sdim, alphar, alphai, beta, vsl, ldvsl, vsr, ldvsr, work, lwork,
      bwork, info, l1, l2, l3);
     Report(info, failures.gges);
 }
-void QV_LAPACK(dhgeqz)(const char* job, const char* compq, const char* compz, const Int* n, const Int* ilo,
-                       const Int* ihi, Real* h, const Int* ldh, Real* t, const Int* ldt, Real* alphar, Real* alphai,
-                       Real* beta, Real* q, const Int* ldq, Real* z, const Int* ldz, Real* work, const Int* lwork,
-                       Int* info, Length l1, Length l2, Length l3) {
+QV_REPLACEMENT void QV_LAPACK(dhgeqz)(const char* job, const char* compq, const char* compz, const Int* n,
+                                      const Int* ilo, const Int* ihi, Real* h, const Int* ldh, Real* t, const Int* ldt,
+                                      Real* alphar, Real* alphai, Real* beta, Real* q, const Int* ldq, Real* z,
+                                      const Int* ldz, Real* work, const Int* lwork, Int* info, Length l1, Length l2,
+                                      Length l3) {
     QV_NEXT(dhgeqz)
     (job, compq, compz, n, ilo, ihi, h, ldh, t, ldt, alphar, alphai, beta, q, ldq, z, ldz, work, lwork, info, l1, l2,
      l3);
     if (failures.refused) Report(info, failures.hgeqz);
 }
-void QV_LAPACK(zhgeqz)(const char* job, const char* compq, const char* compz, const Int* n, const Int* ilo,
-                       const Int* ihi, Complex* h, const Int* ldh, Complex* t, const Int* ldt, Complex* alpha,
-                       Complex* beta, Complex* q, const Int* ldq, Complex* z, const Int* ldz, Complex* work,
-                       const Int* lwork, Real* rwork, Int* info, Length l1, Length l2, Length l3) {
+QV_REPLACEMENT void QV_LAPACK(zhgeqz)(const char* job, const char* compq, const char* compz, const Int* n,
+                                      const Int* ilo, const Int* ihi, Complex* h, const Int* ldh, Complex* t,
+                                      const Int* ldt, Complex* alpha, Complex* beta, Complex* q, const Int* ldq,
+                                      Complex* z, const Int* ldz, Complex* work, const Int* lwork, Real* rwork,
+                                      Int* info, Length l1, Length l2, Length l3) {
     QV_NEXT(zhgeqz)
     (job, compq, compz, n, ilo, ihi, h, ldh, t, ldt, alpha, beta, q, ldq, z, ldz, work, lwork, rwork, info, l1, l2, l3);
     Report(info, failures.gges);
 }
-void QV_LAPACK(dgebal)(const char* job, const Int* n, Real* a, const Int* lda, Int* ilo, Int* ihi, Real* scale,
-                       Int* info, Length length) {
+QV_REPLACEMENT void QV_LAPACK(dgebal)(const char* job, const Int* n, Real* a, const Int* lda, Int* ilo, Int* ihi,
+                                      Real* scale, Int* info, Length length) {
     QV_NEXT(dgebal)(job, n, a, lda, ilo, ihi, scale, info, length);
     Report(info, failures.gebal);
 }
-void QV_LAPACK(zgebal)(const char* job, const Int* n, Complex* a, const Int* lda, Int* ilo, Int* ihi, Real* scale,
-                       Int* info, Length length) {
+QV_REPLACEMENT void QV_LAPACK(zgebal)(const char* job, const Int* n, Complex* a, const Int* lda, Int* ilo, Int* ihi,
+                                      Real* scale, Int* info, Length length) {
     QV_NEXT(zgebal)(job, n, a, lda, ilo, ihi, scale, info, length);
     Report(info, failures.gebal);
 }
-void QV_LAPACK(dtgevc)(const char* side, const char* howmny, const Int* select, const Int* n, const Real* s,
-                       const Int* lds, const Real* p, const Int* ldp, Real* vl, const Int* ldvl, Real* vr,
-                       const Int* ldvr, const Int* mm, Int* m, Real* work, Int* info, Length l1, Length l2) {
+QV_REPLACEMENT void QV_LAPACK(dtgevc)(const char* side, const char* howmny, const Int* select, const Int* n,
+                                      const Real* s, const Int* lds, const Real* p, const Int* ldp, Real* vl,
+                                      const Int* ldvl, Real* vr, const Int* ldvr, const Int* mm, Int* m, Real* work,
+                                      Int* info, Length l1, Length l2) {
     QV_NEXT(dtgevc)(side, howmny, select, n, s, lds, p, ldp, vl, ldvl, vr, ldvr, mm, m, work, info, l1, l2);
     Report(info, failures.tgevc);
 }
-void QV_LAPACK(ztgevc)(const char* side, const char* howmny, const Int* select, const Int* n, const Complex* s,
-                       const Int* lds, const Complex* p, const Int* ldp, Complex* vl, const Int* ldvl, Complex* vr,
-                       const Int* ldvr, const Int* mm, Int* m, Complex* work, Real* rwork, Int* info, Length l1,
-                       Length l2) {
+QV_REPLACEMENT void QV_LAPACK(ztgevc)(const char* side, const char* howmny, const Int* select, const Int* n,
+                                      const Complex* s, const Int* lds, const Complex* p, const Int* ldp, Complex* vl,
+                                      const Int* ldvl, Complex* vr, const Int* ldvr, const Int* mm, Int* m,
+                                      Complex* work, Real* rwork, Int* info, Length l1, Length l2) {
     QV_NEXT(ztgevc)(side, howmny, select, n, s, lds, p, ldp, vl, ldvl, vr, ldvr, mm, m, work, rwork, info, l1, l2);
     Report(info, failures.tgevc);
 }
-void QV_LAPACK(dtrexc)(const char* compq, const Int* n, Real* t, const Int* ldt, Real* q, const Int* ldq, Int* ifst,
-                       Int* ilst, Real* work, Int* info, Length length) {
+QV_REPLACEMENT void QV_LAPACK(dtrexc)(const char* compq, const Int* n, Real* t, const Int* ldt, Real* q, const Int* ldq,
+                                      Int* ifst, Int* ilst, Real* work, Int* info, Length length) {
     if (!Refuse(info, failures.trexc)) QV_NEXT(dtrexc)(compq, n, t, ldt, q, ldq, ifst, ilst, work, info, length);
 }
-void QV_LAPACK(dtgexc)(const Int* wantq, const Int* wantz, const Int* n, Real* a, const Int* lda, Real* b,
-                       const Int* ldb, Real* q, const Int* ldq, Real* z, const Int* ldz, Int* ifst, Int* ilst,
-                       Real* work, const Int* lwork, Int* info) {
+QV_REPLACEMENT void QV_LAPACK(dtgexc)(const Int* wantq, const Int* wantz, const Int* n, Real* a, const Int* lda,
+                                      Real* b, const Int* ldb, Real* q, const Int* ldq, Real* z, const Int* ldz,
+                                      Int* ifst, Int* ilst, Real* work, const Int* lwork, Int* info) {
     if (*lwork == -1 || !Refuse(info, failures.tgexc))
         QV_NEXT(dtgexc)(wantq, wantz, n, a, lda, b, ldb, q, ldq, z, ldz, ifst, ilst, work, lwork, info);
 }
-void QV_LAPACK(ztgexc)(const Int* wantq, const Int* wantz, const Int* n, Complex* a, const Int* lda, Complex* b,
-                       const Int* ldb, Complex* q, const Int* ldq, Complex* z, const Int* ldz, const Int* ifst,
-                       Int* ilst, Int* info) {
+QV_REPLACEMENT void QV_LAPACK(ztgexc)(const Int* wantq, const Int* wantz, const Int* n, Complex* a, const Int* lda,
+                                      Complex* b, const Int* ldb, Complex* q, const Int* ldq, Complex* z,
+                                      const Int* ldz, const Int* ifst, Int* ilst, Int* info) {
     if (!Refuse(info, failures.tgexc))
         QV_NEXT(ztgexc)(wantq, wantz, n, a, lda, b, ldb, q, ldq, z, ldz, ifst, ilst, info);
 }

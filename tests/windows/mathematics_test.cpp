@@ -30,6 +30,31 @@ TEST(WindowsMathematics, ReducesLargeArguments) {
     EXPECT_DOUBLE_EQ(Cosine(1.5707963267948966), 6.123233995736766e-17);
 }
 
+// The values by mpmath. Integral powers multiplied out are 100 units wrong.
+TEST(WindowsMathematics, RaisesToPowersInOneRounding) {
+    volatile double ten = 10, nineteen = 19, one = 1, nan = std::nan("");
+    EXPECT_EQ(std::pow(ten, -2), 0.01);
+    EXPECT_DOUBLE_EQ(std::pow(nineteen, -97), 9.1390427232882615e-125);
+    EXPECT_EQ(std::pow(one, nan), 1);
+    EXPECT_EQ(std::pow(nan, 0), 1);
+    EXPECT_EQ(std::pow(-one, HUGE_VAL), 1);
+}
+
+TEST(WindowsMathematics, FallsToZeroAndGrowsToInfinityBeyondTheRange) {
+    for (double x : {-746.0, -1023.0, -1024.0, -1151.0, -1e10, -1e300, -HUGE_VAL}) EXPECT_EQ(std::exp(x), 0) << x;
+    for (double x : {709.8, 1024.0, 1e10, 1e300, HUGE_VAL}) EXPECT_EQ(std::exp(x), HUGE_VAL) << x;
+    EXPECT_EQ(std::exp(-745.0), 0x1p-1074);  // 0.57 of it
+    EXPECT_TRUE(std::isnan(std::exp(std::nan(""))));
+}
+
+TEST(WindowsMathematics, KeepsTheDistanceFromOneInTheInverseHyperbolicCosine) {
+    volatile double near = 1 + 0x1p-40, far = 1e300, one = 1;
+    EXPECT_DOUBLE_EQ(std::acosh(near), 1.3486991523485068e-06);
+    EXPECT_DOUBLE_EQ(std::acosh(far), 691.4686750787736);
+    EXPECT_EQ(std::acosh(one), 0);
+    EXPECT_TRUE(std::isnan(std::acosh(-far)));
+}
+
 // (1 + 2^-30)^2 = 1 + 2^-29 + 2^-60: the last term is the error of the product.
 TEST(WindowsMathematics, FusesAProductAndASumInOneRounding) {
     volatile double x = 1 + 0x1p-30, square = -(1 + 0x1p-29);

@@ -10,6 +10,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 import zipfile
 
 import pytest
@@ -23,11 +24,18 @@ sys.path.insert(0, str(ROOT / "tools"))
 import boundary  # noqa: E402
 
 
-def wine(program, *arguments, cwd=None, code=0):
-    done = subprocess.run([os.environ["WINE"], str(program), *arguments], cwd=cwd, capture_output=True, text=True,
-                          timeout=120)
-    assert done.returncode == code, (done.returncode, done.stdout, done.stderr)
-    return done.stdout.splitlines()
+def wine(program, *arguments, cwd=None, code=0, trace=None):
+    """The lines of the program's output, or with `trace` those of the emulator's own channels of that name."""
+    environment = {**os.environ, **({"WINEDEBUG": trace} if trace else {})}
+    # Into files: processes of the emulator may outlive the program and would keep a pipe open.
+    with tempfile.TemporaryFile("w+", errors="replace") as out, tempfile.TemporaryFile("w+", errors="replace") as log:
+        done = subprocess.run([os.environ["WINE"], str(program), *arguments], cwd=cwd, stdin=subprocess.DEVNULL,
+                              stdout=out, stderr=log, env=environment, timeout=120)
+        out.seek(0)
+        log.seek(0)
+        lines, logged = out.read().splitlines(), log.read()
+    assert done.returncode == code, (done.returncode, lines, logged[-2000:])
+    return logged.splitlines() if trace else lines
 
 
 def objdump(path):
@@ -61,10 +69,10 @@ class Layout:
     def path_file(self, content):
         (self.sibling / "mklpath").write_bytes(content)
 
-    def load(self, *arguments, sibling=True, code=0, library=None):
+    def load(self, *arguments, sibling=True, library=None, **how):
         extra = [f"sibling={windows(self.sibling / 'merovant.dll')}"] if sibling else []
         return wine(self.loader, f"quorvan={windows(library or self.library)}", *extra, *arguments,
-                    cwd=self.loader.parent, code=code)
+                    cwd=self.loader.parent, **how)
 
 
 @pytest.fixture
@@ -78,15 +86,17 @@ def loaded_from(folder):
 
 
 REFUSED = "refused nowhere"
-FREED = "freed library gone provider gone"
+FREED = "freed library gone provider gone 0 blocks"
+WITNESS = PROGRAMS / "witness" / PROVIDER
 
 
 # The folder that the path file names.
 
 @pytest.mark.parametrize("end", ["", "\\"])
-def test_the_path_file_comes_before_the_own_folder(layout, end):
+def test_the_path_file_settles_the_matter_and_the_own_folder_is_not_looked_at(layout, end):
     layout.provider(layout.named)
-    layout.provider(layout.own)
+    # This one would tell.
+    layout.provider(layout.own, WITNESS)
     layout.path_file((windows(layout.named) + end).encode())
     assert layout.load() == [loaded_from(layout.named), FREED]
 
@@ -112,11 +122,34 @@ def test_an_empty_path_file_is_a_missing_one(layout):
     assert layout.load() == [loaded_from(layout.own), FREED]
 
 
-def test_a_path_file_that_someone_writes_is_a_missing_one(layout):
-    # It is opened for no one else, so that a folder of that name fails too.
+@pytest.mark.parametrize("how", ["hold", "lend"])
+def test_a_path_file_that_someone_has_open_is_a_missing_one(layout, how):
+    # It is opened for no one else, so that another's handle stands in the way, however generous.
+    layout.provider(layout.own)
+    layout.provider(layout.named)
+    layout.path_file(windows(layout.named).encode())
+    assert layout.load(f"{how}={windows(layout.sibling / 'mklpath')}") == [loaded_from(layout.own), FREED]
+
+
+def test_a_folder_in_the_place_of_the_path_file_is_a_missing_one(layout):
     layout.provider(layout.own)
     (layout.sibling / "mklpath").mkdir()
     assert layout.load() == [loaded_from(layout.own), FREED]
+
+
+def test_the_path_file_lies_beside_the_sibling_and_nowhere_else(layout):
+    layout.provider(layout.own)
+    layout.provider(layout.named)
+    (layout.own / "mklpath").write_bytes(windows(layout.named).encode())
+    (layout.sibling / "mklpath.txt").write_bytes(windows(layout.named).encode())
+    assert layout.load() == [loaded_from(layout.own), FREED]
+
+
+def test_a_file_that_is_no_module_ends_the_search_where_the_path_file_names_it(layout):
+    layout.provider(layout.own)
+    (layout.named / PROVIDER).write_text("no module")
+    layout.path_file(windows(layout.named).encode())
+    assert layout.load() == [REFUSED]
 
 
 def test_without_the_sibling_module_its_path_file_is_not_read(layout):
@@ -136,10 +169,9 @@ def test_a_path_file_may_be_longer_than_what_is_read(layout):
     assert layout.load() == [REFUSED]
 
 
-@pytest.mark.parametrize("length, loads", [(200, True), (259, True), (300, False), (512, False), (600, False)])
-def test_a_path_that_the_system_or_the_buffer_has_no_room_for_ends_the_search(layout, length, loads):
-    # The system takes 259 bytes, a buffer 511.
-    # Backslashes in a row are one: a path may be made any length.
+@pytest.mark.parametrize("length, loads", [(200, True), (259, True), (300, False)])
+def test_a_path_that_the_system_has_no_room_for_ends_the_search(layout, length, loads):
+    # The system takes 259 bytes. Backslashes in a row are one: a path may be made any length.
     layout.provider(layout.named)
     layout.provider(layout.own)
     head, tail = windows(layout.named.parent), "named\\"
@@ -179,12 +211,41 @@ def test_the_own_folder_comes_before_the_registry(layout):
     assert layout.load(f"registry={windows(layout.registered)}") == [loaded_from(layout.own), FREED]
 
 
+@pytest.mark.parametrize("own", [None, b"no module"])
+def test_a_failure_in_the_own_folder_leads_to_the_registry(layout, own):
+    if own:
+        (layout.own / PROVIDER).write_bytes(own)
+    below = layout.provider(layout.registered / "MKL" / "ZR150000_BLASLAPACK")
+    assert layout.load(f"registry={windows(layout.registered)}") == [loaded_from(below), FREED]
+
+
 # The registry.
 
 @pytest.mark.parametrize("end", ["", "\\"])
 def test_the_registry_comes_last_and_gets_its_backslash(layout, end):
     below = layout.provider(layout.registered / "MKL" / "ZR150000_BLASLAPACK")
     assert layout.load(f"registry={windows(layout.registered)}{end}") == [loaded_from(below), FREED]
+
+
+def test_a_registry_that_names_a_folder_without_the_module_ends_the_search(layout):
+    assert layout.load(f"registry={windows(layout.registered)}") == [REFUSED]
+
+
+def test_the_steps_come_in_order_and_a_settings_file_is_never_opened(layout):
+    below = layout.provider(layout.registered / "MKL" / "ZR150000_BLASLAPACK")
+    (layout.own / "analysis.ini").write_text("[Paths]")
+    trace = layout.load(f"registry={windows(layout.registered)}", trace="+file,+reg,+module")
+
+    def first(pattern):
+        return next(k for k, line in enumerate(trace) if re.search(pattern, line))
+
+    begin = first(r"own\\\\quorvan\.dll")
+    trace = trace[begin:]
+    steps = [first(r"sibling\\\\mklpath"), first(r"own\\\\ZR150000_BLASLAPACK\.dll"), first("ZRSHAREDDIR64"),
+             first(r"registered\\\\MKL\\\\ZR150000_BLASLAPACK\\\\ZR150000_BLASLAPACK\.dll")]
+    assert steps == sorted(steps)
+    assert not [line for line in trace if "analysis.ini" in line]
+    assert below.exists()
 
 
 def test_the_registry_names_the_folder_above_two_more(layout):
@@ -233,18 +294,72 @@ def test_a_whole_provider_works(layout):
         loaded_from(layout.own), "add 0 1.5 2.25 3.125", "dot 0 1.375", "dot 0 1.375", FREED]
 
 
-def test_a_thousand_threads_begin_anew(layout):
+def test_a_provider_stays_no_longer_than_the_library_and_comes_again_with_it(layout):
+    layout.provider(layout.own)
+    assert layout.load("call=add", "twice") == [loaded_from(layout.own), "add 0 1.5 2.25 3.125", FREED] * 2
+
+
+def test_the_registry_of_threads_and_the_plans_stand_before_the_provider_is_loaded(layout):
+    layout.provider(layout.own, WITNESS)
+    # The state of the first thread was made before the program counted.
+    assert layout.load() == ["witness 0 stream plan", loaded_from(layout.own), FREED]
+
+
+def test_the_provider_goes_first_then_the_mutex_of_plans_then_states_then_the_mutex_of_threads(layout):
+    layout.provider(layout.own)
+    assert layout.load("call=stay", "call=watch") == [loaded_from(layout.own), "stay 2 blocks",
+                                                     "gives back provider mutex block block mutex", FREED]
+
+
+def test_the_entry_lets_a_thread_begin_and_removes_its_state_at_its_end(layout):
+    layout.provider(layout.own)
+    assert layout.load("call=entry") == [loaded_from(layout.own), "entry 1 goes on 1 anew", FREED]
+
+
+def test_a_thousand_threads_begin_anew_and_leave_nothing(layout):
     # The system gives identifiers of threads again; a state that had stayed behind would draw other numbers.
     layout.provider(layout.own)
-    assert layout.load("call=threads") == [loaded_from(layout.own), "threads 1000", FREED]
+    assert layout.load("call=threads") == [loaded_from(layout.own),
+                                           "threads 1000 left 0 blocks identifiers came again", FREED]
+
+
+def test_the_state_of_a_thread_that_goes_on_is_freed_with_the_library(layout):
+    layout.provider(layout.own)
+    assert layout.load("call=stay") == [loaded_from(layout.own), "stay 2 blocks", FREED]
+
+
+def test_a_program_may_end_with_the_library_loaded(layout):
+    layout.provider(layout.own)
+    assert layout.load("call=stay", "call=exit") == [loaded_from(layout.own), "stay 2 blocks", "exit"]
 
 
 # The files.
 
+def exports(path):
+    """Address by name."""
+    head, names = objdump(path).split("[Ordinal/Name Pointer] Table")
+    addresses = dict(re.findall(r"\[ *(\d+)\] \+base\[ *\d+\] ([0-9a-f]+) Export RVA", head))
+    found = re.findall(r"\[ *(\d+)\] (?:\+base\[ *\d+\] +[0-9a-f]+ )?(\w+)\s*$", names.split("\n\n")[0], re.M)
+    assert len(addresses) == len(found), "an address without a name, or a name twice"
+    return {name: addresses[number] for number, name in found}
+
+
 def test_exports_exactly_the_names_of_the_table():
-    listing = objdump(BUILD / "quorvan.dll").split("[Ordinal/Name Pointer] Table")[1].split("\n\n")[0]
-    names = set(re.findall(r"\] (?:\+base\[ *\d+\] +[0-9a-f]+ )?(\w+)\s*$", listing, re.M))
-    assert names == {export.symbol for export in boundary.implemented(boundary.read_table())}
+    names = exports(BUILD / "quorvan.dll")
+    assert set(names) == {export.symbol for export in boundary.implemented(boundary.read_table())}
+    assert set(names) == {f"ZemFunc{number}" for number in range(1, 494) if number not in (199, 244)}
+    assert len(names) == 491
+
+
+def test_four_groups_of_names_share_an_entry():
+    addresses = exports(BUILD / "quorvan.dll")
+    shared = {}
+    for name, address in addresses.items():
+        shared.setdefault(address, set()).add(int(name.removeprefix("ZemFunc")))
+    groups = [{130, 339}, {131, 338}, {234, 238, 470}, {374, 375}]
+    for group in groups:
+        assert len({addresses[f"ZemFunc{number}"] for number in group}) == 1
+    assert sorted(map(sorted, (group for group in shared.values() if len(group) > 1))) == sorted(map(sorted, groups))
 
 
 @pytest.mark.parametrize("file", ["quorvan.dll", f"provider/{PROVIDER}"])
@@ -254,8 +369,7 @@ def test_depends_on_nothing_but_the_system(file):
 
 
 def test_the_provider_of_the_tests_has_all_69_names():
-    listing = objdump(BUILD / "provider" / PROVIDER).split("[Ordinal/Name Pointer] Table")[1].split("\n\n")[0]
-    names = set(re.findall(r"\] (?:\+base\[ *\d+\] +[0-9a-f]+ )?(\w+)\s*$", listing, re.M))
+    names = set(exports(BUILD / "provider" / PROVIDER))
     bound = set(re.findall(r"QV_PROVIDER_NAME\((\w+)\)", (BUILD / "generated" / "provider_names.inc").read_text()))
     assert names == bound and len(bound) == 69
 
