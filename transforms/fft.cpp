@@ -14,14 +14,16 @@ struct ComplexRun {
     double *outRe, *outIm;
     Size inStride, outStride;
 
-    Status Leaves(Count first, Count count, Count leaves, const Count* positions) const noexcept {
+    Status Leaves(const FftSchedule& schedule, Count first, Count count) const noexcept {
         const Count last = plan.factorCount - 1;
         const FftStage& stage = *plan.stages[last];
+        const Count* positions = schedule.leafPositions + first;
         const double *re = inRe + first * inStride, *im = inIm + first * inStride;
         if (plan.kinds[last] == kLargePrime)
-            return RaderComplexLeaf(re, im, outRe, outIm, inStride, outStride, count, leaves * inStride, positions,
-                                    stage, plan.factors[last]);
-        plan.leafKernels[last](re, im, outRe, outIm, inStride, outStride, count, leaves * inStride, positions, stage);
+            return RaderComplexLeaf(re, im, outRe, outIm, inStride, outStride, count, schedule.leaves * inStride,
+                                    positions, stage, plan.factors[last]);
+        const ComplexLeafKernel leaf = schedule.loneLeaf ? schedule.loneLeaf : plan.leafKernels[last];
+        leaf(re, im, outRe, outIm, inStride, outStride, count, schedule.leaves * inStride, positions, stage);
         return status::kSuccess;
     }
     Status Stage(Count level, Size position, Count m) const noexcept {
@@ -39,14 +41,15 @@ struct RealRun {
     double* out;
     Size inStride, outStride;
 
-    Status Leaves(Count first, Count count, Count leaves, const Count* positions) const noexcept {
+    Status Leaves(const FftSchedule& schedule, Count first, Count count) const noexcept {
         const Count last = plan.factorCount - 1;
         const FftStage& stage = *plan.stages[last];
+        const Count* positions = schedule.leafPositions + first;
         if (plan.kinds[last] == kLargePrime)
-            return RaderRealLeaf(in + first * inStride, out, inStride, outStride, count, leaves * inStride, positions,
-                                 stage, plan.factors[last]);
-        plan.realLeafKernels[last](in + first * inStride, out, inStride, outStride, count, leaves * inStride, positions,
-                                   stage);
+            return RaderRealLeaf(in + first * inStride, out, inStride, outStride, count, schedule.leaves * inStride,
+                                 positions, stage, plan.factors[last]);
+        plan.realLeafKernels[last](in + first * inStride, out, inStride, outStride, count, schedule.leaves * inStride,
+                                   positions, stage);
         return status::kSuccess;
     }
     Status Stage(Count level, Size position, Count m) const noexcept {
@@ -85,8 +88,7 @@ public:
 
 private:
     Status Descend(Count level, Count first, Count count, Count stride) const noexcept {
-        if (level == plan_.factorCount - 1)
-            return run_.Leaves(first, count, schedule_.leaves, schedule_.leafPositions + first);
+        if (level == plan_.factorCount - 1) return run_.Leaves(schedule_, first, count);
         for (Count t = 0; t < plan_.factors[level]; ++t)
             if (const Status status = Descend(level + 1, first + stride * t, count, stride * plan_.factors[level]);
                 status < 0)

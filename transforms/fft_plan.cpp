@@ -62,7 +62,9 @@ Count FactorOf(const FftPlan& plan, const FftSchedule& schedule, Count level) no
 
 FftSchedule ScheduleOf(const FftPlan& plan, Count size, Count firstFactor, Count lastStage) noexcept {
     const Count last = plan.factorCount - 1;
-    FftSchedule schedule = {size, firstFactor, lastStage, size / plan.factors[last], 0, 1, nullptr};
+    FftSchedule schedule = {size, firstFactor, lastStage, size / plan.factors[last], nullptr, 0, 1, nullptr};
+    if (const FftKernel* kernel = kFftKernels().kernel(plan.factors[last]); kernel && schedule.leaves == 1)
+        schedule.loneLeaf = kernel->loneLeaf;
     const auto wasteful = [](Count stride) {
         return stride < kFftGroup || (stride % kFftGroup && stride < 4 * kFftGroup);
     };

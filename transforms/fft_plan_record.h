@@ -43,8 +43,9 @@ struct FftSchedule {
     // The number of sub-transforms at the level below the first, and the level whose stage comes last.
     Count firstFactor;
     Count lastStage;
-    // The number of leaf transforms.
+    // The number of leaf transforms, and the kernel for one that is alone, if there is one.
     Count leaves;
+    ComplexLeafKernel loneLeaf;
     // The levels that are taken breadth first, and the product of their factors.
     Count groupLevel;
     Count groupStride;

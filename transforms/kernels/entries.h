@@ -1,4 +1,4 @@
-// The four entries of a kernel size, written once over the cores of a size and the widths of the instruction set.
+// The entries of a kernel size, written once over the cores of a size and the widths of the instruction set.
 //
 // A leaf runs over adjacent transforms, a stage over adjacent columns: a block of them fills the lanes of one vector
 // per element. Whole blocks in the usual layouts go from memory through the registers to memory; all other blocks
@@ -13,9 +13,6 @@
 
 namespace quorvan::QV_TARGET {
 namespace {
-
-// Records: adjacent elements are adjacent (re, im) pairs. Packed: adjacent doubles.
-QV_INLINE bool AreRecords(const double* re, const double* im, Size stride) { return im == re + 1 && stride == 2; }
 
 template <class D, int W>
 struct BlockOf {
@@ -339,9 +336,8 @@ struct PairsOf {
 };
 
 template <class D>
-__attribute__((noinline)) void ComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm,
-                                           Size inStride, Size outStride, Count count, Size elementStride,
-                                           const Count* positions, const FftStage& stage) {
+void ComplexLeaf(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride, Size outStride,
+                 Count count, Size elementStride, const Count* positions, const FftStage& stage) {
     const bool records = kMaxWidth > 1 && AreRecords(inRe, inIm, inStride);
     for (Count t = 0; t < count;) {
         if (records) {
@@ -362,15 +358,6 @@ __attribute__((noinline)) void ComplexLeaf(const double* inRe, const double* inI
             t += lanes;
         });
     }
-}
-
-// The same, with a lone transform of records by its parts. A function of its own, so that the one above stays as it is.
-template <class D>
-void ComplexLeafOrLone(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride,
-                       Size outStride, Count count, Size elementStride, const Count* positions, const FftStage& stage) {
-    if (count == 1 && elementStride == 2 && AreRecords(inRe, inIm, 2) && AreRecords(outRe, outIm, outStride))
-        return LoneLeaf(inRe, outRe + 2 * Size(positions[0]));
-    ComplexLeaf<D>(inRe, inIm, outRe, outIm, inStride, outStride, count, elementStride, positions, stage);
 }
 
 template <class D>
@@ -440,8 +427,8 @@ void RealStage(double* data, Size stride, Count m, const FftStage& stage) {
 
 template <class D>
 constexpr FftKernel EntriesOf() {
-    FftKernel kernel = {ComplexLeaf<D>, ComplexStage<D>, RealLeaf<D>, RealStage<D>, nullptr, nullptr};
-    if constexpr (kLoneLeafParts<D::kSize>) kernel.leaf = ComplexLeafOrLone<D>;
+    FftKernel kernel = {ComplexLeaf<D>, ComplexStage<D>, RealLeaf<D>, RealStage<D>, nullptr, nullptr, nullptr};
+    if constexpr (kMaxWidth == 8 && D::kSize == 32) kernel.loneLeaf = LoneLeafOf32;
     if constexpr (D::kSize % 2 == 0) {
         kernel.spectrumLeaf = SpectrumLeaf<D>;
         kernel.spectrumStage = SpectrumStage<D>;

@@ -33,6 +33,8 @@ struct FftKernel {
     ComplexStageKernel stage;
     RealLeafKernel realLeaf;
     RealStageKernel realStage;
+    // A leaf for the plans that have one leaf transform only, at position 0; null where there is no better one.
+    ComplexLeafKernel loneLeaf;
     SpectrumLeafKernel spectrumLeaf;
     SpectrumStageKernel spectrumStage;
 };

@@ -4,7 +4,8 @@
 // order that a single unpack leaves, column (lane % 2) * W/2 + lane / 2, so that taking records apart and putting them
 // together costs one shuffle a vector. Split and real data, which stand in natural order, pay one permutation instead.
 //
-// Operations on a range of lanes touch no memory outside it.
+// Operations on a range of lanes, or on the Records of a range of columns, touch no memory outside it. Backwards: the
+// last record in memory belongs to column 0.
 #pragma once
 
 #include "frame/targets.h"
@@ -18,6 +19,9 @@
 
 namespace quorvan::QV_TARGET {
 namespace {
+
+// Adjacent elements are adjacent (re, im) pairs.
+QV_INLINE bool AreRecords(const double* re, const double* im, Size stride) { return im == re + 1 && stride == 2; }
 
 template <int W>
 struct Lanes;
@@ -35,7 +39,6 @@ template <>
 struct Lanes<1> {
     using V = double;
 
-    // The records of a block in a range of its columns, as the operations below take them.
     using Records = bool;
     QV_INLINE static Records RecordsIn(LaneRange r) { return r.Has(0); }
 

@@ -7,12 +7,9 @@
 
 namespace quorvan::QV_TARGET {
 
-extern const FftKernel kDft4, kDft8;
+extern const FftKernel kDft4, kDft8, kDft32;
 
 namespace {
-
-template <int f>
-inline constexpr bool kLoneLeafParts = kMaxWidth == 8 && f == 32;
 
 struct LoneTwiddles {
     alignas(64) double values[2 * 8 * 3];
@@ -45,12 +42,17 @@ constexpr LoneTwiddles MakeLoneTwiddles() {
 }
 constexpr LoneTwiddles kLoneTwiddles = MakeLoneTwiddles();
 
-inline void LoneLeaf(const double* in, double* out) {
+// Split arrays and other strides keep to the ordinary leaf.
+inline void LoneLeafOf32(const double* inRe, const double* inIm, double* outRe, double* outIm, Size inStride,
+                         Size outStride, Count count, Size elementStride, const Count* positions,
+                         const FftStage& stage) {
+    if (!AreRecords(inRe, inIm, elementStride) || !AreRecords(outRe, outIm, outStride))
+        return kDft32.leaf(inRe, inIm, outRe, outIm, inStride, outStride, count, elementStride, positions, stage);
     static constexpr Count kPositions[] = {0, 8, 16, 24};
     FftStage join = {};
     join.blockedTwiddles = const_cast<double*>(kLoneTwiddles.values);  // stages only read them
-    kDft8.leaf(in, in + 1, out, out + 1, 2, 2, 4, 8, kPositions, join);
-    kDft4.stage(out, out + 1, 2, 8, join);
+    kDft8.leaf(inRe, inIm, outRe, outIm, 2, 2, 4, 8, kPositions, join);
+    kDft4.stage(outRe, outIm, 2, 8, join);
 }
 
 }  // namespace
