@@ -63,8 +63,8 @@ Count FactorOf(const FftPlan& plan, const FftSchedule& schedule, Count level) no
 FftSchedule ScheduleOf(const FftPlan& plan, Count size, Count firstFactor, Count lastStage) noexcept {
     const Count last = plan.factorCount - 1;
     FftSchedule schedule = {size, firstFactor, lastStage, size / plan.factors[last], nullptr, 0, 1, nullptr};
-    if (const FftKernel* kernel = kFftKernels().kernel(plan.factors[last]); kernel && schedule.leaves == 1)
-        schedule.loneLeaf = kernel->loneLeaf;
+    if (schedule.leaves == 1)
+        if (const FftKernel* kernel = kFftKernels().kernel(plan.factors[last])) schedule.loneLeaf = kernel->loneLeaf;
     const auto wasteful = [](Count stride) {
         return stride < kFftGroup || (stride % kFftGroup && stride < 4 * kFftGroup);
     };
@@ -296,13 +296,13 @@ Status MakeLargePrimes(FftPlan& plan) noexcept {
 
 // Input t = t0 + f0 t1 + f0 f1 t2 + ... starts the leaf that stands at t0 n1 + t1 n2 + t2 n3 + ...
 Status MakeLeafPositions(FftPlan& plan) noexcept {
-    for (const FftSchedule& schedule : {plan.whole, plan.half}) {
-        if (schedule.size == 0) continue;
-        Count* positions = schedule.leafPositions;
+    for (const FftSchedule* schedule : {&plan.whole, &plan.half}) {
+        if (schedule->size == 0) continue;
+        Count* positions = schedule->leafPositions;
         positions[0] = 0;
         for (Count i = 0, made = 1; i + 1 < plan.factorCount; ++i) {
-            const Count f = FactorOf(plan, schedule, i);
-            for (Count t = made; t < made * f; ++t) positions[t] = positions[t % made] + t / made * plan.columns[i];
+            const Count f = FactorOf(plan, *schedule, i);
+            for (Count t = made; t < made * f; ++t) positions[t] = positions[t - made] + plan.columns[i];
             made *= f;
         }
     }
