@@ -122,7 +122,8 @@ target_link_libraries(quorvan PRIVATE ${QUORVAN_PROVIDER} m)
 
 # For tests only: the same objects over an allocator in which the k-th allocation fails on request.
 add_library(quorvan_testable STATIC EXCLUDE_FROM_ALL ${QUORVAN_OBJECTS}
-            ${PROJECT_SOURCE_DIR}/tests/support/failing_heap.cpp)
+            ${PROJECT_SOURCE_DIR}/tests/support/failing_heap.cpp
+            ${PROJECT_SOURCE_DIR}/tests/support/fence_$<IF:$<BOOL:${WIN32}>,windows,posix>.cpp)
 target_link_libraries(quorvan_testable PUBLIC quorvan_options ${QUORVAN_PROVIDER} m)
 if(WIN32)
     target_sources(quorvan_testable INTERFACE ${QUORVAN_PROGRAM})

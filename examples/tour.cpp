@@ -27,6 +27,8 @@ void HeartRhythm() {
     Rhythm(Electrocardiogram());
 }
 
+constexpr const char* kUsage = "tour [FILE [SAMPLES_PER_SECOND] | --chapter NAME]";
+
 constexpr Chapter kChapters[] = {{"rhythm", HeartRhythm}, {"beats", Beats},       {"shape", Shape},
                                  {"filters", Filters},    {"tones", Tones},       {"amplifier", Amplifier},
                                  {"trend", Trend},        {"sunspots", Sunspots}, {"matrices", Matrices}};
@@ -57,8 +59,9 @@ double ParseRate(const char* text) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+    if (argc == 2 && std::string(argv[1]) == "--help") return std::printf("usage: %s\n", kUsage), 0;
     const bool named = argc > 1 && std::string(argv[1]) == "--chapter";
-    if (argc > 3 || (named && argc != 3)) throw Failure("usage: tour [FILE [SAMPLES_PER_SECOND] | --chapter NAME]");
+    if (argc > 3 || (named && argc != 3)) throw Failure(std::string("usage: ") + kUsage);
     if (named) {
         PrintNamed(argv[2]);
     } else if (argc > 1) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "fit/fit_errors.h"
 #include "fit/gaussian_loops.h"
@@ -9,6 +10,8 @@
 
 namespace quorvan {
 namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 struct Point {
     double x, y;
@@ -91,41 +94,42 @@ Status Estimate(const ModelSamples& samples, double* c, bool* exact) {
     return status::kSuccess;
 }
 
-// The curve and its error at the coefficients; shape gets the exponentials.
-double Evaluate(const ModelSamples& samples, const double* c, double* shape, double* fitted) {
-    kGaussianLoops().shape(samples.x, samples.n, c, shape);
-    for (Count i = 0; i < samples.n; ++i) fitted[i] = c[0] * shape[i];
+// The curve at the coefficients and its error.
+double Evaluate(const GaussianSamples& at, const double* c, double* fitted) {
+    kGaussianLoops().error(at, c, kInfinity);
+    for (Count i = 0; i < at.n; ++i) fitted[i] = c[0] * at.shape[i];
     double error = 0;
-    FitMeanSquaredError(samples.y, fitted, samples.weights, samples.n, &error);
+    FitMeanSquaredError(at.y, fitted, at.weights, at.n, &error);
     return error;
 }
 
-// c in: the start; out: the result. Returns the residue.
-double Climb(const ModelSamples& samples, const ModelControl& control, double* shape, double* fitted, double* c) {
-    const double tolerance = ToleranceOrDefault(control.tolerance);
-    const double start[3] = {c[0], c[1], c[2]}, first = Evaluate(samples, c, shape, fitted);
+// c in: the start; out: the result. tried gets the coefficients whose error is the residue.
+void Climb(const GaussianSamples& at, const ModelControl& control, double* c, double* tried) {
+    const double tolerance = ToleranceOrDefault(control.tolerance), n = at.n;
+    const double start[3] = {c[0], c[1], c[2]}, first = kGaussianLoops().error(at, c, kInfinity) / n;
     double error = first, previous = error + 1, step = 1, gradient[3] = {0, 0, 0};
     bool wanted = true;
+    std::copy_n(c, 3, tried);
     for (Count count = 0; count <= control.limit; ++count) {
         if (!(std::fabs(previous - error) > previous * tolerance) || !(error > control.smallestError)) break;
         if (wanted) {
             previous = error;
             // Downhill on the sum of squares, a factor of 2 aside.
-            kGaussianLoops().gradient(samples.x, samples.y, samples.weights, shape, samples.n, c, gradient);
+            kGaussianLoops().gradient(at, c, gradient);
         }
-        const double trial[3] = {c[0] + step * gradient[0], c[1] + step * gradient[1], c[2] + step * gradient[2]};
-        error = Evaluate(samples, trial, shape, fitted);
+        for (int j = 0; j < 3; ++j) tried[j] = c[j] + step * gradient[j];
+        // An error this large is rejected and changes enough, whatever it is.
+        error = kGaussianLoops().error(at, tried, (2 + tolerance) * previous * n) / n;
         wanted = previous >= error;
         if (wanted)
-            std::copy_n(trial, 3, c);
+            std::copy_n(tried, 3, c);
         else
             step *= 0.5;
     }
     if (error >= first && previous >= first) {
         std::copy_n(start, 3, c);
-        return first;
+        std::copy_n(start, 3, tried);
     }
-    return error;
 }
 
 }  // namespace
@@ -137,6 +141,7 @@ Status FitGaussianCore(const ModelSamples& given, const ModelControl& control, c
     if (ArrHasNonFinite(samples.x, samples.n)) return status::kNonFiniteInput;
     Block<double> shape(static_cast<std::size_t>(samples.n));
     if (!shape) return status::kOutOfMemory;
+    const GaussianSamples at{samples.x, samples.y, samples.weights, shape, samples.n};
 
     double c[3];
     bool exact = false;
@@ -146,10 +151,12 @@ Status FitGaussianCore(const ModelSamples& given, const ModelControl& control, c
         return failed;
     if (!exact) {
         if (c[2] == 0) return status::kWidthNotPositive;
-        *out.residue = Climb(samples, control, shape, out.fitted, c);
+        double tried[3];
+        Climb(at, control, c, tried);
+        *out.residue = Evaluate(at, tried, out.fitted);
         c[2] = std::fabs(c[2]);
     }
-    const double error = Evaluate(samples, c, shape, out.fitted);
+    const double error = Evaluate(at, c, out.fitted);
     if (exact) *out.residue = error;
     std::copy_n(c, 3, out.coefficients);
     return status::kSuccess;

@@ -1,6 +1,7 @@
-// The few things that differ between operating systems: locks, the identity of a thread and the notice of its end, and
-// how the linear algebra provider is reached. No other unit knows which system it runs on: frame/platform_posix.cpp and
-// frame/platform_windows*.cpp stand behind this, and the build takes the one or the others.
+// The few things that differ between operating systems: locks, the identity of a thread and the notice of its end,
+// large pages, and how the linear algebra provider is reached. No other unit knows which system it runs on:
+// frame/platform_posix.cpp and frame/platform_windows*.cpp stand behind this, and the build takes the one or the
+// others.
 #pragma once
 
 #include <cstddef>
@@ -61,6 +62,10 @@ std::uint32_t CurrentThread() noexcept;
 void NoticeThreadEnds(void (*handler)() noexcept) noexcept;
 void NoticeEndOfThisThread() noexcept;
 void IgnoreThreadEnds() noexcept;
+
+// A wish: that the system backs the inner whole pages of a fresh large block with large ones. No answer, no effect but
+// on speed.
+void PreferLargePages(void* block, std::size_t bytes) noexcept;
 
 // The aligned allocator that belongs to the provider; null when memory is exhausted.
 void* AlignedAllocate(std::size_t bytes, std::size_t alignment) noexcept;

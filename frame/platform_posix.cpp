@@ -1,6 +1,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdlib>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include "frame/platform.h"
@@ -78,6 +79,19 @@ void IgnoreThreadEnds() noexcept {
     if (thread_ends_noticed) pthread_key_delete(thread_end_key);
     thread_ends_noticed = false;
     thread_end_handler = nullptr;
+}
+
+void PreferLargePages(void* block, std::size_t bytes) noexcept {
+#ifdef MADV_HUGEPAGE
+    const int earlier = errno;
+    const std::uintptr_t page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    const std::uintptr_t start = reinterpret_cast<std::uintptr_t>(block);
+    const std::uintptr_t first = (start + page - 1) / page * page, last = (start + bytes) / page * page;
+    if (first < last) madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+    errno = earlier;
+#else
+    static_cast<void>(block), static_cast<void>(bytes);
+#endif
 }
 
 void* AlignedAllocate(std::size_t bytes, std::size_t alignment) noexcept {

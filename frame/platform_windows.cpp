@@ -56,6 +56,9 @@ std::uint32_t CurrentThread() noexcept { return GetCurrentThreadId(); }
 
 void NoticeThreadEnds(void (*handler)() noexcept) noexcept { thread_end_handler = handler; }
 
+// Large pages take a privilege here.
+void PreferLargePages(void*, std::size_t) noexcept {}
+
 // The system tells a module of the end of every thread, armed or not.
 void NoticeEndOfThisThread() noexcept {}
 

@@ -24,7 +24,7 @@ Status General(const ComplexRecord* a, Count n, bool wantVectors, ComplexRecord*
                ComplexRecord* vectors) noexcept {
     const auto order = static_cast<std::size_t>(n);
     const ProviderBlock<ComplexRecord> copy = GeneralCopy(a, n, wantVectors), found(order);
-    const ProviderBlock<ComplexRecord> columns(wantVectors ? Elements(n, n) : 0);
+    const ProviderBlock<ComplexRecord> columns(wantVectors ? Room<ComplexRecord>(n, n) : 0);
     const Block<double> rwork(2 * order);
     if (!copy || !found || !columns || !rwork) return status::kOutOfMemory;
     Count info = 0;

@@ -22,6 +22,7 @@ inline ComplexRecord Scaled(ComplexRecord a, double factor) noexcept { return Cx
 
 inline double Quotient(double a, double b) noexcept { return a / b; }
 inline ComplexRecord Quotient(ComplexRecord a, ComplexRecord b) noexcept { return CxDivide(a, b); }
+inline ComplexRecord Quotient(ComplexRecord a, double b) noexcept { return {a.re / b, a.im / b}; }
 
 inline double Negative(double a) noexcept { return -a; }
 inline ComplexRecord Negative(ComplexRecord a) noexcept { return CxNegate(a); }

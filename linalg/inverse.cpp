@@ -49,7 +49,7 @@ Status General(const T* a, Count n, T* out) noexcept {
 
 template <class T>
 Status PositiveDefinite(const T* a, Count n, T* out) noexcept {
-    ProviderBlock<T> inverse(Elements(n, n));
+    ProviderBlock<T> inverse(Room<T>(n, n));
     if (!inverse) return status::kOutOfMemory;
     CopyUpper<T>(a, n, inverse);
     if (Status failed = StatusOf(Potrf<T>('L', n, inverse, n), info::kCholesky)) return failed;

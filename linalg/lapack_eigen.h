@@ -4,15 +4,11 @@
 // that an algorithm is one text for both. RealWork tells how large such an area must be.
 #pragma once
 
-#include <type_traits>
-
 #include "frame/memory.h"
 #include "linalg/lapack.h"
+#include "linalg/matrix.h"
 
 namespace quorvan {
-
-template <class T>
-inline constexpr bool kIsComplex = std::is_same_v<T, ComplexRecord>;
 
 // The `lwork` that routine(work, lwork) asks for: left in work[0] by a call with lwork = -1, and truncated.
 template <class T, class Routine>

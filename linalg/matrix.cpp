@@ -142,14 +142,14 @@ void ConjugateTransposeTo(const ComplexRecord* a, Count m, Count n, ComplexRecor
 template <class T>
 ProviderBlock<T> Copied(const T* a, Count m, Count n) noexcept {
     const std::size_t count = Elements(m, n);
-    ProviderBlock<T> copy(count);
+    ProviderBlock<T> copy(Room<T>(n, m));
     if (copy && count > 0) std::memcpy(copy.get(), a, count * sizeof(T));
     return copy;
 }
 
 template <class T>
 ProviderBlock<T> Transposed(const T* a, Count m, Count n) noexcept {
-    ProviderBlock<T> copy(Elements(m, n));
+    ProviderBlock<T> copy(Room<T>(m, n));
     if (copy) TransposeTo(a, m, n, copy.get());
     return copy;
 }

@@ -6,15 +6,26 @@
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 
 #include "frame/types.h"
 #include "linalg/provider_memory.h"
 
 namespace quorvan {
 
+template <class T>
+inline constexpr bool kIsComplex = std::is_same_v<T, ComplexRecord>;
+
 // The number of elements of an m by n matrix, not wrapped; 0 for a size below 1.
 constexpr std::size_t Elements(Count m, Count n) noexcept {
     return m < 1 || n < 1 ? 0 : static_cast<std::size_t>(m) * static_cast<std::size_t>(n);
+}
+
+// What to allocate for a matrix that the provider works on, with m elements to each of its n columns. A complex one
+// gets a column more: zgemv of OpenBLAS (0.3.21, AVX2) loads the element behind a strided vector, to drop it.
+template <class T>
+constexpr std::size_t Room(Count m, Count n) noexcept {
+    return Elements(m, n) + (kIsComplex<T> ? Elements(m, 1) : 0);
 }
 
 // Whether the number of elements has 32 bits: the provider counts with no more. Sizes below 1 are refused elsewhere.

@@ -13,7 +13,7 @@ template <class T>
 Status Pivoted(T* a, Count m, Count n, bool economy, Count* pivots, T* q, T* r) noexcept {
     const Count k = std::min(m, n);
     const Count vectors = economy ? k : m;
-    const ProviderBlock<T> factors(Elements(m, q ? std::max(n, vectors) : n)), tau(static_cast<std::size_t>(k));
+    const ProviderBlock<T> factors(Room<T>(m, q ? std::max(n, vectors) : n)), tau(static_cast<std::size_t>(k));
     const Block<double> rwork = RealWork<T>(2 * static_cast<std::size_t>(n));
     if (!factors || !tau || !rwork) return status::kOutOfMemory;
     const auto factor = [&](T* work, Count lwork) {

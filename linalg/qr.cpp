@@ -33,7 +33,7 @@ Status MatQr(T* a, Count m, Count n, bool economy, T* q, T* r) noexcept {
     const Count stride = q && !economy ? std::max(m, n) : n;  // a full Q needs room for m vectors
     const auto rows = static_cast<std::size_t>(m), cols = static_cast<std::size_t>(n);
 
-    const ProviderBlock<T> factors(Elements(m, stride)), tau(static_cast<std::size_t>(k));
+    const ProviderBlock<T> factors(Room<T>(stride, m)), tau(static_cast<std::size_t>(k));
     if (!factors || !tau) return status::kOutOfMemory;
     const auto factor = [&](T* work, Count lwork) {
         return Gelqf(n, m, factors.get(), stride, tau.get(), work, lwork);

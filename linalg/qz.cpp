@@ -104,11 +104,11 @@ Status Iterate(Pencil<ComplexRecord>& pencil) noexcept {
 template <class T>
 Status FactorInSteps(const T* a, const T* b, Pencil<T>& pencil) noexcept {
     const Count n = pencil.n;
-    ProviderBlock<T> rows(Elements(n, n));
-    pencil.q = ProviderBlock<T>(Elements(n, n));
-    pencil.z = ProviderBlock<T>(Elements(n, n));
+    ProviderBlock<T> rows(Room<T>(n, n));
+    pencil.q = ProviderBlock<T>(Room<T>(n, n));
+    pencil.z = ProviderBlock<T>(Room<T>(n, n));
     pencil.t = Copied(b, n, n);
-    pencil.s = ProviderBlock<T>(Elements(n, n));
+    pencil.s = ProviderBlock<T>(Room<T>(n, n));
     if (!rows || !pencil.s || !pencil.t || !pencil.q || !pencil.z || !pencil.values) return status::kOutOfMemory;
 
     T* q1 = rows.get();

@@ -88,7 +88,7 @@ Status MatSchur(const T* a, Count n, std::uint32_t order, T* vectors, T* t, Comp
     if (!ElementsFit(n, n)) return status::kOverflow;
     if (MatScreen(a, Elements(n, n))) return status::kNonFiniteInput;
     SchurForm<T> form{n, Transposed(a, n, n), {}, ProviderBlock<T>(static_cast<std::size_t>(n)), Eigenvalues(n)};
-    if (vectors) form.q = ProviderBlock<T>(Elements(n, n));
+    if (vectors) form.q = ProviderBlock<T>(Room<T>(n, n));
     if (!form.t || !form.work || !form.values || (vectors && !form.q)) return status::kOutOfMemory;
 
     Status memory = status::kSuccess;

@@ -22,7 +22,7 @@ Status MatLu(T* a, Count m, Count n, Count* pivots, std::uint32_t* parity) noexc
     if (MatScreen(a, Elements(m, n))) return status::kNonFiniteInput;
     *parity = 0;
     const Count lda = PaddedRows(m);
-    const ProviderBlock<T> factors(Elements(lda, n));
+    const ProviderBlock<T> factors(Room<T>(lda, n));
     if (!factors) return status::kOutOfMemory;
     TransposeTo(a, m, n, n, factors.get(), lda);
     const Count info = Getrf(m, n, factors.get(), lda, pivots);

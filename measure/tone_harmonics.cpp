@@ -8,24 +8,24 @@
 #include "frame/moments.h"
 #include "frame/status.h"
 #include "measure/half_spectrum.h"
+#include "measure/sine_crest.h"
 #include "sources/generators.h"
 #include "sources/windows.h"
 
 namespace quorvan {
 namespace {
 
-constexpr double kSqrt2 = 1.4142135623730951;
 constexpr double kDegrees = 57.29577951308232;
 
 // The bins below half the rate under a Hanning window, scaled to the rms amplitude of a sine. `work` has 2n doubles.
 Status ToneHanningSpectrum(const FftPlan* plan, const double* x, Count n, double* work, ComplexRecord* bins) {
     std::copy(x, x + n, work);
     if (const Status failure = WinHanning(work, n)) return failure;
-    const double scale = kSqrt2 * 2 / n;
+    const double scale = kSineCrest * 2 / n;
     for (Count i = 0; i < n; ++i) work[i] *= scale;
     double* const half = work + n;
     if (const Status failure = HalfSpectrum(plan, work, n, half)) return failure;
-    bins[0] = {half[0] * (kSqrt2 * 0.5), 0};
+    bins[0] = {half[0] * (kSineCrest * 0.5), 0};
     for (Count k = 1; k < n - n / 2; ++k) bins[k] = InnerBin(half, n, k);
     return status::kSuccess;
 }
@@ -122,7 +122,7 @@ Status ToneExtractBin(const ComplexRecord* S, Count H, double fs, Count n, doubl
     const Line line = ToneHanningInterpolate(CxMagnitude(C[i]), CxMagnitude(C[i - 1]), CxMagnitude(C[i + 1]), side, i);
     if (!std::isfinite(line.position)) return status::kDivideByZero;
     sine->position = line.position;
-    sine->amplitude = kSqrt2 * line.amplitude;
+    sine->amplitude = kSineCrest * line.amplitude;
     sine->frequency = line.position * df;
     sine->phase = CxPhase(C.below(line.position)) * kDegrees - (line.position - std::floor(line.position)) * 180 + 90;
     if (!std::isfinite(sine->amplitude) || !std::isfinite(sine->phase)) return status::kDivideByZero;

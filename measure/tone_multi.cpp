@@ -2,13 +2,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "measure/sine_crest.h"
 #include "measure/tone_signal.h"
 #include "measure/tones.h"
 
 namespace quorvan {
 namespace {
-
-constexpr double kSqrt2 = 1.4142135623730951;
 
 struct HeldTone {
     ToneBins bins;
@@ -122,7 +121,7 @@ Status Extract(const T* x, Count n, double dt, std::uint32_t sort, std::uint32_t
 
     Count kept = 0;
     for (Count k = 0; k < found; ++k)
-        if (held[k].tone.amplitude * kSqrt2 >= threshold) {
+        if (held[k].tone.amplitude * kSineCrest >= threshold) {
             held[kept] = held[k];
             held[kept].order = kept;
             ++kept;
@@ -135,7 +134,7 @@ Status Extract(const T* x, Count n, double dt, std::uint32_t sort, std::uint32_t
     });
     for (Count k = 0; k < kept; ++k) {
         tones.frequency[k] = held[k].tone.frequency / dt;
-        tones.amplitude[k] = held[k].tone.amplitude * kSqrt2;
+        tones.amplitude[k] = held[k].tone.amplitude * kSineCrest;
         tones.phase[k] = spectrum.kReal ? held[k].tone.phase + 90 : held[k].tone.phase;
     }
     *count = kept;

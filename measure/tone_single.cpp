@@ -1,13 +1,12 @@
 // Extraction of one tone.
 #include <cmath>
 
+#include "measure/sine_crest.h"
 #include "measure/tone_signal.h"
 #include "measure/tones.h"
 
 namespace quorvan {
 namespace {
-
-constexpr double kSqrt2 = 1.4142135623730951;
 
 struct Range {
     Count first, last;
@@ -58,7 +57,7 @@ Status Extract(const T* x, Count n, double dt, const double* search, std::uint32
     const ToneBins bins = ToneFindPeak(spectrum, SearchRange(spectrum, n, dt, search));
     const Tone found = ToneNewton(bins, HanningKernel(n), spectrum.kReal);
     *tone.frequency = found.frequency / dt;
-    *tone.amplitude = found.amplitude * kSqrt2;
+    *tone.amplitude = found.amplitude * kSineCrest;
     *tone.phase = spectrum.kReal ? found.phase + 90 : found.phase;
     return signal ? GiveToneSignal(x, n, dt, mode, tone, 1, spectrum, *signal) : status::kSuccess;
 }

@@ -8,6 +8,7 @@
 #include "frame/memory.h"
 #include "frame/status.h"
 #include "measure/half_spectrum.h"
+#include "measure/sine_crest.h"
 #include "measure/tone_newton.h"
 #include "sources/windows.h"
 #include "transforms/spectrum_layout.h"
@@ -26,7 +27,7 @@ public:
 
     Status take(const T* x) noexcept {
         T *const windowed = work_, *const spectrum = windowed + n_;
-        const double scale = 2.8284271247461903 / n_;
+        const double scale = 2 * kSineCrest / n_;
         for (Count i = 0; i < n_; ++i) {
             if constexpr (kReal)
                 windowed[i] = x[i] * scale;

@@ -139,23 +139,10 @@ private:
     ComplexRecord* step_ = nullptr;
 };
 
-// Monic, descending, and scaled to roots of unit mean size, as far as that stays within the range of doubles.
-double DescendScaled(const ComplexRecord* c, Count m, ComplexRecord* p) {
-    std::reverse_copy(c, c + m, p);
-    MakeMonic(p, m);
-    const double scale = std::pow(CxMagnitude(p[m - 1]), 1.0 / (m - 1));
-    if (!(scale > 0) || !std::isfinite(scale)) return 1;
-    for (Count k = 1; k < m; ++k) p[k] = CxScale(p[k], std::pow(scale, -k));
-    if (!MatScreen(p, static_cast<std::size_t>(m))) return scale;
-    std::reverse_copy(c, c + m, p);
-    MakeMonic(p, m);
-    return 1;
-}
-
 Status HigherRoots(const ComplexRecord* c, Count m, ComplexRecord* roots, Count* multiplicities, Count* count) {
     Block<ComplexRecord> p(static_cast<std::size_t>(m));
     if (!p) return status::kOutOfMemory;
-    const double scale = DescendScaled(c, m, p);
+    const double scale = DescendScaled<ComplexRecord>(c, m, p);
     if (Status failed = PolyRootsStructure<ComplexRecord>(p, m - 1, kRootTolerance, roots, multiplicities, count))
         return failed;
     {

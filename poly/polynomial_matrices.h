@@ -23,6 +23,26 @@ void MakeMonic(T* p, Count count) noexcept {
     for (Count k = 1; k < count; ++k) p[k] = element::Quotient(p[k], leading);
 }
 
+// Descending and monic.
+template <class T>
+void Descend(const T* c, Count m, T* p) noexcept {
+    std::reverse_copy(c, c + m, p);
+    MakeMonic(p, m);
+}
+
+// Descending, monic, and scaled to roots of unit mean size: the result times the roots of p are those of c. Without
+// scale where that leaves the range of doubles.
+template <class T>
+double DescendScaled(const T* c, Count m, T* p) noexcept {
+    Descend(c, m, p);
+    const double scale = std::pow(element::Magnitude(p[m - 1]), 1.0 / (m - 1));
+    if (scale == 1) return scale;
+    for (Count k = 1; k < m; ++k) p[k] = element::Quotient(p[k], std::pow(scale, k));
+    if (!MatScreen(p, static_cast<std::size_t>(m))) return scale;
+    Descend(c, m, p);
+    return 1;
+}
+
 // out[degreeP + degreeQ + 1] = p·q
 template <class T>
 void MultiplyPolynomials(const T* p, Count degreeP, const T* q, Count degreeQ, T* out) noexcept {

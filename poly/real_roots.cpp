@@ -29,24 +29,6 @@ void PolyQuadratic(double constant, double linear, double square, ComplexRecord*
     roots[1] = {re, -im};
 }
 
-// Descending and monic.
-void Descend(const double* c, Count m, double* p) {
-    std::reverse_copy(c, c + m, p);
-    MakeMonic(p, m);
-}
-
-// Descending, monic, and scaled to roots of unit mean size: *scale times the roots of p are those of c. Without scale
-// where that leaves the range of doubles.
-void DescendScaled(const double* c, Count m, double* p, double* scale) {
-    Descend(c, m, p);
-    *scale = std::pow(std::fabs(p[m - 1]), 1.0 / (m - 1));
-    if (*scale == 1) return;
-    for (Count k = 1; k < m; ++k) p[k] /= std::pow(*scale, k);
-    if (!MatScreen(p, static_cast<std::size_t>(m))) return;
-    Descend(c, m, p);
-    *scale = 1;
-}
-
 // Exactly equal roots as one, in the order of their first occurrence.
 Count Group(ComplexRecord* roots, Count* multiplicities, Count degree) {
     Count count = 0;
@@ -66,8 +48,7 @@ Count Group(ComplexRecord* roots, Count* multiplicities, Count degree) {
 Status HigherRoots(const double* c, Count m, Count zeros, ComplexRecord* roots, Count* multiplicities, Count* count) {
     Block<double> p(static_cast<std::size_t>(m));
     if (!p) return status::kOutOfMemory;
-    double scale = 1;
-    DescendScaled(c, m, p, &scale);
+    const double scale = DescendScaled<double>(c, m, p);
     if (Status failed = PolyRootsStructure<double>(p, m - 1, kRootTolerance, roots, multiplicities, count))
         return failed;
     Size total = 0;
@@ -80,7 +61,7 @@ Status HigherRoots(const double* c, Count m, Count zeros, ComplexRecord* roots, 
         return status::kSuccess;
     }
     // Without a zero root, even where there is one: deliberate.
-    Descend(c, m, p);
+    Descend<double>(c, m, p);
     if (Status failed = PolyCompanionRoots<double>(p, m - 1, roots)) return failed;
     *count = Group(roots, multiplicities, m - 1);
     return status::kSuccess;

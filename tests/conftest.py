@@ -10,7 +10,8 @@ import sys
 
 import pytest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tools"))
+TESTS = pathlib.Path(__file__).resolve().parent
+sys.path[:0] = [str(TESTS.parent / "tools"), str(TESTS / "support")]
 import library  # noqa: E402
 from library import DTYPES, SCALARS, Address, Complex, load  # noqa: E402, F401
 

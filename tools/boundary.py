@@ -8,7 +8,8 @@ The table is one text file for each family. Its grammar, line by line:
 
     family NAME                      once, first; the file's name
     title  TEXT                      once
-    intro  TEXT                      any number: what the family is for, its conventions
+    intro  TEXT                      any number: what the family is for, its conventions; without a text: a new paragraph
+    formula TEXT                     any number, between intros: a line that is shown as it stands, as formulas are
 
     NUMBER NAME [= OPERATION] [-> RESULT] [planned]
                                      an export; NAME is unique, OPERATION is told where several exports share one;
@@ -31,7 +32,7 @@ The table is one text file for each family. Its grammar, line by line:
 TYPE is one of double, complex, int32, uint32, int64, text, window (properties), band (of a filter), model (function),
 or a handle's name: TYPE Name is the record QvName of quorvan/types.h, `block` is any block that the library allocated.
 SHAPE is an integer expression over the integer arguments of the same export, by value or by address, in Python's
-notation: + - * / % == min max and "a if condition else b"; the quotient truncates. Empty: the meaning tells the room.
+notation: + - * / % == > min max and "a if condition else b"; the quotient truncates. Empty: the meaning tells the room.
 """
 
 import ast
@@ -67,7 +68,7 @@ INTEGERS = ("int32", "uint32", "int64")
 DIRECTIONS = ("in", "out", "inout", "alloc", "value", "size", "handle")
 # What a shape may be made of.
 SHAPE_NODES = (ast.Expression, ast.BinOp, ast.Add, ast.Sub, ast.Mult, ast.Div, ast.Mod, ast.IfExp, ast.Compare, ast.Eq,
-               ast.Call, ast.Name, ast.Load, ast.Constant)
+               ast.Gt, ast.Call, ast.Name, ast.Load, ast.Constant)
 
 
 @dataclass
@@ -149,8 +150,22 @@ class Export:
 class Family:
     name: str
     title: str = ""
-    intro: list = field(default_factory=list)
+    intro: list = field(default_factory=list)  # pairs of the table's word and its text
     exports: list = field(default_factory=list)
+
+    @property
+    def blocks(self):
+        """The introduction as paragraphs and formulas: pairs of the word and its lines."""
+        found, last = [], None
+        for word, text in self.intro:
+            if not text:
+                last = None
+                continue
+            if word != last:
+                found.append((word, []))
+            found[-1][1].append(text)
+            last = word
+        return found
 
 
 def handle_type(name):
@@ -186,8 +201,8 @@ def parse_family(path):
                     raise TableError("the family is not the file's name")
             elif word == "title":
                 family.title = rest
-            elif word == "intro":
-                family.intro.append(rest)
+            elif word in ("intro", "formula"):
+                family.intro.append((word, rest))
             elif word.isdigit():
                 match = re.fullmatch(r"(\w+)(?: same (\d+))?(?: = (\w+))?(?: -> ([\w ]+?))?( planned)?", rest)
                 if not match:
@@ -298,7 +313,8 @@ extern "C" {
         if not ready:
             continue
         out.append(f"/** @defgroup {family.name} {family.title}")
-        out += [f" * {line}" for line in family.intro]
+        for i, (word, lines) in enumerate(family.blocks):
+            out += [" *"] * (i > 0) + [f" * {'    ' * (word == 'formula')}{line}" for line in lines]
         out.append(" * @{\n */\n")
         for export in ready:
             out.append(comment(export) + f"QV_API {export.prototype};")

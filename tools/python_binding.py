@@ -86,9 +86,12 @@ def aliases(made):
 
 
 def family_module(family, own, names, made):
-    text = [f'"""{family.title}.', ""]
-    text += textwrap.wrap(translated(" ".join(family.intro), names), WIDTH)
-    text += ["", GENERATED, '"""', "", "import ctypes", "from typing import NamedTuple", "", "import numpy as np", "",
+    text = [f'r"""{family.title}.', ""]
+    for word, lines in family.blocks:
+        told = [translated(line, names) for line in lines]
+        text += [f"    {line}" for line in told] if word == "formula" else textwrap.wrap(" ".join(told), WIDTH)
+        text += [""]
+    text += [GENERATED, '"""', "", "import ctypes", "from typing import NamedTuple", "", "import numpy as np", "",
              "from .. import _runtime as rt", "from .._selections import *", ""]
     text += ["_max, _min = max, min", "", ""]
     twins = {f.twin for f in own if f.twin} - {f.name for f in own}

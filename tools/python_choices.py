@@ -72,6 +72,13 @@ TWINS = {
     "eigen_general": "eigen_complex",
 }
 
+# Where one array may have a dimension more than the function takes: the function that takes it.
+MANY = {
+    "solve": ("b", "solve_many"),
+    "solve_kind": ("b", "solve_many"),
+    "solve_kind_complex": ("b", "solve_many_complex"),
+}
+
 # --- Selections ----------------------------------------------------------------------------------------------------
 # class: (what it selects, members, where it applies as (export pattern, argument), the default or None)
 SELECTIONS = {

@@ -168,7 +168,7 @@ class Function(Text):
                 self.results.append(Result(name, "NDArray[np.float64]", words, a.meaning, f"{name}_"))
             elif a.type == "text":
                 self.add(a, name, "str", "str", meaning="the base unit")
-                self.before.append(f"{name}_ = rt.text_buffer({name})")
+                self.before.append(f'{name}_ = rt.text_buffer({name}, "{name}")')
                 self.call[a.name] = f"{name}_"
                 self.results.append(Result(name, "str", "str", "the full unit", f"{name}_.value.decode()"))
             elif self.is_output(a) and a.shape is not None:
@@ -179,18 +179,22 @@ class Function(Text):
                 self.array_in(a, name, shapes, late)
             elif a.type == "window":
                 self.add(a, name, "WindowProperties | tuple[float, float]", "(enbw, coherent_gain)")
-                self.call[a.name] = f"ctypes.byref(rt.properties({name}))"
+                self.call[a.name] = f'ctypes.byref(rt.properties({name}, "{name}"))'
             elif a.direction == "inout":
                 self.scalar_inout(a, name)
             elif a.direction == "in":
                 self.add(a, name, "float | None" if a.nullable else "float", "float", "None" if a.nullable else None)
-                self.call[a.name] = f"rt.optional({name})"
+                self.call[a.name] = f'rt.optional({name}, "{name}")'
             else:
                 self.value(a, name)
         for a in export.arguments:
             if a.name in self.sizes and a.direction == "inout":
                 n = parameter_name(a.name)
                 late.append(f"{n}_ = {CTYPES[a.type]}({n})")
+        for places in self.sizes.values():
+            names = [array for array, _, _ in places]
+            if len(names) > 1 and all(optional for _, _, optional in places):
+                shapes.append(f"rt.together({', '.join(f'{n}={n}' for n in names)})")
         self.before += shapes
         for a in arrays_out:
             self.array_out(a, late)
@@ -237,7 +241,7 @@ class Function(Text):
             meaning = "the complex number" + ("s" if a.shape else "")
         if a.shape is None:
             self.add(a, name, "complex", f"complex, with the parts ({a.name}, {second.name})", meaning=meaning)
-            self.before += [f"{name} = complex({name})"]
+            self.before += [f'{name} = rt.complex_number({name}, "{name}")']
             self.call[a.name], self.call[second.name] = f"{name}.real", f"{name}.imag"
             return
         words = f"array_like of complex128, shape {shown(shape_tuple(a.shape))}"
@@ -275,7 +279,8 @@ class Function(Text):
                                        "the same behind the last sample", f"{name}_", last=True))
             return
         optional = self.is_optional(a)
-        meaning = re.split(r"[,;] (?:replaced by|the .* when|null|the first m are|becomes its)", a.meaning)[0]
+        meaning = re.split(r"[,;] (?:replaced by|the .* when|null|the first m are|becomes its|out: )", a.meaning)[0]
+        meaning = meaning.removeprefix("in: ")
         self.add(a, name, "ArrayLike | None" if optional else "ArrayLike", words, "None" if optional else None, meaning)
         self.before.append(self.take_array(a, name))
         if a.type == "band":
@@ -353,7 +358,8 @@ class Function(Text):
         kind = "float" if a.type == "double" else "int"
         said = a.meaning.partition("; then ")
         self.add(a, name, kind, kind, meaning=said[0])
-        self.before.append(f"{name}_ = {CTYPES[a.type]}({name})")
+        take = {"double": "rt.real", **INTEGERS}[a.type]
+        self.before.append(f'{name}_ = {CTYPES[a.type]}({take}({name}, "{name}"))')
         self.call[a.name] = f"ctypes.byref({name}_)"
         if not any(b.name == a.name + "Out" for b in self.export.arguments):
             self.results.append(Result(name, kind, kind, said[2], f"{name}_.value", last=True))
@@ -372,18 +378,19 @@ class Function(Text):
         elif a.type == "model":
             self.add(a, name, "Callable[[float, NDArray[np.float64]], float]", "callable (x, coefficients) -> float",
                      meaning=a.meaning or "the model's value at x")
-            self.before.append(f"{name}_ = rt.Model({name})")
+            self.before.append(f'{name}_ = rt.Model({name}, "{name}")')
             self.call[a.name] = f"{name}_.pointer"
             self.behind.append(f"{name}_.reraise()")
         elif a.type == "complex":
             self.add(a, name, "complex", "complex")
-            self.call[a.name] = f"rt.complex_value({name})"
+            self.call[a.name] = f'rt.complex_value({name}, "{name}")'
         elif a.type in INTEGERS:
             self.add(a, name, "int", "int")
             self.before.append(f'{name} = {INTEGERS[a.type]}({name}, "{name}")')
             self.call[a.name] = name
         else:
             self.add(a, name, "float", "float")
+            self.before.append(f'{name} = rt.real({name}, "{name}")')
             self.call[a.name] = name
 
     def shorten_results(self):

@@ -55,15 +55,16 @@ class Text:
 
     def body(self):
         export, lines = self.export, []
-        arguments = ", ".join(p.name for p in self.parameters)
+        if self.name in choices.MANY:
+            array, many = choices.MANY[self.name]
+            given = ", ".join(f"{p.name}={p.name}" for p in self.parameters)
+            lines += [f"if rt.dimensions({array}) == 2:", f"    return {many}({given}, out=out)"]
         if self.twin:
             arrays = [p.name for p in self.parameters if p.type.startswith("ArrayLike")]
             out = ", out=out" if self.arrays else ""
             # by name: the two may order their parameters differently
             given = ", ".join(f"{p.name}={p.name}" for p in self.parameters)
             lines += [f"if rt.is_complex({', '.join(arrays)}):", f"    return {self.twin}({given}{out})"]
-        if self.elementwise:
-            lines += [f"if rt.many({arguments}):", f"    return rt.each({self.name}, {arguments})"]
         many = len(self.arrays) > 1
         slots = {r.slot: f"_out[{i}]" if many else "out" for i, r in enumerate(self.arrays)}
         if many:
@@ -102,21 +103,30 @@ class Text:
     def documentation(self, names):
         export = self.export
         sentences = re.sub(r"A null [^.]*\. ?", "", " ".join(export.sentences)).strip()
+        sentences = re.sub(r"\bNull (\w+):", r"Without \1:", sentences)
+        if self.export.name != "MemoryRelease":  # what is to be given back is given back here
+            sentences = re.sub(r"[A-Z][^.]* QvMemoryRelease[^.]*\.", "", sentences).strip()
         head, _, rest = (re.split(r"(?<![. ])(?<![ (][A-Z])\.( )(?=[A-Z])", sentences, 1) + ["", ""])[:3]
-        text = [head.rstrip(".") + ".", ""]
+        if export.sentences[0].endswith("..."):  # a formula that goes on and on
+            head, rest = export.sentences[0], sentences.removeprefix(export.sentences[0]).strip()
+        text = [head if head.endswith("...") else head.rstrip(".") + ".", ""]
         if rest:
             text += [rest, ""]
         if self.parameters:
             text += ["Parameters", "----------"]
             for p in self.parameters:
+                if p.type == "bool":
+                    p.meaning = re.sub(r"^(?:other than|not) 0(:|) ", r"true\1 ", p.meaning)
+                    p.meaning = re.sub(r"^0(:|) (.*)(?:; otherwise|, anything else) ", r"false\1 \2; true\1 ", p.meaning)
                 default = "" if p.default is None else f", default {p.default}"
                 text += [f"{p.name} : {p.words}{default}"]
                 text += ["    " + p.meaning] if p.meaning else []
             if self.arrays:
                 which = f"the array for `{self.arrays[0].name}`" if len(self.arrays) == 1 else (
-                    "arrays for " + ", ".join(f"`{r.name}`" for r in self.arrays) + ", each may be None")
+                    "arrays for " + ", ".join(f"`{r.name}`" for r in self.arrays) + ", or None for one to be made")
+                may = "it" if len(self.arrays) == 1 else "each"
                 text += ["out : array or None" if len(self.arrays) == 1 else "out : tuple or None",
-                         f"    {which}; an input, to work in place"]
+                         f"    {which}; {may} may be an input, to work in place"]
             text += [""]
         text += ["Returns", "-------"]
         if export.result == "status":
@@ -135,17 +145,26 @@ class Text:
             notes.append("Arrays are taken element by element, with broadcasting.")
         if self.twin:
             notes.append(f"Complex arrays go to `{self.twin}`.")
+        if self.name in choices.MANY:
+            notes.append("A `{}` of two dimensions goes to `{}`.".format(*choices.MANY[self.name]))
         notes += [remark for pattern, remark in choices.REMARKS.items() if re.fullmatch(pattern, export.name)]
         notes.append(f"The function {export.symbol} ({export.name}) of the C library.")
         text += ["Notes", "-----", " ".join(notes), ""]
         text += ["Example", "-------", f">>> {self.example()}"]
-        words = "\n".join(re.sub(r"[;,] null(:| writes| ).*", "", line) if line.startswith("    ") else line
-                          for line in text)
+        words = "\n".join(self.without_c(line) if line.startswith("    ") else line for line in text)
         words = translated(words, names, export.name)
         for a in export.arguments:
             if a.name != parameter_name(a.name):
                 words = re.sub(rf"\b{a.name}\b", parameter_name(a.name), words)
         return [piece for line in words.split("\n") for piece in self.wrapped(line)]
+
+    @staticmethod
+    def without_c(line):
+        """A meaning without what only a caller in C can do: pass null, or one array twice."""
+        line = re.sub(r"[;,] null(:| writes| ).*", "", line)
+        line = re.sub(r"; (?:written )?(?:only together|give the \w+) with .*|; give the \w+ with it", "", line)
+        line = re.sub(r"[;.] (?:it |It )?may be x( where that has room)?$", "", line)
+        return re.sub(r"\bnull\b", "None", line)
 
     @staticmethod
     def wrapped(line):
@@ -176,17 +195,26 @@ class Text:
         return f"{', '.join(names)} = {call}" if names else call
 
     def text(self, names):
-        lines = []
+        export, lines = self.export, []
         if self.has_class:
             lines += [f"class {self.result_class}(NamedTuple):", f'    """What `{self.name}` gives."""', ""]
             lines += [f"    {r.name}: {r.type.replace('NDArray', 'np.ndarray').split('[')[0]}" if "NDArray" in r.type
                       else f"    {r.name}: {r.type.replace('WindowProperties', 'rt.WindowProperties')}"
                       for r in self.results] + ["", ""]
+        body = self.body()
+        if self.elementwise:  # the work on scalars stands by itself, for a quick pass over the elements of arrays
+            assert not any(code > 0 for code, _ in export.statuses), "a warning would point a frame too low"
+            arguments = ", ".join(p.name for p in self.parameters)
+            made = f", result={self.result_class}" if self.has_class else ""
+            lines += [f"def _{self.name}({arguments}):"]
+            lines += [piece for line in body for piece in self.folded("    " + line)] + ["", ""]
+            body = [f"if rt.many({arguments}):", f"    return rt.each(_{self.name}, {arguments}{made})",
+                    f"return _{self.name}({arguments})"]
         lines.append(f"def {self.name}({self.signature()}):")
         doc = self.documentation(names)
         lines.append(f'    r"""{doc[0]}')
         lines += ["    " + line if line else "" for line in doc[1:]] + ['    """']
-        lines += [piece for line in self.body() for piece in self.folded("    " + line)]
+        lines += [piece for line in body for piece in self.folded("    " + line)]
         letters = "".join("p" if a.direction in ("in", "out", "inout", "alloc", "handle") else
                           "l" if a.direction == "size" else LETTERS[a.type] for a in self.export.arguments)
         result = "handle" if self.export.result.startswith("handle") else self.export.result

@@ -18,6 +18,9 @@ import sys
 import urllib.parse
 
 import boundary
+from python_names import function_name
+
+MANY = 60  # functions that give one status; more than that say little of it
 
 PARTS = (
     ("Frame", "status memory arrays complex"),
@@ -37,7 +40,7 @@ INDEX = """Quorvan reference
 
 Flat functions over plain arrays of doubles. Each has a number, which programs bind (``ZemFunc10``), and a readable name
 (``QvSpecPowerSpectrum``): `all numbers <numbers.html>`_ leads from one to the other, the :ref:`genindex` and the search
-know both.
+know both, and the name in Python.
 
 Sizes are signed 64-bit and must fit 32 bits; -20046 follows otherwise, and nothing is touched. A size below the minimum
 gives -20003 unless the function says otherwise. 0 is success, a positive status a warning with valid results, a negative
@@ -52,6 +55,36 @@ TYPES = """Types
 =====
 
 """
+CPP = """C++20
+=====
+
+``quorvan/quorvan.hpp`` puts a thin layer over the C functions: ``qv::call`` takes one of them with its arguments in
+order, contiguous ranges where it wants pointers and ``qv::out`` where it writes a scalar. What comes back is a
+``qv::Result``: the value, or several as a tuple, or a status below 0 with its text; ``value()`` throws ``qv::Error``
+then. Objects of the library have owners: ``qv::FftPlan``, ``qv::IirFilter``, ``qv::IirStateComplex``,
+``qv::FirNarrowband``; and ``qv::Array`` takes an array that the library allocated.
+
+.. code-block:: cpp
+
+   #include <quorvan/quorvan.hpp>
+
+   std::vector<double> x = read(), power(x.size() / 2 + 1);
+   const auto window = qv::call(QvWinApplyScaledPlain, x, x.size(), QV_WINDOW_HANNING, qv::out).value();
+   const auto df = qv::call(QvSpecPowerSpectrum, x, x.size(), 1e-3, power, qv::out);
+   if (!df) return std::puts(df.text());
+   const auto [frequency, peak] =
+       qv::call(QvSpecPeakPowerFrequency, power, x.size() / 2, -1, &window, *df, 5, qv::out, qv::out).value();
+
+   const qv::IirFilter lowpass(QvIirFilterCreate(0, 4));
+   qv::call(QvIirDesignButterworth, 1000, 100, 0, lowpass).value();
+   qv::call(QvIirCascadeApply, x, x.size(), lowpass, x).value();
+
+The room of an array is the caller's affair, as in C. Functions that give their value themselves (special functions)
+need no layer. The whole of it:
+
+.. literalinclude:: quorvan.hpp
+   :language: cpp
+"""
 TYPE_NAMES = (("type", "QvStatus"), ("struct", "QvComplex"), ("struct", "QvWindowProperties"), ("struct", "QvBand"),
               ("struct", "QvIirFilter"), ("struct", "QvIirStateComplex"), ("struct", "QvFirNarrowband"),
               ("struct", "QvFftPlan"), ("type", "QvModel"))
@@ -59,6 +92,11 @@ TYPE_NAMES = (("type", "QvStatus"), ("struct", "QvComplex"), ("struct", "QvWindo
 
 def escaped(text):
     return re.sub(r"([\\*_`|])", r"\\\1", text)
+
+
+def purpose(export):
+    """The first sentence of a function."""
+    return re.split(r"(?<=[^.A-Z ])\. ", " ".join(export.sentences), 1)[0].rstrip(".")
 
 
 class Pages:
@@ -78,10 +116,12 @@ class Pages:
         def link(match):
             word = match.group()
             bare = word.removeprefix("Qv")
+            if word in self.families:
+                return f":doc:`{word}`"
             if bare in self.names:
                 return rf":c:func:`{word} <Qv{bare}>`"
             return f":c:func:`{word}`" if word.startswith("ZemFunc") else word
-        words = re.compile(r"\b(?:ZemFunc\d+|(?:Qv)?[A-Z][a-z]+(?:[A-Z0-9][a-z0-9]*)+)\b")
+        words = re.compile(r"\b(?:[a-z]+_[a-z]+|ZemFunc\d+|(?:Qv)?[A-Z][a-z]+(?:[A-Z0-9][a-z0-9]*)+)\b")
         out, last = "", 0
         for match in words.finditer(text):
             linked = link(match)
@@ -98,6 +138,7 @@ class Pages:
         lines = [f".. c:function:: {export.c_result} Qv{export.name}({arguments})",
                  f"                {export.c_result} {export.symbol}({arguments})", ""]
         lines += ["   " + self.prose(" ".join(export.sentences)), ""]
+        lines += [f"   In Python: ``{function_name(export.name)}``.", ""]
         lines += [f"   :param {a.name}: {self.prose(a.doc)}" for a in export.arguments if a.doc]
         if export.statuses:
             lines += ["   :returns: a status:", ""]
@@ -111,7 +152,18 @@ class Pages:
 
     def family(self, family):
         ready = [e for e in family.exports if not e.planned]
-        lines = [family.title, "=" * len(family.title), "", self.prose(" ".join(family.intro)), ""]
+        lines = [family.title, "=" * len(family.title), ""]
+        for word, told in family.blocks:
+            if word == "formula":
+                lines += [".. code-block:: none", "", *(f"   {line}" for line in told), ""]
+            else:
+                lines += [self.prose(" ".join(told)), ""]
+        lines += [".. list-table::", "   :widths: 12 30 58", "   :header-rows: 1", "", "   * - number", "     - name",
+                  "     - purpose"]
+        for e in ready:
+            lines += [f"   * - :c:func:`{e.symbol}`", f"     - :c:func:`Qv{e.name}`",
+                      f"     - {self.prose(purpose(e))}"]
+        lines += [""]
         for export in ready:
             lines += [export.name, "-" * len(export.name), "", *self.function(export)]
         return lines
@@ -131,6 +183,11 @@ class Pages:
         for code, text in sorted(self.codes.items(), key=lambda row: (row[0] < 0, abs(row[0]))):
             title = str(code)
             lines += [f".. _status{code}:", "", title, "-" * len(title), "", escaped(text.replace('\\"', '"')), ""]
+            givers = [e for e in self.names.values() if any(other == code for other, _ in e.statuses)]
+            if 0 < len(givers) <= MANY:
+                lines += ["Given by " + ", ".join(f":c:func:`Qv{e.name}`" for e in givers) + ".", ""]
+            elif givers:
+                lines += [f"Given by {len(givers)} functions.", ""]
         return lines
 
     def write(self, folder):
@@ -144,13 +201,16 @@ class Pages:
         unlisted = set(self.families) - set(listed)
         if unlisted:
             raise SystemExit(f"tools/reference.py: no part for {', '.join(sorted(unlisted))}")
-        index += [".. toctree::\n   :maxdepth: 1\n   :caption: Tables\n", "   numbers", "   statuses", "   types"]
+        index += [".. toctree::\n   :maxdepth: 1\n   :caption: Tables\n",
+                  *(f"   {name}" for name in ("numbers", "statuses", "types", "cpp"))]
         page("index", index)
         page("numbers", self.numbers())
         page("statuses", self.statuses())
         page("types", [TYPES, *(f".. c:{kind}:: {name}\n" for kind, name in TYPE_NAMES),
                        "From ``quorvan/types.h``:\n", ".. literalinclude:: types.h\n   :language: c"])
-        shutil.copy(boundary.ROOT / "include" / "quorvan" / "types.h", folder)
+        page("cpp", [CPP])
+        for header in ("types.h", "quorvan.hpp"):
+            shutil.copy(boundary.ROOT / "include" / "quorvan" / header, folder)
         for family in self.families.values():
             page(family.name, self.family(family))
 
@@ -197,7 +257,9 @@ def main():
     source.mkdir(parents=True)
     shutil.copy(boundary.ROOT / "docs" / "reference" / "conf.py", source)
     Pages(boundary.read_table()).write(source)
-    subprocess.run([sys.executable, "-m", "sphinx", "-q", "-W", "--keep-going", "-b", "html", "-d",
+    print("making the pages, which takes about half a minute", flush=True)
+    quiet = [] if sys.stdout.isatty() else ["-q"]  # Sphinx shows its progress
+    subprocess.run([sys.executable, "-m", "sphinx", *quiet, "-W", "--keep-going", "-b", "html", "-d",
                     options.output / "doctrees", source, pages], check=True)
     dead = list(dead_links(pages.resolve()))
     if dead:

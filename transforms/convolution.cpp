@@ -5,6 +5,7 @@
 #include "frame/complex.h"
 #include "frame/memory.h"
 #include "frame/status.h"
+#include "transforms/block_convolution.h"
 #include "transforms/direct_convolution.h"
 #include "transforms/fft.h"
 #include "transforms/spectrum_layout.h"
@@ -39,10 +40,14 @@ void Power(const ComplexRecord* a, Count n, ComplexRecord* out) {
     for (Count k = 0; k < n; ++k) out[k] = {CxSquaredMagnitude(a[k]), 0};
 }
 
-// x as it stands, or from its end.
+// x as it stands, or from its end. In blocks when one sequence is much longer than the other.
 template <class T>
 Status ByFft(const T* x, Count n, bool reversed, const T* y, Count m, T* out) {
     const Count length = static_cast<Count>(ConvolvedLength(n, m)), S = FftFastSize(length);
+    if (const Count block = BlockLength<T>(std::max(n, m), std::min(n, m), S)) {
+        const Sequence<T> first{x, n, reversed}, second{y, m, false};
+        return n < m ? ConvolveInBlocks(second, first, block, out) : ConvolveInBlocks(first, second, block, out);
+    }
     const HeldPlan plan(S);
     const Block<T> work(3 * static_cast<std::size_t>(S));
     if (!plan || !work) return status::kOutOfMemory;

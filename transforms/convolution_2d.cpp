@@ -107,6 +107,14 @@ Status Full(Array2D<T> x, Array2D<T> y, Count R, Count C, std::uint32_t method, 
     return status::kSuccess;
 }
 
+Status Check(Count rows1, Count cols1, Count rows2, Count cols2, std::uint32_t shape, std::uint32_t method) {
+    if (rows1 < 1 || cols1 < 1 || rows2 < 1 || cols2 < 1) return status::kSamplesNotPositive;
+    if (shape > kShapeInside || method > kConvolveByFft) return status::kInvalidSelection;
+    if (shape == kShapeInside && (rows1 < rows2 || cols1 < cols2)) return status::kWrongDataCount;
+    const Size R = ConvolvedLength(rows1, rows2), C = ConvolvedLength(cols1, cols2);
+    return R > INT32_MAX || C > INT32_MAX || R * C > INT32_MAX ? status::kOverflow : status::kSuccess;
+}
+
 double Conjugate(double v) { return v; }
 ComplexRecord Conjugate(ComplexRecord v) { return CxConj(v); }
 
@@ -115,12 +123,9 @@ ComplexRecord Conjugate(ComplexRecord v) { return CxConj(v); }
 template <class T>
 Status Convolve2D(const T* x, Count rows1, Count cols1, const T* y, Count rows2, Count cols2, std::uint32_t shape,
                   std::uint32_t method, T* out) noexcept {
-    if (rows1 < 1 || cols1 < 1 || rows2 < 1 || cols2 < 1) return status::kSamplesNotPositive;
-    if (shape > kShapeInside || method > kConvolveByFft) return status::kInvalidSelection;
-    if (shape == kShapeInside && (rows1 < rows2 || cols1 < cols2)) return status::kWrongDataCount;
-    const Size wideR = ConvolvedLength(rows1, rows2), wideC = ConvolvedLength(cols1, cols2);
-    if (wideR > INT32_MAX || wideC > INT32_MAX || wideR * wideC > INT32_MAX) return status::kOverflow;
-    const Count R = static_cast<Count>(wideR), C = static_cast<Count>(wideC);
+    if (const Status failure = Check(rows1, cols1, rows2, cols2, shape, method)) return failure;
+    const Count R = static_cast<Count>(ConvolvedLength(rows1, rows2));
+    const Count C = static_cast<Count>(ConvolvedLength(cols1, cols2));
     const Array2D<T> first{x, rows1, cols1}, second{y, rows2, cols2};
     if (shape == kShapeFull) return Full(first, second, R, C, method, out);
 
@@ -140,8 +145,7 @@ Status Convolve2D(const T* x, Count rows1, Count cols1, const T* y, Count rows2,
 template <class T>
 Status Correlate2D(const T* x, Count rows1, Count cols1, const T* y, Count rows2, Count cols2, std::uint32_t method,
                    T* out) noexcept {
-    if (rows1 < 1 || cols1 < 1 || rows2 < 1 || cols2 < 1) return status::kSamplesNotPositive;
-    if (TooManyElements(rows1, cols1)) return status::kOverflow;
+    if (const Status failure = Check(rows1, cols1, rows2, cols2, kShapeFull, method)) return failure;
     const Size count = Size{rows1} * cols1;
     const Block<T> reversed(static_cast<std::size_t>(count));
     if (!reversed) return status::kOutOfMemory;

@@ -1,5 +1,6 @@
 #include "transforms/fft_plan.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <mutex>
@@ -103,75 +104,106 @@ Status MakeStages(FftPlan& plan) noexcept {
     return status::kSuccess;
 }
 
-// How many doubles the stage kernels read for all columns of a stage.
+// How many doubles the stage kernels read for all columns of a stage: blocks of full width, and one that takes the
+// rest.
 Size BlockedLength(Count f, Count m) noexcept {
-    const FftKernelTable& kernels = kFftKernels();
-    Size length = 0;
-    for (Count j = 0; j < m; j += kernels.blockWidth(m - j)) length += 2 * Size(f - 1) * kernels.blockWidth(m - j);
-    return length;
+    const auto width = kFftKernels().blockWidth;
+    const Count rest = m % width(INT32_MAX);
+    return 2 * Size(f - 1) * (Size(m) - rest + (rest ? width(rest) : 0));
 }
 
-// The twiddles once more, in the order in which the stage kernels read them.
-void FillBlockedTwiddles(FftStage& stage, Count f, Count m) noexcept {
-    const FftKernelTable& kernels = kFftKernels();
-    double* out = stage.blockedTwiddles;
-    for (Count j = 0; j < m;) {
-        const Count width = kernels.blockWidth(m - j);
-        for (Count lane = 0; lane < width; ++lane) {
-            const Count column = j + kernels.laneColumn(width, lane);
-            const Size row = Size(column - 1) * (f - 1);
-            for (Count r = 0; r < f - 1; ++r) {
-                const bool turned = column > 0 && column < m;
-                out[2 * width * r + lane] = turned ? stage.twiddleCos[row + r] : 1;
-                out[2 * width * r + width + lane] = turned ? stage.twiddleSin[row + r] : 0;
-            }
-        }
-        out += 2 * Size(f - 1) * width;
-        j += width;
+// Tables that follow each other in one block, each from a cache line of its own; from null on they are only measured.
+class TableLayout {
+public:
+    explicit TableLayout(double* start) noexcept : start_(start) {}
+    double* Take(Size length) noexcept {
+        double* table = start_ ? start_ + used_ : nullptr;
+        used_ += (length + kCacheLine - 1) / kCacheLine * kCacheLine;
+        return table;
     }
+    Size used() const noexcept { return used_; }
+
+private:
+    double* start_;
+    Size used_ = 0;
+};
+
+// How much to ask for when `used` doubles are touched. glibc gives free memory back to the system as soon as there is
+// more of it than twice the largest block that it has seen freed, of those from 128 KiB to 32 MiB: a call whose tables
+// and workspaces are of one size would lose all pages at its end, and the next one would fetch them again. So the
+// tables of transforms are the largest block by far. Pages that are not touched cost nothing.
+Size RoomyLength(Size used) noexcept {
+    constexpr Size kFew = 2048, kPad = 20480, kMost = (Size{31} << 20) / sizeof(double);
+    return used < kFew ? used : std::max(used, std::min(3 * used + kPad, kMost));
+}
+Size BareLength(Size used) noexcept { return used; }
+
+// Lays tables out in a new block of the length that `asked` gives. `place` takes a layout and puts the tables where it
+// says.
+template <class Place>
+Status AllocateTables(double*& block, Size (*asked)(Size) noexcept, Place place) noexcept {
+    TableLayout measured(nullptr);
+    place(measured);
+    if (!Allocate(block, asked(measured.used() + kCacheLine))) return status::kOutOfMemory;
+    const std::size_t past = reinterpret_cast<std::uintptr_t>(block) / sizeof(double) % kCacheLine;
+    TableLayout layout(block + (kCacheLine - past) % kCacheLine);
+    place(layout);
+    return status::kSuccess;
 }
 
-// Lays the twiddles of all stages and then the leaf positions out from `tables` on, and returns how many doubles that
-// takes. A null start lays nothing out.
-Size PlaceTables(FftPlan& plan, double* tables) noexcept {
-    Size used = 0;
-    const auto take = [&](double*& table, Size length) {
-        if (tables) table = tables + used;
-        used += (length + kCacheLine - 1) / kCacheLine * kCacheLine;
-    };
-    Count m = plan.size;
-    for (Count i = 0; i + 1 < plan.factorCount; ++i) {
-        FftStage& stage = *plan.stages[i];
-        const Count f = plan.factors[i];
-        m /= f;
-        take(stage.twiddleCos, Size(f - 1) * (m - 1));
-        take(stage.twiddleSin, Size(f - 1) * (m - 1));
-        if (plan.kinds[i] != kLargePrime) take(stage.blockedTwiddles, BlockedLength(f, m));
-    }
-    for (FftSchedule* schedule : {&plan.whole, &plan.half}) {
-        double* positions = nullptr;
-        take(positions, (Size(schedule->leaves) + 1) / 2);
-        schedule->leafPositions = reinterpret_cast<Count*>(positions);
-    }
-    return used;
+// Calls body(stage, kind, f, m) for all stages but the last, which needs no twiddles.
+template <class Body>
+void ForTurnedStages(FftPlan& plan, Body body) noexcept {
+    for (Count i = 0; i + 1 < plan.factorCount; ++i)
+        body(*plan.stages[i], plan.kinds[i], plan.factors[i], plan.columns[i]);
 }
 
+void PlaceStated(TableLayout& layout, FftStage& stage, Count f, Count m) noexcept {
+    stage.twiddleCos = layout.Take(Size(f - 1) * (m - 1));
+    stage.twiddleSin = layout.Take(Size(f - 1) * (m - 1));
+}
+void FillStated(FftStage& stage, Count f, Count m) noexcept {
+    StageTwiddles(kTwoPi / (Size(f) * m), f, m, stage.twiddleCos, stage.twiddleSin);
+}
+
+// What the transforms read: the twiddles of each stage in the one order that its routine takes them in.
 Status MakeTwiddles(FftPlan& plan) noexcept {
-    // One block, and a quarter more than is touched: glibc gives free memory back to the system beyond twice the
-    // largest block that it has seen. With many blocks, or a workspace as large as the plan beside it, it would do so
-    // after every call, and the next call would fetch all pages again.
-    const Size used = PlaceTables(plan, nullptr);
-    if (!Allocate(plan.tables, used + used / 4 + kCacheLine)) return status::kOutOfMemory;
-    const std::size_t past = reinterpret_cast<std::uintptr_t>(plan.tables) / sizeof(double) % kCacheLine;
-    PlaceTables(plan, plan.tables + (kCacheLine - past) % kCacheLine);
-    Count length = plan.size;
-    for (Count i = 0; i + 1 < plan.factorCount; ++i) {
-        FftStage& stage = *plan.stages[i];
-        const Count f = plan.factors[i], m = length / f;
-        StageTwiddles(kTwoPi / length, f, m - 1, stage.twiddleCos, stage.twiddleSin);
-        if (stage.blockedTwiddles) FillBlockedTwiddles(stage, f, m);
-        length = m;
-    }
+    const Status status = AllocateTables(plan.tables, RoomyLength, [&plan](TableLayout& layout) {
+        ForTurnedStages(plan, [&](FftStage& stage, Count kind, Count f, Count m) {
+            if (kind == kLargePrime)
+                PlaceStated(layout, stage, f, m);
+            else
+                stage.blockedTwiddles = layout.Take(BlockedLength(f, m));
+        });
+        for (FftSchedule* schedule : {&plan.whole, &plan.half})
+            schedule->leafPositions = reinterpret_cast<Count*>(layout.Take((Size(schedule->leaves) + 1) / 2));
+    });
+    if (status < 0) return status;
+    ForTurnedStages(plan, [](FftStage& stage, Count kind, Count f, Count m) {
+        if (kind == kLargePrime)
+            FillStated(stage, f, m);
+        else
+            BlockedTwiddles(kTwoPi / (Size(f) * m), f, m, stage.blockedTwiddles);
+    });
+    return status::kSuccess;
+}
+
+// The twiddles in the plain order where only the blocked one stands, here and in the plans of large primes.
+Status StateTwiddles(FftPlan& plan) noexcept {
+    for (Count i = 0; i < plan.factorCount; ++i)
+        if (plan.stages[i]->raderPlan)
+            if (const Status status = StateTwiddles(*plan.stages[i]->raderPlan); status < 0) return status;
+    if (plan.statedTables) return status::kSuccess;
+    const auto forBlocked = [&plan](auto body) {
+        ForTurnedStages(plan, [body](FftStage& stage, Count kind, Count f, Count m) {
+            if (kind != kLargePrime) body(stage, f, m);
+        });
+    };
+    const Status status = AllocateTables(plan.statedTables, BareLength, [&](TableLayout& layout) {
+        forBlocked([&](FftStage& stage, Count f, Count m) { PlaceStated(layout, stage, f, m); });
+    });
+    if (status < 0) return status;
+    forBlocked(FillStated);
     return status::kSuccess;
 }
 
@@ -325,6 +357,7 @@ void Free(FftPlan* plan) noexcept {
         HeapFree(stage);
     }
     HeapFree(plan->tables);
+    HeapFree(plan->statedTables);
     HeapFree(plan);
 }
 
@@ -372,6 +405,14 @@ void ReleaseUnlocked(FftPlan* plan) noexcept {
 FftPlan* FftPlanCreate(Count size) noexcept {
     const std::lock_guard lock(PlanMutex());
     return CreateUnlocked(size);
+}
+
+FftPlan* FftPlanCreateStated(Count size) noexcept {
+    const std::lock_guard lock(PlanMutex());
+    FftPlan* plan = CreateUnlocked(size);
+    if (!plan || StateTwiddles(*plan) == status::kSuccess) return plan;
+    ReleaseUnlocked(plan);
+    return nullptr;
 }
 
 void FftPlanRelease(FftPlan* plan) noexcept {

@@ -9,6 +9,9 @@ struct FftPlan;
 
 // The plan of this size with one more reference, or null when the size is below 1 or memory ran out. Locks.
 FftPlan* FftPlanCreate(Count size) noexcept;
+// The same with the twiddles in their plain order too, which no transform reads and whoever holds a plan may. A plan
+// that lives already gets them now: other threads may be transforming by it, but they do not look there.
+FftPlan* FftPlanCreateStated(Count size) noexcept;
 // Drops a reference; the last one frees the plan. Null is ignored. Locks.
 void FftPlanRelease(FftPlan* plan) noexcept;
 

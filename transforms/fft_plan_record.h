@@ -12,7 +12,7 @@ struct FftStage {
     double* primeCos;
     double* primeSin;
     // All stages but the last: W(r, j) = exp(-2 pi i r j / n[i]) at (j - 1)(f - 1) + (r - 1), r = 1 to f - 1, j = 1 to
-    // m - 1.
+    // m - 1. Of kernel factors and generic primes only in plans that a caller holds.
     double* twiddleCos;
     double* twiddleSin;
     // Large primes: the plan of f - 1, the transformed sequence of the convolution, and the index tables.
@@ -25,8 +25,8 @@ struct FftStage {
     // which the convolution runs zero-padded, and the spectrum of its sequence there, as records.
     FftPlan* paddedPlan;
     double* paddedSpectrum;
-    // A copy of the twiddles in the order in which the stage kernels take their blocks of columns, column 0 included:
-    // for each block, for each r, the cosines of its lanes and then the sines.
+    // Kernel factors and generic primes: the same twiddles in the order in which the stage kernels take their blocks of
+    // columns, column 0 included: for each block, for each r, the cosines of its lanes and then the sines.
     double* blockedTwiddles;
 };
 
@@ -75,8 +75,9 @@ struct FftPlan {
     // For an even first factor.
     SpectrumLeafKernel spectrumLeaf;
     SpectrumStageKernel spectrumStage;
-    // The block that all twiddles and the leaf positions stand in.
+    // The block that the twiddles of the transforms and the leaf positions stand in, and that of the other order.
     double* tables;
+    double* statedTables;
 };
 
 }  // namespace quorvan

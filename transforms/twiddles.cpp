@@ -23,33 +23,45 @@ void UnitCircle(double angle, bool startTurned, Count count, double* cosines, do
     }
 }
 
-void StageTwiddles(double theta, Count f, Count rows, double* cosines, double* sines) noexcept {
-    constexpr Count kMaxColumns = 64;  // the recurrences of this many r run side by side
-    double versine[kMaxColumns], sine[kMaxColumns];
-    const Count width = f - 1;
-    if (width > kMaxColumns) {  // a large prime factor: column by column
-        for (Count r = 1; r <= width; ++r) {
+namespace {
+
+// The rotations of r = 1 to f - 1, and any that fill the last register.
+struct Rotations {
+    alignas(64) double versine[kTwiddleRoom] = {}, sine[kTwiddleRoom] = {};
+    Rotations(double theta, Count f) noexcept {
+        for (Count r = 1; r < f; ++r) {
             const Rotation turn(r * theta);
-            const double d = turn.versine, t = turn.sine;
-            double c = 1 - d, w = -t;
-            for (Size j = 0; j < rows; ++j) {
-                cosines[j * width + r - 1] = c;
-                sines[j * width + r - 1] = w;
-                const double next = c - (c * d + (-t) * w);
-                w = w - (w * d - (-t) * c);
-                c = next;
-            }
+            versine[r - 1] = turn.versine;
+            sine[r - 1] = turn.sine;
         }
-        return;
     }
+};
+
+}  // namespace
+
+void StageTwiddles(double theta, Count f, Count m, double* cosines, double* sines) noexcept {
+    if (f <= kMaxBlockedFactor) {
+        const Rotations turns(theta, f);
+        return kTwiddleLoops().rows(turns.versine, turns.sine, f - 1, m, cosines, sines);
+    }
+    const Count width = f - 1;
     for (Count r = 1; r <= width; ++r) {
         const Rotation turn(r * theta);
-        versine[r - 1] = turn.versine;
-        sine[r - 1] = turn.sine;
-        cosines[r - 1] = 1 - turn.versine;
-        sines[r - 1] = -turn.sine;
+        const double d = turn.versine, t = turn.sine;
+        double c = 1 - d, w = -t;
+        for (Size j = 0; j < m - 1; ++j) {
+            cosines[j * width + r - 1] = c;
+            sines[j * width + r - 1] = w;
+            const double next = c - (c * d + (-t) * w);
+            w = w - (w * d - (-t) * c);
+            c = next;
+        }
     }
-    kTwiddleLoops().advance(cosines, sines, width, rows, versine, sine);
+}
+
+void BlockedTwiddles(double theta, Count f, Count m, double* out) noexcept {
+    const Rotations turns(theta, f);
+    kTwiddleLoops().blocked(turns.versine, turns.sine, f - 1, m, out);
 }
 
 }  // namespace quorvan

@@ -19,13 +19,24 @@ struct Rotation {
 // `count` points, each turned by one more `angle`: the first one is (1, 0), or (1, 0) turned once.
 void UnitCircle(double angle, bool startTurned, Count count, double* cosines, double* sines) noexcept;
 
-// The twiddles of a stage: row j of `rows` holds W(r, j + 1) for r = 1 to f - 1, theta = 2 pi / (f m).
-void StageTwiddles(double theta, Count f, Count rows, double* cosines, double* sines) noexcept;
+// The twiddles of a stage of f blocks of length m, theta = 2 pi / (f m): row j of m - 1 holds W(r, j + 1) for r = 1 to
+// f - 1.
+void StageTwiddles(double theta, Count f, Count m, double* cosines, double* sines) noexcept;
+
+// The same for f up to kMaxBlockedFactor, column 0 included, in the order in which the stage kernels take their blocks
+// of columns: for each block, for each r, the cosines of its lanes and then the sines. Lanes beyond column m - 1 go on
+// turning.
+inline constexpr Count kMaxBlockedFactor = 50;
+void BlockedTwiddles(double theta, Count f, Count m, double* out) noexcept;
 
 struct TwiddleLoops {
-    // Fills rows 1 to rows - 1 from the row before each, `count` entries a row.
-    void (*advance)(double* cosines, double* sines, Count count, Count rows, const double* versine, const double* sine);
+    // From the rotations of r = 1 to `count`, in arrays of kTwiddleRoom.
+    void (*rows)(const double* versine, const double* sine, Count count, Count m, double* cosines, double* sines);
+    void (*blocked)(const double* versine, const double* sine, Count count, Count m, double* out);
 };
 QV_DECLARE_TARGETS(TwiddleLoops, kTwiddleLoops)
+
+// kMaxBlockedFactor - 1 rotations in whole registers of the widest instruction set.
+inline constexpr Count kTwiddleRoom = 56;
 
 }  // namespace quorvan

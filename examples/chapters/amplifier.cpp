@@ -82,6 +82,8 @@ void Amplifier() {
     row("third harmonic, amplitude", samples.amplitude[2], spectrum.amplitude[2], truth.amplitude[2], "Vpk");
     row("distortion", samples.harmonics, spectrum.harmonics, truth.harmonics, "%");
     std::printf("  %-32s %12.6g %12s %12.6g  %%\n", "distortion and noise", samples.all, "", truth.all);
+    std::printf(
+        "\n  The spectrum has no reading of it: the tone lies between two bins, and its leakage would count.\n");
 }
 
 }  // namespace tour

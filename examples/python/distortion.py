@@ -17,3 +17,4 @@ print("harmonic   frequency   amplitude       truth")
 for k, (freq, amp, wanted) in enumerate(zip(tone.freq, tone.amp, truth), 1):
     print(f"{k:8d} {freq:11.3f} {amp:11.8f} {wanted:11.8f}")
 print(f"distortion {tone.thd:.6f} %, truth {100 * math.hypot(*truth[1:]) / truth[0]:.6f} %")
+print(f"distortion and noise {tone.thd_plus_noise:.6f} %")

@@ -15,11 +15,21 @@ extern "C" {
 
 /** @defgroup arrays Array primitives
  * Operations on arrays of doubles: filling, moving, arithmetic, sums, extremes, scaling and sorting.
+ *
+ *     out[i] = x[i] op y[i]                        op: + - * /
+ *     scaled      out[i] = (x[i] - (max + min) / 2) / ((max - min) / 2)       in [-1, 1]
+ *     normalised  out[i] = (x[i] - mean) / deviation,   deviation = sqrt(sum (x[i] - mean)^2 / n)
+ *     linear      out[i] = a x[i] + b
+ *     polynomial  out[i] = sum over j of coef[j] x[i]^j
+ *
  * A 2-D array is row-major without gaps; its functions run over rows * cols elements, a count that is formed in 32
  * bits and wraps: 65536 rows of 65537 columns are 65536 elements, and a count that wraps below 1 is refused.
+ *
  * An output may be the same array as an input. Other overlaps work only where elements are just moved: in ArrCopy,
  * ArrSubset and ArrShift.
- * NaN and infinity pass through arithmetic; searches ignore NaN. On an error nothing is written, except in ArrDivide.
+ *
+ * NaN and infinity pass through arithmetic; searches ignore NaN. On an error nothing is written, except in
+ * ArrDivide.
  * @{
  */
 
@@ -503,9 +513,19 @@ QV_API QvStatus ZemFunc30(double* x, int64_t n, double upper, double lower, doub
 /** @} */
 
 /** @defgroup bessel Bessel, Airy, Struve and Kelvin functions
- * Functions of a real argument, returned as the value itself or written to the caller's doubles: there is no status.
- * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN in every result.
- * The accuracy, region by region, stands in docs/accuracy.md.
+ * Solutions of Bessel's, Airy's, Struve's and Kelvin's equations for real arguments: fields in cylinders and
+ * spheres, modulation, diffraction, the skin effect.
+ *
+ *     J, Y    x^2 y" + x y' + (x^2 - v^2) y = 0
+ *     I, K    x^2 y" + x y' - (x^2 + v^2) y = 0
+ *     j, y    spherical: sqrt(pi / (2 x)) J(n + 1/2, x),  sqrt(pi / (2 x)) Y(n + 1/2, x)
+ *     H       x^2 y" + x y' + (x^2 - v^2) y = 4 (x/2)^(v + 1) / (sqrt(pi) Gamma(v + 1/2))
+ *     Ai, Bi  y" = x y
+ *     ber(x) + i bei(x) = J(n, x e^(3 pi i / 4)),    ker(x) + i kei(x) = e^(-n pi i / 2) K(n, x e^(pi i / 4))
+ *
+ * Values are returned as such or written to the caller's doubles: there is no status. A domain fault gives NaN or
+ * the infinity that the function's text names; a NaN argument gives NaN in every result. Arguments in radians. The
+ * accuracy, region by region, stands in docs/accuracy.md.
  * @{
  */
 
@@ -619,8 +639,14 @@ QV_API void ZemFunc334(double x, uint32_t n, QvComplex* out);
 /** @defgroup complex Complex arithmetic
  * Complex numbers as pairs of doubles, real part first: arguments by value, results by address. Complex arrays are
  * split: one array of real parts, one of imaginary parts.
+ *
+ *     (a + bi)(c + di) = (a c - b d) + (b c + a d) i
+ *     magnitude = sqrt(re^2 + im^2),  phase = atan2(im, re) in radians, in [-pi, pi]
+ *     sqrt, log and powers are those of the principal branch, cut along the negative real axis
+ *
  * A scalar function writes both parts of its result, or neither on an error. Each operation has its own convention
  * for zero arguments. Squared magnitudes are formed as they stand, and overflow to infinity.
+ *
  * An output array may be any of the input arrays, also crosswise: every element is read whole before it is written.
  * @{
  */
@@ -890,12 +916,20 @@ QV_API QvStatus ZemFunc43(double* re, double* im, int64_t n, double aRe, double 
 /** @} */
 
 /** @defgroup convolution Convolution and correlation
- * Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is the
- * convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
- * Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions without
- * a method use transforms. Outputs must not overlap inputs.
- * Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2 biased (all
- * divided by the longer length).
+ * What a linear system does to a signal, how alike two signals are at every shift, and the way back from a response
+ * to its cause.
+ *
+ *     convolution    (x * y)[l] = sum over i of x[i] y[l - i],                       l = 0 to n + m - 2
+ *     correlation    r[n - 1 + l] = sum over i of conj(x[i]) y[i + l],               l = -(n - 1) to m - 1
+ *     deconvolution  x * h = y solved for h
+ *
+ * The full result has n + m - 1 elements; lag 0 of a correlation stands at index n - 1. A positive lag means that y
+ * comes later than x. Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast
+ * length, or of blocks of the longer sequence where that is faster; functions without a method use transforms. Outputs
+ * must not overlap inputs.
+ *
+ * Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2 biased
+ * (all divided by the longer length).
  * @{
  */
 
@@ -955,7 +989,7 @@ QV_API QvStatus ZemFunc391(const QvComplex* x, int64_t n, const QvComplex* y, in
 /**
  * CorrelateReal.
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
- * If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * If x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -972,7 +1006,7 @@ QV_API QvStatus ZemFunc33(const double* x, int64_t n, const double* y, int64_t m
  * CorrelateRealBy (CorrelateReal).
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
  * A method other than 0 and 1 does nothing and succeeds.
- * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -990,7 +1024,7 @@ QV_API QvStatus ZemFunc373(const double* x, int64_t n, const double* y, int64_t 
  * CorrelateRealNormalised (CorrelateReal).
  * The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
  * A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a failure.
- * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+ * With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
  * @param x read, [n]: the first sequence
  * @param n its length
  * @param y read, [m]: the second sequence
@@ -1203,9 +1237,19 @@ QV_API QvStatus ZemFunc427(const QvComplex* x, int64_t rows, int64_t cols, QvCom
 /** @} */
 
 /** @defgroup decompositions Matrix decompositions
- * Singular values, LU, Cholesky, QR in several methods, Hessenberg form and balancing, for real and complex matrices.
- * A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied before they are worked on: an output
- * may be the input itself. On an error the outputs stay as they are.
+ * A matrix as a product of simpler ones: for solving, for rank and condition, as the first step towards
+ * eigenvalues.
+ *
+ *     singular values  A = U diag(s) V^H     s descending, at least 0; one vector a column of U and of V
+ *     LU               P A = L U             L unit lower, U upper triangular, rows exchanged
+ *     Cholesky         A = R^H R             R upper triangular with a positive diagonal
+ *     QR               A = Q R, A P = Q R    Q^H Q = 1, R upper triangular, columns exchanged by P
+ *     Hessenberg       A = Q H Q^H           H zero below its first subdiagonal
+ *     balancing        B = D^-1 P^-1 A P D   P a permutation, D diagonal with powers of two
+ *
+ * Real and complex matrices; ^H is the transpose of real ones, the conjugate transpose of complex ones. V itself is
+ * returned, not its transpose. A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied
+ * before they are worked on: an output may be the input itself. On an error the outputs stay as they are.
  * @{
  */
 
@@ -1591,10 +1635,21 @@ QV_API QvStatus ZemFunc251(QvComplex* v, int64_t n, uint32_t job, uint32_t side,
 /** @} */
 
 /** @defgroup direct_filters Direct-form and smoothing filters
- * Filters that take plain coefficient arrays. The transfer function of the direct form is
- * (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the
- * state: the last nb - 1 inputs and the last na - 1 outputs, the oldest first. Zeros start from rest; handing the same
- * arrays back continues a stream, and a stream may be cut anywhere.
+ * Filters that take plain coefficient arrays: difference equations, smoothing by local polynomials, running
+ * medians.
+ *
+ *     a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - a[2] y[t - 2] - ...
+ *     H(z) = (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...)
+ *
+ * Coefficients stand in ascending delay, those of the feedback with the sign of the denominator; a[0] is a true
+ * divisor and need not be 1. The caller holds the state: the last nb - 1 inputs and the last na - 1 outputs, the
+ * oldest first. Zeros start from rest; handing the same arrays back continues a stream, and a stream may be cut
+ * anywhere.
+ *
+ *     Savitzky-Golay  y[t] = p(0), p the polynomial of least squares through x[t - side] ... x[t + side]
+ *     median          y[t] = median of x[t - leftRank] ... x[t + rightRank]
+ *
+ * Savitzky-Golay filters and symmetric medians do not delay the signal.
  * @{
  */
 
@@ -1773,10 +1828,22 @@ QV_API QvStatus ZemFunc407(const double* x, int64_t n, int32_t leftRank, int32_t
 /** @} */
 
 /** @defgroup distributions Probability distributions
- * The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The normal pair
- * are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions bisect with a fixed
- * tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical values, not for digits.
- * After a status the output is as it was, except where NaN is told. A NaN probability gives -20053.
+ * Probabilities and critical values of tests: the error function, and the normal, Student's t, chi-square and F
+ * distributions with their inverses.
+ *
+ *     erf(x)        2 / sqrt(pi) integral of exp(-t^2) from 0 to x,     erfc(x) = 1 - erf(x)
+ *     normal        P(x) = integral of exp(-t^2 / 2) / sqrt(2 pi) from -infinity to x
+ *     Student's t   1 - I_w(k/2, 1/2) / 2 for t >= 0,                   w = k / (k + t^2)
+ *     chi-square    P(k/2, x/2), the regularised incomplete gamma function
+ *     F             I_w(k1/2, k2/2),                                    w = k1 x / (k2 + k1 x)
+ *
+ * All are lower tails, the probability of a value at or below the argument; I is the regularised incomplete beta
+ * function and k counts degrees of freedom. An inverse takes a probability and gives the quantile.
+ *
+ * The normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions
+ * bisect with a fixed tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical
+ * values, not for digits. After a status the output is as it was, except where NaN is told. A NaN probability gives
+ * -20053.
  * @{
  */
 
@@ -1897,12 +1964,20 @@ QV_API QvStatus ZemFunc104(double p, int32_t dof1, int32_t dof2, double* out);
 /** @} */
 
 /** @defgroup eigenproblems Eigenproblems
- * Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
- * eigenvalues in a chosen order along the diagonal.
- * Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it. Inputs are
- * copied before they are worked on. On an error the outputs stay as they are.
- * Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal ones keep
- * their places.
+ * Modes, stability and resonances: eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the
+ * Schur forms behind them with the eigenvalues in a chosen order along the diagonal.
+ *
+ *     eigenvalues              A v = lambda v
+ *     generalised              A v = lambda B v,     lambda = alpha / beta
+ *     Schur form               A = Q T Q^H,          T upper triangular; real: with 2 x 2 blocks for conjugate pairs
+ *     generalised Schur form   A = Q S Z^H,  B = Q T Z^H
+ *
+ * Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it: to a
+ * Euclidean length of 1, those of a pair of matrices to a largest |re| + |im| of 1. Inputs are copied before they
+ * are worked on. On an error the outputs stay as they are.
+ *
+ * Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal ones
+ * keep their places.
  * @{
  */
 
@@ -2113,10 +2188,21 @@ QV_API QvStatus ZemFunc257(const QvComplex* a, const QvComplex* b, int64_t n, ui
 /** @} */
 
 /** @defgroup elliptic Elliptic, hypergeometric and integral functions
- * Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is no status.
- * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN, in every output.
- * The elliptic functions take the parameter m = k^2, not the modulus k. The hypergeometric functions take x before the
- * parameters. Where an argument goes by address, a null pointer selects the complete integral; the address of 0.0 does not.
+ * Arc lengths, pendulums and filter theory (elliptic), asymptotic and special solutions (hypergeometric),
+ * diffraction, transients and antennas (integrals), of real arguments.
+ *
+ *     F(phi, m) = integral of dt / sqrt(1 - m sin^2 t) from 0 to phi,      K(m) = F(pi/2, m)
+ *     E(phi, m) = integral of sqrt(1 - m sin^2 t) dt from 0 to phi,        E(m) = E(pi/2, m)
+ *     sn u = sin phi, cn u = cos phi, dn u = sqrt(1 - m sin^2 phi),        where F(phi, m) = u
+ *     C(x) = integral of cos(pi t^2 / 2) from 0 to x,   S(x) = integral of sin(pi t^2 / 2)
+ *     1F1(a; b; x) = sum of (a)_k / (b)_k x^k / k!,     2F1(a, b; c; x) = sum of (a)_k (b)_k / (c)_k x^k / k!
+ *
+ * The elliptic functions take the parameter m = k^2, not the modulus k; angles in radians. The hypergeometric
+ * functions take x before the parameters; (a)_k = a (a + 1) ... (a + k - 1). Where an argument goes by address, a
+ * null pointer selects the complete integral; the address of 0.0 does not.
+ *
+ * Values are returned as such or written to the caller's doubles: there is no status. A domain fault gives NaN or
+ * the infinity that the function's text names; a NaN argument gives NaN, in every output.
  * @{
  */
 
@@ -2293,15 +2379,24 @@ QV_API double ZemFunc327(double x, double v);
 /** @} */
 
 /** @defgroup filter_objects Filter objects and the cascade engine
- * A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay lines of
- * its stages behind it in the same block of memory. It is created, designed (see the designs of the family below), and
- * then applied to any number of blocks: the delay lines carry over, and a signal that is cut into blocks comes out as
- * it would in one piece, to the last bit. MemoryRelease gives the object back.
- * A stage with the coefficients a and b and the delay line d turns the sample v into
- * v' = t b[0] + b[1] d[0] + b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line
- * (direct form II; sums from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude
- * is 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals.
- * An object belongs to one thread at a time.
+ * Recursive filters for streams: an object keeps the coefficients and the delay lines of its stages, and a signal
+ * that is cut into blocks comes out as it would in one piece, to the last bit.
+ *
+ *     H(z) = product over the stages of (b[0] + b[1] z^-1 + ... + b[w] z^-w) / (1 + a[0] z^-1 + ... + a[w - 1] z^-w)
+ *     t  = v - a[0] d[0] - a[1] d[1] - ... - a[w - 1] d[w - 1]
+ *     v' = t b[0] + b[1] d[0] + b[2] d[1] + ... + b[w] d[w - 1]
+ *     d[1 ...] = d[0 ...],  d[0] = t
+ *
+ * Each sample v goes through a stage with the coefficients a and b and the delay line d in this way (direct form
+ * II; sums from the left) and v' into the next stage. The width w is 2 for lowpass and highpass, 4 for bandpass and
+ * bandstop, and there are (order + 1) / 2 stages. The leading 1 of the denominator is not stored; signs are those
+ * of the denominator. The caller may read the record: stage s has its a at s w, its b at s (w + 1), its d at s w
+ * with the newest value first.
+ *
+ * A filter is created, designed (see iir_design), and then applied to any number of blocks; MemoryRelease gives the
+ * object back. What enters a delay line or leaves the last stage becomes 0 where its magnitude is
+ * 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals. An object
+ * belongs to one thread at a time.
  * @{
  */
 
@@ -2373,13 +2468,20 @@ QV_API QvStatus ZemFunc466(const QvComplex* x, int64_t n, QvIirFilter* filter, Q
 /** @} */
 
 /** @defgroup fir_equiripple Equiripple FIR design
- * Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the Remez
- * exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner, IEEE Trans.
- * Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs.
- * Multiband filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error
- * reaches plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written.
- * A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
- * Statuses are tested in the order in which they are listed.
+ * Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the
+ * Remez exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner,
+ * IEEE Trans. Audio Electroacoust. 21, 1973).
+ *
+ *     H(f) = sum over i of h[i] exp(-2 pi i f i / fs)
+ *     multiband                    h[i] =  h[taps - 1 - i],   minimises max W(f) | |H(f)| - D(f) |
+ *     differentiator, Hilbert      h[i] = -h[taps - 1 - i]
+ *
+ * Frequencies are in the unit of the sampling rate fs; D and W are the desired value and the weight of each band.
+ * The delay is (taps - 1)/2 samples. The weighted error reaches plus and minus delta in turn; in a band its size is
+ * delta / weight, a ripple of 20 lg(1 + delta / weight) dB. After an error h is not written.
+ *
+ * A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99
+ * passes. Statuses are tested in the order in which they are listed.
  * @{
  */
 
@@ -2455,6 +2557,7 @@ QV_API QvStatus ZemFunc408(int32_t taps, double fs, const QvBand* bands, int64_t
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  * @code
@@ -2478,6 +2581,7 @@ QV_API QvStatus ZemFunc69(double fs, double fpass, double fstop, int32_t taps, d
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20033 taps is even: the response would be 0 at fs/2
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
@@ -2501,6 +2605,7 @@ QV_API QvStatus ZemFunc68(double fs, double fstop, double fpass, int32_t taps, d
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2523,6 +2628,7 @@ QV_API QvStatus ZemFunc66(double fs, double f1, double f2, double f3, double f4,
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20033 taps is even: the response would be 0 at fs/2
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
@@ -2547,6 +2653,7 @@ QV_API QvStatus ZemFunc67(double fs, double f1, double f2, double f3, double f4,
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2571,6 +2678,7 @@ QV_API QvStatus ZemFunc472(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2596,6 +2704,7 @@ QV_API QvStatus ZemFunc473(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2622,6 +2731,7 @@ QV_API QvStatus ZemFunc474(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2645,6 +2755,7 @@ QV_API QvStatus ZemFunc475(const double* x, int64_t n, int32_t taps, double fs, 
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2669,6 +2780,7 @@ QV_API QvStatus ZemFunc476(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2694,6 +2806,7 @@ QV_API QvStatus ZemFunc477(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2720,6 +2833,7 @@ QV_API QvStatus ZemFunc478(const QvComplex* x, int64_t n, int32_t taps, double f
  * @retval -20023 fs is not above 0
  * @retval -20031 an edge is not finite
  * @retval -20023 an edge is negative, or the edges do not ascend from 0 to fs/2
+ * @retval -20020 fs is so small (below 4.5e-308) that its half rounds up
  * @retval -20001 the design would have more than 2045 functions, or memory is exhausted
  * @retval -20031 the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice; delta then tells the error so far
  */
@@ -2731,10 +2845,15 @@ QV_API QvStatus ZemFunc479(const QvComplex* x, int64_t n, int32_t taps, double f
 /** @defgroup fir_narrowband Narrowband FIR design
  * Filters with a very narrow transition, as two stages with few multiplications: a model filter whose taps stand
  * `factor` samples apart, and an image suppressor that removes the copies of its response (Y. Neuvo, Dong C.-Y. and
- * S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984). The factor with the least sum of Kaiser's order
- * estimates is taken; where none gains, a single filter is designed. Both stages are equiripple and each spends at most
- * half of the deviation, so that the cascade stays within it. Bands beyond fs/4 are mirrored, or designed as the
- * complement, whose output is added to the delayed input.
+ * S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984).
+ *
+ *     H(z) = G(z^factor) S(z),     G the model, S the suppressor
+ *
+ * The factor with the least sum of Kaiser's order estimates is taken; where none gains, a single filter is
+ * designed. Both stages are equiripple and each spends at most half of the deviation, so that the cascade stays
+ * within it. Bands beyond fs/4 are mirrored, or designed as the complement, whose output is added to the delayed
+ * input. Frequencies are in the unit of the sampling rate fs. Taps are symmetric, in ascending delay.
+ *
  * The record belongs to the caller, between FirNarrowbandCreate and FirNarrowbandRelease, and takes one design.
  * @{
  */
@@ -2811,14 +2930,21 @@ QV_API QvStatus ZemFunc411(const QvComplex* x, int64_t n, QvFirNarrowband* filte
 /** @} */
 
 /** @defgroup fir_windows FIR design by window
- * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3), cut
- * to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer, Discrete-Time
- * Signal Processing, chapter 7). With t = i - (taps - 1)/2 and w = 2 pi f/fs the lowpass is sin(w t)/(pi t), the
- * bandpass the difference of two lowpasses; highpass and bandstop are a unit pulse less these. The passband is not
- * scaled to a gain of exactly 1.
- * Frequencies are in the unit of the sampling rate fs. Taps are symmetric about the middle; the delay is (taps - 1)/2.
- * After an error h is undefined. The filters write the whole convolution, with both transients, and y must not overlap
- * x. Statuses are tested in the order in which they are listed.
+ * Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop (3),
+ * cut to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer,
+ * Discrete-Time Signal Processing, chapter 7).
+ *
+ *     t = i - (taps - 1)/2,   W = 2 pi f / fs
+ *     lowpass    h[i] = w[i] sin(W t) / (pi t),                 W / pi at t = 0
+ *     highpass   h[i] = w[i] (delta(t) - sin(W t) / (pi t))
+ *     bandpass   h[i] = w[i] (sin(Wh t) - sin(Wl t)) / (pi t)
+ *     bandstop   h[i] = w[i] (delta(t) - (sin(Wh t) - sin(Wl t)) / (pi t))
+ *     y[l] = sum over i of h[i] x[l - i]
+ *
+ * The passband is not scaled to a gain of exactly 1; at the cutoffs the gain is near 1/2. Frequencies are in the
+ * unit of the sampling rate fs. Taps are symmetric about the middle, in ascending delay; the delay is (taps - 1)/2.
+ * After an error h is undefined. The filters write the whole convolution, with both transients, and y must not
+ * overlap x. Statuses are tested in the order in which they are listed.
  * @{
  */
 
@@ -3248,12 +3374,18 @@ QV_API QvStatus ZemFunc489(const QvComplex* x, int64_t n, int32_t taps, double f
 /** @} */
 
 /** @defgroup fit_bounds Fit bounds, goodness of fit and sample removal
- * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients come
- * in as arguments; three numbers for its goodness; and the removal of samples before it.
- * A confidence band (type 0) is where the mean response lies with the given probability, a prediction band (type 1)
- * where a new observation does. Both come from the linearised model: with J the derivatives, G = (sum of |w| J' J)^+,
- * s^2 = sum of |w| (f - y)^2 / (n - p) and t the quantile of Student's distribution with n - p degrees of freedom, the
- * half-width is t s sqrt(J G J'), for a new observation t s sqrt(J G J' + 1/|w|).
+ * What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose coefficients
+ * come in as arguments; three numbers for its goodness; and the removal of samples before it.
+ *
+ *     G   = (sum of |w| J J')^+,     J the column of derivatives of the model by its p coefficients
+ *     s^2 = sum of |w| (f - y)^2 / (n - p)
+ *     confidence (type 0)   f +- t s sqrt(J' G J)
+ *     prediction (type 1)   f +- t s sqrt(J' G J + 1/|w|)
+ *     goodness              sse = sum of w (y - f)^2,  R^2 = 1 - sse / sum of w (y - mean)^2,  rmse = sqrt(sse / dof)
+ *
+ * A confidence band is where the mean response lies with the given probability, a prediction band where a new
+ * observation does. Both come from the linearised model; t is the quantile of Student's distribution with n - p
+ * degrees of freedom for a probability of (1 + level)/2.
  * @{
  */
 
@@ -3466,9 +3598,19 @@ QV_API QvStatus ZemFunc296(double* x, double* y, double* weights, int64_t* n, co
 /** @} */
 
 /** @defgroup gamma Gamma, beta and related functions
- * Scalar functions of real arguments, returned as the value itself: there is no status.
- * A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN.
- * Where an argument goes by address, a null pointer selects the complete function; the address of 0.0 does not.
+ * Factorials and their continuations, the incomplete functions behind the distributions, and two sums of number
+ * theory.
+ *
+ *     Gamma(x) = integral of t^(x - 1) e^-t from 0 to infinity,     n! = Gamma(n + 1)
+ *     P(a, x) = integral of t^(a - 1) e^-t from 0 to x / Gamma(a),  Q = 1 - P
+ *     B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b)
+ *     I_x(a, b) = integral of t^(a - 1) (1 - t)^(b - 1) from 0 to x / B(a, b)
+ *     psi(x) = Gamma'(x) / Gamma(x),   zeta(x) - 1 = sum of k^-x from k = 2 on
+ *     dilogarithm = integral of -ln t / (t - 1) from 1 to x = Li2(1 - x)
+ *
+ * Scalar functions of real arguments, returned as the value itself: there is no status. A domain fault gives NaN or
+ * the infinity that the function's text names; a NaN argument gives NaN. Where an argument goes by address, a null
+ * pointer selects the complete function; the address of 0.0 does not.
  * @{
  */
 
@@ -3572,10 +3714,20 @@ QV_API double ZemFunc329(double x);
 /** @} */
 
 /** @defgroup generators Waveform generators
- * Each fills an array of n samples with a deterministic signal and keeps no state of its own.
+ * Test signals: each fills an array of n samples with a deterministic waveform and keeps no state of its own.
+ *
+ *     sine       amp sin(2 pi freq i + phase)
+ *     chirp      amp sin((i (f2 - f1) pi / n + 2 pi f1) i)        from f1 to f2
+ *     ramp       first + i (last - first) / (n - 1)
+ *     sinc       amp sin(pi t) / (pi t)                            t = i dt - delay
+ *     Gaussian modulated sine   amp exp(a u^2) cos(2 u)    u = pi centre t,  a = -5 bandwidth^2 / (attenuation ln 10)
+ *     Gaussian monopulse        2 sqrt(e) amp u exp(-2 u^2)   u = pi centre t
+ *
  * The periodic waves take their phase in degrees by address and leave there the phase of the sample behind the
- * last, in [0, 360), so that the next call goes on without a break. Frequencies are in cycles per sample.
- * The patterns draw one shape over the whole array. The pulses are functions of t = i dt - delay.
+ * last, in [0, 360), so that the next call goes on without a break. Frequencies are in cycles per sample: a tone of
+ * f hertz at a rate of fs has f / fs. The patterns draw one shape over the whole array. The pulses are functions of
+ * t = i dt - delay, with delay in the unit of dt and frequencies in the unit of 1/dt.
+ *
  * The first check that fails, in the order of the status lists, decides; then neither output nor phase is written.
  * @{
  */
@@ -3826,15 +3978,29 @@ QV_API QvStatus ZemFunc350(int64_t n, double amp, double delay, double dt, doubl
 /** @} */
 
 /** @defgroup iir_design IIR design and one-shot IIR filters
- * Recursive filters of six families and four kinds. An analog lowpass prototype with its cutoff at 1 rad/s goes, pole
- * pair by pole pair, through the bilinear transform with prewarped edges, w = tan(pi f / fs), into stages of second
- * order (lowpass, highpass) or of fourth order (bandpass, bandstop, which have twice the order of the prototype). No
- * polynomial of high degree is formed, so that high orders stay accurate.
- * Frequencies are in the unit of fs, the sampling rate. Kinds: 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop; the first
- * two have their cutoff in fl (or fc) and ignore fh. Ripple and attenuation are in dB, above 0.
- * The edges mean: Butterworth and Bessel 3 dB down; Chebyshev and elliptic the end of the passband, where the ripple is
- * reached for the last time; inverse Chebyshev the begin of the stopband, where the attenuation is first reached. The
- * even-pole family has poles on the unit circle with equally spaced imaginary parts.
+ * Recursive filters of six families and four kinds, into a filter object, as coefficients, or applied at once. An
+ * analog lowpass prototype with its cutoff at 1 rad/s goes, pole pair by pole pair, through the bilinear transform
+ * with prewarped edges into stages of second order (lowpass, highpass) or of fourth order (bandpass, bandstop,
+ * which have twice the order of the prototype). No polynomial of high degree is formed, so that high orders stay
+ * accurate.
+ *
+ *     s = (1 - z^-1) / (1 + z^-1),   w = tan(pi f / fs),   B = wh - wl,   P = wl wh
+ *     lowpass s / w,   highpass w / s,   bandpass (s^2 + P) / (B s),   bandstop B s / (s^2 + P)   for its s
+ *     Butterworth         |H|^2 = 1 / (1 + W^(2 N))                       3 dB down at the edges
+ *     Bessel              H = B_N(0) / B_N(s), reverse Bessel polynomial  scaled to 3 dB down at the edges
+ *     Chebyshev           |H|^2 = 1 / (1 + e^2 T_N(W)^2)                  e^2 = 10^(ripple/10) - 1
+ *     inverse Chebyshev   |H|^2 = 1 / (1 + 1 / (e^2 T_N(1/W)^2))          e^2 = 1 / (10^(attenuation/10) - 1)
+ *     elliptic            |H|^2 = 1 / (1 + e^2 R_N(W)^2)                  e^2 = 10^(ripple/10) - 1
+ *     even pole           poles -sqrt(1 - x^2) +- i x,  x = 1 - (2k + 1)/N,  k = 0, 1, ...;  -1 for odd N
+ *
+ * H is the prototype of order N, W its frequency and R_N the elliptic rational function; "for its s" reads: in
+ * place of the s of the prototype. Frequencies are in the unit of fs, the sampling rate. Kinds: 0 lowpass, 1
+ * highpass, 2 bandpass, 3 bandstop; the first two have their cutoff in fl (or fc) and ignore fh. Ripple and
+ * attenuation are in dB, above 0. The passband peaks at 0 dB. The edges of Chebyshev and elliptic filters are the
+ * end of the passband, where the ripple is reached for the last time; that of inverse Chebyshev filters is the
+ * begin of the stopband, where the attenuation is first reached. The even-pole family has poles on the unit circle
+ * with equally spaced imaginary parts; it is not 3 dB down at its edges.
+ *
  * Designs check in the order of their statuses. The one-shot filters of real arrays check their sizes and levels
  * elsewhere, and accept a cutoff of fs/2, which the designs refuse with -20023.
  * @{
@@ -4926,8 +5092,16 @@ QV_API QvStatus ZemFunc406(QvComplex* x, int64_t n, double fs, double fl, double
 /** @} */
 
 /** @defgroup integration Integration of sampled data
- * The definite integral of equally spaced samples by a closed Newton-Cotes rule. Each rule takes as many whole panels as
- * fit; the samples left over at the end go through the next lower rule that fits them, so that every sample counts.
+ * The definite integral of equally spaced samples by a closed Newton-Cotes rule. Each rule takes as many whole
+ * panels as fit; the samples left over at the end go through the next lower rule that fits them, so that every
+ * sample counts.
+ *
+ *     0 trapezoid       dt / 2    (x0 + x1)                                 a panel of 1 interval
+ *     1 Simpson         dt / 3    (x0 + 4 x1 + x2)                          of 2
+ *     2 Simpson 3/8     3 dt / 8  (x0 + 3 x1 + 3 x2 + x3)                   of 3
+ *     3 Boole           2 dt / 45 (7 x0 + 32 x1 + 12 x2 + 32 x3 + 7 x4)     of 4
+ *
+ * dt is the distance of the samples; the result is in the unit of x times that of dt.
  * @{
  */
 
@@ -4953,9 +5127,16 @@ QV_API QvStatus ZemFunc230(const double* x, int64_t n, double dt, uint32_t rule,
 /** @} */
 
 /** @defgroup interpolation Interpolation
- * The value between samples: by the one polynomial or the one diagonal rational function through all of them, by a cubic
- * spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing spline, which weighs
- * the fit of the samples against the curvature.
+ * The value between samples: by the one polynomial or the one diagonal rational function through all of them, by a
+ * cubic spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing spline,
+ * which weighs the fit of the samples against the curvature.
+ *
+ *     h = x[i + 1] - x[i],   A = (x[i + 1] - u) / h,   B = 1 - A
+ *     spline(u) = A y[i] + B y[i + 1] + ((A^3 - A) y"[i] + (B^3 - B) y"[i + 1]) h^2 / 6
+ *     smoothing: balance sum of w (y - s)^2 + (1 - balance) integral of lambda s"^2 is least
+ *
+ * Abscissas ascend in the splines. A balance of 1 goes through the samples, one of 0 gives the line of least
+ * squares.
  * @{
  */
 
@@ -5063,8 +5244,15 @@ QV_API QvStatus ZemFunc285(const double* x, double* y, const double* weights, in
 
 /** @defgroup linear_fits Linear and polynomial fits
  * Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which some
- * coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions at
- * observation i. Weights count by magnitude.
+ * coefficients may be fixed.
+ *
+ *     f[i] = sum over j of X[i, j] c[j],        minimises sum of ((y[i] - f[i]) / deviation[i])^2
+ *     polynomial: f[i] = c[0] + c[1] x[i] + ... + c[order] x[i]^order,    minimises sum of |w[i]| (y[i] - f[i])^2
+ *     error = sum of weight (y - f)^2 / n,      covariance = (X' W X)^-1
+ *
+ * A design has m rows and n columns, row-major; row i holds the basis functions at observation i. Coefficients of
+ * polynomials stand in ascending power. Weights count by magnitude, a deviation of 0 as a weight of 1.
+ *
  * The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
  * coefficients one alone is not written.
  * @{
@@ -5215,15 +5403,19 @@ QV_API QvStatus ZemFunc361(double* x, const double* y, const double* weights, in
 /** @} */
 
 /** @defgroup matrices Solving, inversion and matrix operations
- * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
- * at the
- * same places. The work is done by LAPACK and BLAS, with 32-bit integers.
+ * Linear systems, inverses, determinants, norms and products of dense matrices.
+ *
+ *     A x = b,   A X = B;   a matrix that is not square: |A x - b| is least, and of those x the shortest
+ *     norms       two: s(0),  one: largest column sum,  Frobenius: sqrt(sum |a|^2),  infinity: largest row sum
+ *     condition   s(0) / s(last), or |A| |A^-1| in the other norms
+ *     pseudo-inverse A^+ = V diag(1 / s) U^H over the singular values s above the tolerance
+ *
+ * Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs at
+ * the same places. The work is done by LAPACK and BLAS, with 32-bit integers.
+ *
  * The kind of a matrix is 0 general, 1 symmetric (Hermitian) positive definite, 2 lower triangular, 3 upper
- * triangular;
- * of kinds 1 to 3 one triangle is read.
- * Where a matrix is screened, an element that is NaN, infinite, the largest double, or -1.7976931348623e308 or
- * below
- * gives -20068.
+ * triangular; of kinds 1 to 3 one triangle is read. Where a matrix is screened, an element that is NaN, infinite,
+ * the largest double, or -1.7976931348623e308 or below gives -20068.
  * @{
  */
 
@@ -5992,6 +6184,9 @@ QV_API QvStatus ZemFunc395(const QvComplex* x, int64_t n, uint32_t selector, dou
  * A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of complex
  * data, and arrays whose length only the operation knows. Each is one block of memory, and one entry, known under
  * three numbers, gives any of them back. All other arrays are the caller's own from the start.
+ *
+ * Plans and narrowband filters are more than one block and have releases of their own, FftPlanRelease and
+ * FirNarrowbandRelease. Each block goes back once; free of the C library is not the way.
  * @{
  */
 
@@ -6027,10 +6222,22 @@ QV_API void ZemFunc470(void* block);
 /** @} */
 
 /** @defgroup model_fits Line, exponential, power, logarithm and Gaussian fits
- * Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least
- * absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the one before
- * and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it
- * ends when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+ * Five fixed models, each by three methods: for samples with ordinary noise, and for samples with outliers.
+ *
+ *     line         f = a x + b
+ *     exponential  f = a exp(b x)
+ *     power        f = a x^b
+ *     logarithm    f = a log(b x)
+ *     Gaussian     f = a exp(-((x - m) / s)^2 / 2)
+ *     0 least squares             sum of |w| (y - f)^2
+ *     1 least absolute residuals  sum of |w| |y - f|
+ *     2 bisquare                  least squares with the weights |w| max(1 - u^2, 0)^2,  u = r / (4.685 deviation)
+ *
+ * Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least absolute residuals: reweighted
+ * least squares, for a line weighted medians; the best of the last fit, the one before and the first is kept.
+ * Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it ends when one of
+ * the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+ *
  * On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
  * @{
  */
@@ -6221,6 +6428,13 @@ QV_API QvStatus ZemFunc287(const double* x, double* y, const double* weights, in
 /** @} */
 
 /** @defgroup multiple_roots Multiple polynomial roots and lag products
+ * The roots of complex polynomials whose multiple roots are to come back as such, and the normal matrices of linear
+ * prediction.
+ *
+ *     c[0] + c[1] z + ... + c[n - 1] z^(n - 1) = c[n - 1] product over the distinct roots of (z - z[k])^m[k]
+ *     R = X^H X,   row t of X: x[t], x[t - 1], ..., x[t - p]
+ *
+ * Coefficients stand in ascending power. A root of multiplicity m is listed m times.
  * @{
  */
 
@@ -6303,8 +6517,14 @@ QV_API QvStatus ZemFunc416(const QvComplex* x, int64_t n, int64_t p, uint32_t me
 
 /** @defgroup nonlinear_fit Nonlinear fit
  * Levenberg-Marquardt fits of a model y = f(x; a) that the caller supplies as a function; the gradient is taken by
- * central differences. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient.
- * While a derivative is taken one coefficient is moved in place; it is put back exactly. A model must return: one that
+ * central differences.
+ *
+ *     minimises chi^2 = sum of w (y - f(x; a))^2
+ *     step:  (J' W J + lambda diag(J' W J)) delta = J' W (y - f),     a + delta is taken where chi^2 falls
+ *
+ * The guess in the coefficients decides which minimum is found: begin within a factor of a few, and with the right
+ * signs. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient. While a
+ * derivative is taken one coefficient is moved in place; it is put back exactly. A model must return: one that
  * leaves by longjmp or by an exception leaks the library's work memory, and that is its own fault.
  * @{
  */
@@ -6434,9 +6654,15 @@ QV_API QvStatus ZemFunc375(const double* x, const double* y, const double* weigh
 /** @} */
 
 /** @defgroup peaks Peak and level detection
- * Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas fitted to a
- * sliding window. Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no
- * handle. Positions count from the start of the stream.
+ * Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas fitted
+ * to a sliding window.
+ *
+ *     window of width samples:  p(t) = c0 + c1 t + c2 t^2,  least squares
+ *     peak: slope c1 changes from + to -;  location t = -c1 / (2 c2),  amplitude p(t),  second derivative 2 c2
+ *
+ * Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no handle.
+ * Positions are in samples and count from the start of the stream; those of peaks lie between samples.
+ *
  * Statuses are tested in the order in which they are listed.
  * @{
  */
@@ -6521,10 +6747,16 @@ QV_API QvStatus ZemFunc194(const double* x, int64_t n, double threshold, int64_t
 /** @} */
 
 /** @defgroup plans FFT plans
- * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan lives
- * as long as somebody holds it: a program that transforms one length again and again holds a plan and spares the
- * building of its tables. Any length from 1 up has a plan; those whose prime factors are all small run fastest.
- * A plan is never changed, so any number of threads may use it at once.
+ * A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan
+ * lives as long as somebody holds it: a program that transforms one length again and again holds a plan and spares
+ * the building of its tables. Any length from 1 up has a plan; those whose prime factors are all small run fastest.
+ *
+ *     QvFftPlan* plan = QvFftPlanCreate(1024);
+ *     for (...) QvTransformRealFft(frame, 1024, 0, plan, 0, spectrum);
+ *     QvFftPlanRelease(plan);
+ *
+ * A plan is never changed, so any number of threads may use it at once. Where a function takes a plan, null makes
+ * one for the call; the results are the same.
  * @{
  */
 
@@ -6555,8 +6787,12 @@ QV_API void ZemFunc261(QvFftPlan* plan);
 
 /** @defgroup polynomial_roots Polynomial roots with their multiplicities
  * The roots of a real polynomial, found in a way that keeps multiple roots together: first the structure of
- * multiplicities, through a chain of approximate greatest common divisors of the polynomial and its derivative, then the
- * distinct roots as simple roots of a divisor. The method is for accuracy on low and moderate degrees.
+ * multiplicities, through a chain of approximate greatest common divisors of the polynomial and its derivative,
+ * then the distinct roots as simple roots of a divisor. The method is for accuracy on low and moderate degrees.
+ *
+ *     c[0] + c[1] z + ... + c[n - 1] z^(n - 1) = c[n - 1] product over the distinct roots of (z - z[k])^m[k]
+ *
+ * Coefficients stand in ascending power. A root of multiplicity m is listed m times.
  * @{
  */
 
@@ -6587,8 +6823,14 @@ QV_API QvStatus ZemFunc299(const double* c, uint32_t n, QvComplex* roots);
 /** @} */
 
 /** @defgroup polynomial_zeros Complex polynomial zeros
- * All zeros of a polynomial, one after the other: a walk downhill on |p(z)| with limited and turned Newton steps, pure
- * Newton steps near the zero, and deflation (K. Madsen, BIT 13, 1973). Plain and fast, without a notion of multiplicity.
+ * All zeros of a polynomial with real coefficients, one after the other.
+ *
+ *     c[0] z^(m - 1) + c[1] z^(m - 2) + ... + c[m - 1] = 0
+ *     z <- z - p(z) / p'(z),  shortened and turned while |p| does not fall
+ *
+ * A walk downhill on |p(z)| with limited and turned Newton steps, pure Newton steps near the zero, and deflation
+ * (K. Madsen, BIT 13, 1973). Plain and fast, without a notion of multiplicity: a zero of multiplicity m comes back
+ * as m neighbours, some eps^(1/m) apart. Coefficients stand in descending power, the highest first.
  * @{
  */
 
@@ -6616,6 +6858,14 @@ QV_API QvStatus ZemFunc231(const double* c, int32_t m, QvComplex* z);
 /** @} */
 
 /** @defgroup pulse_parameters Shape of a single pulse
+ * The levels and the timing of the first pulse in a record, all by one call.
+ *
+ *     level p = lower + p/100 (upper - lower),      p = 10, 50, 90
+ *     delay: the first crossing of level 50,  width: from there to the next one
+ *     rise and fall: from level 10 to level 90 and back,  slew = 0.8 (top - base) / rise
+ *
+ * Times are in samples from the start of the record, cut to whole ones; slew is per sample. A pulse that goes down
+ * has its base above its top.
  * @{
  */
 
@@ -6657,15 +6907,25 @@ QV_API QvStatus ZemFunc142(const double* x, int64_t n, double* amplitude, double
 /** @} */
 
 /** @defgroup pulses Pulse and transition measurements
- * A waveform is taken as a signal between two states. Its state levels are found first; then references between them,
- * the crossings of the references, and from these the timing of pulses and edges. Times are in samples from the start
- * of the record, interpolated linearly between samples.
+ * Pulse and transition measurements: a waveform is taken as a signal between two states. Its state levels are found
+ * first; then references between them, the crossings of the references, and from these the timing of pulses and
+ * edges.
+ *
+ *     reference   low + percent/100 (high - low)
+ *     crossing    i + (level - x[i]) / (x[i + 1] - x[i])
+ *     duty cycle  width / period
+ *     slew rate   (high reference - low reference) / duration
+ *
+ * Times are in samples from the start of the record, interpolated linearly between samples.
+ *
  * Level methods: 0 histogram, the fullest bins of the lower and of the upper two fifths, of equally full ones the
  * outermost; 1 peak, the extremes; 2 autoselect, the modes of the histogram where each holds more than 5 percent of
  * the samples, the extremes otherwise. A mode is given as the centre of its bin.
+ *
  * References go in as high, mid, low, absolute or in percent of the amplitude above the low level. Percent are
- * converted in place, and the absolute levels come out once more as low, mid, high, after every error but -20046, -20317
- * and -20001. The method is looked at only where levels are measured. Polarity: 0 falling, 1 rising.
+ * converted in place, and the absolute levels come out once more as low, mid, high, after every error but -20046,
+ * -20317 and -20001. The method is looked at only where levels are measured. Polarity: 0 falling, 1 rising.
+ *
  * The warning 20021 tells of a mode with less than 5 percent of the samples; it has no text in StatusMessage.
  * Statuses are tested in the order in which they are listed. Behind -20001, outputs that an error leaves without a
  * value are 0; before it nothing is written.
@@ -6819,16 +7079,29 @@ QV_API QvStatus ZemFunc366(const double* x, int64_t n, int32_t polarity, int64_t
 /** @} */
 
 /** @defgroup random Noise, low-discrepancy sequences and shuffles
+ * Noise of several distributions, sequences that fill the unit interval evenly, and shuffles.
+ *
+ *     core       u = frac(s1 / 30269 + s2 / 30307 + s3 / 30323),  s1 <- 171 s1 mod 30269,  s2 <- 172 s2,  s3 <- 170 s3
+ *     uniform    u in [0, 1)
+ *     white      (u - 1/2) 2 amplitude
+ *     Gaussian   deviation v sqrt(-2 ln q / q),   q = v^2 + w^2 < 1 from two uniforms in [-1, 1)
+ *     Halton     digits of 0, 1, 2, ... in the base, mirrored at the point
+ *     Weyl       frac(i step)
+ *
  * Each generator keeps a stream of its own for each thread: kinds called in turn do not disturb each other, and two
  * threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982).
+ *
  * A seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
  * negative one takes the clock on the thread's first call of that generator and goes on later. The seed is applied
  * before n is tested.
- * A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the seed
- * if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever its seed.
+ *
+ * A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the
+ * seed if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever its
+ * seed.
+ *
  * Seeding from the clock goes through srand and rand of the C library, whose state the process shares where the
- * system has it so.
- * Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them with -20061.
+ * system has it so. Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them with
+ * -20061.
  * @{
  */
 
@@ -7034,11 +7307,21 @@ QV_API QvStatus ZemFunc413(int64_t n, double step, int32_t reset, double* out);
 
 /** @defgroup spectrum Spectrum measurements
  * From time records to spectra, and from spectra to numbers. Records have any length n, not only powers of two.
- * Forward transforms are unscaled, X[k] = sum of x[j] exp(-2 pi i j k / n); inverses carry 1/n; power spectra carry
- * 1/n^2. Two-sided spectra are split real arrays of n bins with zero frequency at 0. One-sided spectra hold the bins
- * 0 to n/2 - 1, never the Nyquist bin, and bin 0 also for n = 1; their inner bins carry the power of both sides.
- * The step between bins is df = 1 / (n dt), with dt the time between samples. Phases are in radians. Outputs may be
- * the inputs. After an error the outputs are unspecified.
+ *
+ *     X[k] = sum over j of x[j] exp(-2 pi i j k / n),          x[j] = (1/n) sum over k of X[k] exp(2 pi i j k / n)
+ *     two-sided power   S[k] = |X[k]|^2 / n^2                  cross power  Sxy[k] = conj(X[k]) Y[k] / n^2
+ *     one-sided power   G[0] = S[0],  G[k] = 2 S[k]            a sine of amplitude A on a bin reads A^2 / 2
+ *     amplitude         sqrt(G[k])                             root mean square: A / sqrt(2)
+ *     transfer          H[k] = Y[k] / X[k],  over frames: sum Sxy / sum Sxx
+ *     coherence         |sum Sxy|^2 / (sum Sxx sum Syy)
+ *     frequency of bin k: k df,   df = 1 / (n dt)
+ *
+ * Two-sided spectra are split real arrays of n bins with zero frequency at 0. One-sided spectra hold the bins 0 to
+ * n/2 - 1, never the Nyquist bin, and bin 0 also for n = 1. dt is the time between samples; powers are in the unit
+ * of x squared, phases in radians and those of a cosine. A window is divided out by its coherent gain where tones
+ * are read (WinApplyScaledPlain does it), by its noise bandwidth where powers of several bins are added.
+ *
+ * Outputs may be the inputs. After an error the outputs are unspecified.
  * @{
  */
 
@@ -7282,8 +7565,14 @@ QV_API QvStatus ZemFunc2(const double* x, int64_t n, double* ac, double* dc);
 /** @} */
 
 /** @defgroup statistics Descriptive statistics
- * Summaries of a data array. The data are the whole population: variances, deviations and moments divide by n,
- * never by n - 1. Sums are added in index order. NaN and infinities propagate where nothing else is said.
+ * Summaries of a data array: location, spread, shape, histogram and modes.
+ *
+ *     mean = sum x / n                      variance = sum (x - mean)^2 / n
+ *     rms = sqrt(sum x^2 / n)               moment k = sum (x - mean)^k / n
+ *     bin i of a histogram: base + i w <= x < base + (i + 1) w,   w = (top - base) / intervals
+ *
+ * The data are the whole population: variances, deviations and moments divide by n, never by n - 1. Sums are added
+ * in index order. NaN and infinities propagate where nothing else is said.
  * @{
  */
 
@@ -7423,10 +7712,14 @@ QV_API QvStatus ZemFunc340(const double* x, int64_t n, int64_t intervals, double
 /** @} */
 
 /** @defgroup status Status codes
- * Nearly every function returns a status: 0 is success, a positive code a warning with results that are written and
- * usable, a negative code an error. After an error the outputs hold whatever had been written so far.
- * A message may name a limit a little different from the one that is tested; the documentation of each function tells
- * the test.
+ * What a call says of itself: 0 is success, a positive code a warning with results that are written and usable, a
+ * negative code an error. After an error the outputs hold whatever had been written so far.
+ *
+ *     QvStatus status = QvSpecPowerSpectrum(x, n, dt, power, &df);
+ *     if (status < 0) fprintf(stderr, "%s\n", QvStatusMessage(status));
+ *
+ * A message may name a limit a little different from the one that is tested; the documentation of each function
+ * tells the test.
  * @{
  */
 
@@ -7446,9 +7739,18 @@ QV_API const char* ZemFunc240(int32_t code);
 /** @} */
 
 /** @defgroup time_domain Time-domain operations
- * Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal block by
- * block; where the blocks are cut makes no difference. They keep their state for each thread and operation, so that
- * a thread runs one stream an operation; a first call on a thread starts as a reset does.
+ * Integration, differentiation, decimation and level crossings of sampled signals.
+ *
+ *     integral     out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6
+ *     derivative   out[i] = (x[i + 1] - x[i - 1]) / (2 dt)
+ *     decimation   out[i] = x[i factor],  or the mean of x[i factor] ... x[(i + 1) factor - 1]
+ *     crossing     rising: armed below level - |hysteresis|, found at or above level
+ *
+ * dt is the time between samples; the samples in front of the first and behind the last are arguments.
+ *
+ * The continuous forms take an endless signal block by block; where the blocks are cut makes no difference. They
+ * keep their state for each thread and operation, so that a thread runs one stream an operation; a first call on a
+ * thread starts as a reset does.
  * @{
  */
 
@@ -7620,20 +7922,28 @@ QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const d
 /** @defgroup tones Harmonic and tone analysis
  * Sinusoids in data, to much better accuracy than one bin of a spectrum: the harmonics in a given power spectrum, a
  * fundamental and its harmonics in a time record, and the extraction of one or several tones.
- * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins around
- * a peak tell the same amplitude; tones of real records are modelled together with their image at the negative
- * frequency, and several tones are refined together. Without noise the frequency of a single tone is right to 1e-9 of
- * the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than half a bin
- * below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin off. Less than
- * 0.8 bins below half the rate a tone of a real record of odd length can read a bin or more off, by its phase; of an
- * even length it reads right up to there.
- * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not normalised:
- * of a sine for real records, of the exponential for complex ones. Amplitudes are peak amplitudes. A complex
+ *
+ *     real record      x[j] = amp sin(2 pi freq j dt + phase)
+ *     complex record   x[j] = amp / 2 exp(i (2 pi freq j dt + phase))
+ *     distortion             thd = 100 sqrt(amp[1]^2 + amp[2]^2 + ...) / amp[0]
+ *     distortion and noise   100 sqrt(power without the fundamental / power), the mean left out of both
+ *
+ * dt is the time between samples; frequencies are in the unit of 1/dt, phases in degrees at sample 0, not
+ * normalised. Amplitudes are peak amplitudes, those of SpecHarmonicAnalyzer root mean square ones. A complex
  * exponential of modulus A reads 2A, since the scale is that of a real record, half of which stands at the negative
  * frequency; the synthesis of the modes 2 and 3 takes that half again.
+ *
+ * Extraction takes a spectrum under a Hanning window and solves for the frequency at which two and three bins
+ * around a peak tell the same amplitude; tones of real records are modelled together with their image at the
+ * negative frequency, and several tones are refined together. Without noise the frequency of a single tone is right
+ * to 1e-9 of the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound. Less than
+ * half a bin below half the rate, or above minus half of it, a tone of a complex record can read up to half a bin
+ * off. Less than 0.8 bins below half the rate a tone of a real record of odd length can read a bin or more off, by
+ * its phase; of an even length it reads right up to there.
+ *
  * Tones of complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give
- * besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that in
- * decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
+ * besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of that
+ * in decibels. After a failure all scalar outputs are 0, and so are out and spectrum.
  * @{
  */
 
@@ -7642,6 +7952,10 @@ QV_API QvStatus ZemFunc420(const double* x, int64_t channels, int64_t n, const d
  * The harmonics in a power spectrum, with frequencies interpolated by the shape of the window.
  * A fundamental outside the spectrum, or in the main lobe of bin 0, is replaced by the largest bin beyond that lobe.
  * Harmonics that the spectrum does not reach are 0. A distortion that would divide by zero is 1e9.
+ * With c the half-width of the window's main lobe, rounded up, the fundamental has the bins less than c away from its
+ * own in thdPlusNoise, which deliberately leaves the outermost of its lobe to the noise. It is right for a tone on a
+ * bin, with the fundamental told to that bin; a tone between bins reads up to 14 percent under a Hanning window from its
+ * leakage alone, and more where fundamental is a bin off. SpecToneHarmonics has no such floor.
  * Method: bisection for the offset at which the window's response has the ratio of the two largest bins.
  * @param power read, [n]: a one-sided power spectrum
  * @param fftSize points of the transform that it is of; below 1: 2n
@@ -7856,9 +8170,19 @@ QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t so
 
 /** @defgroup transforms Transforms
  * Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
- * Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N.
- * In shifted order of N bins X[0] stands at index N / 2 (integer division), X[k] at N / 2 + k, X[-k] at N / 2 - k; of
- * an even N, index 0 holds X[N / 2].
+ *
+ *     Fourier    X[k] = sum over j of x[j] exp(-2 pi i j k / N)
+ *     inverse    x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
+ *     cosine     X[k] = c(k) sqrt(2/N) sum over j of x[j] cos(pi k (2j + 1) / (2N)),    c(0) = 1 / sqrt(2), else 1
+ *     sine       X[k - 1] = sum over j of x[j] sin(pi k (j + 1) / (N + 1)),  k = 1 to N,    inverse with 2 / (N + 1)
+ *     Hartley    X[k] = sum over j of x[j] (cos + sin)(2 pi j k / N),   inverse with 1/N
+ *     Hilbert    positive frequencies times -i, negative times i: cos becomes sin
+ *     chirp-Z    X[k] = sum over j of x[j] a^-j w^(j k)
+ *
+ * Forward Fourier transforms are unscaled; inverses carry 1/N. The frequency of bin k is k / (N dt), above N / 2
+ * read as (k - N) / (N dt). In shifted order of N bins X[0] stands at index N / 2 (integer division), X[k] at N / 2
+ * + k, X[-k] at N / 2 - k; of an even N, index 0 holds X[N / 2]. 2-D arrays are row-major.
+ *
  * Outputs must not overlap inputs, except where a function says so.
  * @{
  */
@@ -7872,7 +8196,7 @@ QV_API QvStatus ZemFunc384(const QvComplex* x, int64_t n, double dt, uint32_t so
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
  * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
- * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @param out written, [fftSize if fftSize > 0 else n]: the spectrum, one record for each bin
  * @retval -20003 n is below 1
  * @retval -20070 the plan is of another length
  * @retval -20001 memory is exhausted
@@ -7892,7 +8216,7 @@ QV_API QvStatus ZemFunc262(const double* x, int64_t n, int64_t fftSize, QvFftPla
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
  * @param plan handle, may be null: a plan of the transform's length, or null to have one made for the call
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
- * @param out written, [fftSize]: the spectrum, one record for each bin; n records for an fftSize below 1
+ * @param out written, [fftSize if fftSize > 0 else n]: the spectrum, one record for each bin
  * @retval -20003 n is below 1
  * @retval -20070 the plan is of another length
  * @retval -20001 memory is exhausted
@@ -7941,7 +8265,7 @@ QV_API QvStatus ZemFunc265(const QvComplex* X, int64_t n, QvFftPlan* plan, int32
  * @param fftRows rows of the transform; below 1: rows
  * @param fftCols columns of the transform; below 1: cols
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
- * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @param out written, [(fftRows if fftRows > 0 else rows) * (fftCols if fftCols > 0 else cols)]: the spectrum, row-major
  * @retval -20003 rows or cols is below 1
  * @retval -20046 the result has more than 2^31 - 1 elements
  * @retval -20001 memory is exhausted
@@ -7959,7 +8283,7 @@ QV_API QvStatus ZemFunc266(const double* x, int64_t rows, int64_t cols, int64_t 
  * @param fftRows rows of the transform; below 1: rows
  * @param fftCols columns of the transform; below 1: cols
  * @param shift 0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
- * @param out written, [fftRows * fftCols]: the spectrum, row-major
+ * @param out written, [(fftRows if fftRows > 0 else rows) * (fftCols if fftCols > 0 else cols)]: the spectrum, row-major
  * @retval -20003 rows or cols is below 1
  * @retval -20046 the result has more than 2^31 - 1 elements
  * @retval -20001 memory is exhausted
@@ -8016,7 +8340,7 @@ QV_API QvStatus ZemFunc77(double* re, double* im, int64_t n);
  * @param x read, [n]: the samples
  * @param n how many samples there are
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
- * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @param out written, [fftSize if fftSize > 0 else n]: the transform; it may be x where that has room
  * @retval -20046 2 L does not fit 32 bits, with L the length of the transform
  * @retval -20003 n is below 1
  * @retval -20001 memory is exhausted
@@ -8044,7 +8368,7 @@ QV_API QvStatus ZemFunc271(const double* x, int64_t n, double* out);
  * @param x read, [n]: the samples
  * @param n how many samples there are
  * @param fftSize the length of the transform; below 1: n. The input is padded with zeros, or cut
- * @param out written, [fftSize]: the transform; n elements for an fftSize below 1. It may be x where that has room
+ * @param out written, [fftSize if fftSize > 0 else n]: the transform; it may be x where that has room
  * @retval -20046 2 L + 2 does not fit 32 bits, with L the length of the transform
  * @retval -20003 n is below 1
  * @retval -20001 memory is exhausted
@@ -8182,7 +8506,7 @@ QV_API QvStatus ZemFunc76(double* x, int64_t n);
  * @param w the ratio of neighbouring points
  * @param method 0: the sum itself; 1: Bluestein's algorithm
  * @param m how many points of the spiral; below 1: n
- * @param out written, [m]: the transform; n records for an m below 1
+ * @param out written, [m if m > 0 else n]: the transform
  * @retval -20003 n is below 1
  * @retval -20061 the method is above 1
  * @retval -20068 a or w is not finite
@@ -8204,7 +8528,7 @@ QV_API QvStatus ZemFunc341(const double* x, int64_t n, QvComplex a, QvComplex w,
  * @param w the ratio of neighbouring points
  * @param method 0: the sum itself; 1: Bluestein's algorithm
  * @param m how many points of the spiral; below 1: n
- * @param out written, [m]: the transform; n records for an m below 1
+ * @param out written, [m if m > 0 else n]: the transform
  * @retval -20003 n is below 1
  * @retval -20061 the method is above 1
  * @retval -20068 a or w is not finite
@@ -8223,7 +8547,7 @@ QV_API QvStatus ZemFunc342(const QvComplex* x, int64_t n, QvComplex a, QvComplex
  * @param n how many points there are
  * @param a where the spiral starts
  * @param w the ratio of neighbouring points
- * @param out written, [m], may be null: the samples; n records for an m below 1
+ * @param out written, [m if m > 0 else n], may be null: the samples
  * @param m how many samples; below 1: n
  * @retval -20003 n is below 1
  * @retval -20068 a or w is not finite
@@ -8264,13 +8588,21 @@ QV_API QvStatus ZemFunc468(const QvComplex* x, const QvComplex* y, int64_t n, Qv
 /** @} */
 
 /** @defgroup variance_analysis Analysis of variance and contingency
- * Analysis of variance with one, two and three factors, and the chi-square test of a contingency table.
+ * Whether groups of observations differ by more than chance: analysis of variance with one, two and three factors,
+ * and the chi-square test of a contingency table.
+ *
+ *     one factor   ssA = sum over levels of n_i (mean_i - mean)^2,   ssError = sum of (y - mean_i)^2
+ *     F = (ssA / (levels - 1)) / (ssError / (n - levels))
+ *     contingency  chi^2 = sum of (count - expected)^2 / expected,   expected = row sum * column sum / total
+ *
  * The level of an observation is any integer that fits 32 bits, not an index: levels are numbered as they are first
  * seen. In the forms with two and three factors every cell holds the same number of observations, and the number of
  * levels of a factor carries a sign: positive for a fixed factor, negative for a random one.
- * A table holds rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that of the
- * error; its F is never written. A significance is the probability of an F at least as large by chance.
- * All sums are taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation has.
+ *
+ * A table holds rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that of
+ * the error; its F is never written. A significance is the probability of an F at least as large by chance. All
+ * sums are taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation has.
+ *
  * Statuses stand in the order in which they are tested.
  * @{
  */
@@ -8384,11 +8716,23 @@ QV_API QvStatus ZemFunc31(uint32_t rows, uint32_t cols, const int32_t* counts, d
 /** @} */
 
 /** @defgroup windows Window functions
- * Windows multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+ * Windows taper a record towards its ends, so that tones between the bins of its spectrum leak less. They multiply
+ * data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+ *
+ *     cosine sums     w[i] = sum over k of (-1)^k a[k] cos(2 pi k i / n)
+ *     Hanning         0.5, 0.5                     Blackman-Harris, 3 terms   0.42323, 0.49755, 0.07922
+ *     Hamming         0.54, 0.46                   Blackman-Harris, 4 terms   0.35875, 0.48829, 0.14128, 0.01168
+ *     Blackman        0.42, 0.5, 0.08              Blackman-Nuttall  0.3635819, 0.4891775, 0.1365995, 0.0106411
+ *     exact Blackman  7938, 9240, 1430 / 18608
+ *     flat top        0.215578948, 0.41663158, 0.277263158, 0.083578947, 0.006947368
+ *     coherent gain = sum w / n,       equivalent noise bandwidth = n sum w^2 / (sum w)^2  in bins
+ *
  * Most are periodic: w[k] = w[n - k], and w[0] would be the first sample of the next period. The symmetric form,
- * for filter design, is WinApplySymmetric. Codes are the QV_WINDOW_... constants of quorvan/types.h.
- * The cosine sums take one sine for each coefficient and a rotation for each pair of samples.
- * After an error the data are unchanged.
+ * for filter design, is WinApplySymmetric. Codes are the QV_WINDOW_... constants of quorvan/types.h. The coherent
+ * gain is what a window makes of the amplitude of a tone on a bin; the scaled forms divide by it.
+ *
+ * The cosine sums take one sine for each coefficient and a rotation for each pair of samples. After an error the
+ * data are unchanged.
  * @{
  */
 

@@ -47,13 +47,13 @@ constexpr double kI1B[] = {
 
 double ScaledBesselI0(double x) noexcept {
     x = std::fabs(x);
-    return x <= 8 ? ChebyshevSum(x / 2 - 2, kI0A) : ChebyshevSum(32 / x - 2, kI0B) / std::sqrt(x);
+    return x <= 8 ? ChebyshevSum(x / 2 - 2, kI0A) : ChebyshevHalves(32 / x - 2, kI0B) / std::sqrt(x);
 }
 
 double ScaledBesselI1(double x) noexcept {
     const double magnitude = std::fabs(x);
     if (magnitude <= 8) return x * ChebyshevSum(magnitude / 2 - 2, kI1A);
-    return std::copysign(1, x) * ChebyshevSum(32 / magnitude - 2, kI1B) / std::sqrt(magnitude);
+    return std::copysign(1, x) * ChebyshevHalves(32 / magnitude - 2, kI1B) / std::sqrt(magnitude);
 }
 
 }  // namespace quorvan

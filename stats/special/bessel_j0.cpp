@@ -6,7 +6,7 @@
 #include "frame/targets.h"
 #include "frame/types.h"
 #include "stats/special/bessel_phase.h"
-#include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 namespace {
@@ -42,11 +42,16 @@ constexpr double kQQ[] = {6.43178256118178023184E1, 8.56430025976980587198E2, 3.
                           7.24046774195652478189E3, 5.93072701187316984827E3, 2.06209331660327847417E3,
                           2.42005740240291393179E2};
 
+constexpr PhaseTables kPhase(kPP, kPQ, kQP, kQQ);
+
 // The sum for small |x|, short of the factor x of order 1.
-double SmallJ(double z) noexcept { return (z - kZero1) * (z - kZero2) * Polynomial(z, kRP) / MonicPolynomial(z, kRQ); }
+double SmallJ(double z) noexcept {
+    const PolynomialPair r = Polynomials<true>(z, kRP, kRQ);
+    return (z - kZero1) * (z - kZero2) * r.first / r.second;
+}
 
 // x > 5.
-QV_INLINE BesselPair Large(double x) noexcept { return PhasePair<0>(x, kPP, kPQ, kQP, kQQ); }
+QV_INLINE BesselPair Large(double x) noexcept { return PhasePair<0>(x, kPhase); }
 
 }  // namespace
 
@@ -62,7 +67,8 @@ double SpecBesselY0(double x) noexcept {
     if (x == kInf) return 0;
     if (x > 5) return Large(x).y;
     const double z = x * x;
-    return Polynomial(z, kYP) / MonicPolynomial(z, kYQ) + kTwoOverPi * std::log(x) * SpecBesselJ0(x);
+    const PolynomialPair r = Polynomials<true>(z, kYP, kYQ);
+    return r.first / r.second + kTwoOverPi * std::log(x) * SpecBesselJ0(x);
 }
 
 }  // namespace quorvan

@@ -5,7 +5,7 @@ namespace quorvan {
 
 // J0(x); even. +-Inf gives 0.
 //   |x| <= 5   (z - j1^2)(z - j2^2) R(z)/S(z), z = x^2, with the squares of the first two zeros      peak 3.9e-16
-//   |x| > 5    sqrt(2/(pi x)) (P cos t - Q sin t), t = x - pi/4, P and Q rational in 25/x^2          peak 4.0e-16
+//   |x| > 5    sqrt(2/(pi x)) (P cos t - Q sin t), t = x - pi/4, P and Q rational in 25/x^2          peak 3.2e-16
 // Peaks here and below are relative to the larger of value and envelope sqrt(2/(pi x)).
 // Cephes Math Library, S. L. Moshier: j0.
 double SpecBesselJ0(double x) noexcept;

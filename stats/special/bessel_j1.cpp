@@ -6,7 +6,7 @@
 #include "frame/targets.h"
 #include "frame/types.h"
 #include "stats/special/bessel_phase.h"
-#include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 namespace {
@@ -41,11 +41,16 @@ constexpr double kQQ[] = {7.42373277035675149943E1, 1.05644886038262816351E3, 4.
                           9.56231892404756170795E3, 7.99704160447350683650E3, 2.82619278517639096600E3,
                           3.36093607810698293419E2};
 
+constexpr PhaseTables kPhase(kPP, kPQ, kQP, kQQ);
+
 // The sum for small |x|, short of the factor x of order 1.
-double SmallJ(double z) noexcept { return (z - kZero1) * (z - kZero2) * Polynomial(z, kRP) / MonicPolynomial(z, kRQ); }
+double SmallJ(double z) noexcept {
+    const PolynomialPair r = Polynomials<true>(z, kRP, kRQ);
+    return (z - kZero1) * (z - kZero2) * r.first / r.second;
+}
 
 // x > 5.
-QV_INLINE BesselPair Large(double x) noexcept { return PhasePair<1>(x, kPP, kPQ, kQP, kQQ); }
+QV_INLINE BesselPair Large(double x) noexcept { return PhasePair<1>(x, kPhase); }
 
 }  // namespace
 
@@ -62,7 +67,8 @@ double SpecBesselY1(double x) noexcept {
     if (x == kInf) return 0;
     if (x > 5) return Large(x).y;
     const double z = x * x;
-    return x * Polynomial(z, kYP) / MonicPolynomial(z, kYQ) + kTwoOverPi * (SpecBesselJ1(x) * std::log(x) - 1 / x);
+    const PolynomialPair r = Polynomials<true>(z, kYP, kYQ);
+    return x * r.first / r.second + kTwoOverPi * (SpecBesselJ1(x) * std::log(x) - 1 / x);
 }
 
 }  // namespace quorvan

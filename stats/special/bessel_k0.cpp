@@ -38,15 +38,15 @@ constexpr double kK1B[] = {
 }  // namespace
 
 double ScaledBesselK0(double x) noexcept {
-    if (x > 2) return ChebyshevSum(8 / x - 2, kK0B) / std::sqrt(x);
+    if (x > 2) return ChebyshevHalves(8 / x - 2, kK0B) / std::sqrt(x);
     const double e = std::exp(x);
-    return (ChebyshevSum(x * x - 2, kK0A) - LogHalf(x) * e * ScaledBesselI0(x)) * e;
+    return (ChebyshevHalves(x * x - 2, kK0A) - LogHalf(x) * e * ScaledBesselI0(x)) * e;
 }
 
 double ScaledBesselK1(double x) noexcept {
-    if (x > 2) return ChebyshevSum(8 / x - 2, kK1B) / std::sqrt(x);
+    if (x > 2) return ChebyshevHalves(8 / x - 2, kK1B) / std::sqrt(x);
     const double e = std::exp(x);
-    return (LogHalf(x) * e * ScaledBesselI1(x) + ChebyshevSum(x * x - 2, kK1A) / x) * e;
+    return (LogHalf(x) * e * ScaledBesselI1(x) + ChebyshevHalves(x * x - 2, kK1A) / x) * e;
 }
 
 }  // namespace quorvan

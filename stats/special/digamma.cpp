@@ -25,12 +25,9 @@ double PositiveDigamma(double x) noexcept {
         shift += 1 / s;
         s += 1;
     }
-    double series = 0;
-    if (s < 1e17) {
-        const double z = 1 / (s * s);
-        series = z * Polynomial(z, kA);
-    }
-    return std::log(s) - 0.5 / s - series - shift;
+    const double w = 1 / s, z = w * w;
+    const double series = s < 1e17 ? z * Polynomial(z, kA) : 0;
+    return std::log(s) - 0.5 * w - series - shift;
 }
 
 }  // namespace

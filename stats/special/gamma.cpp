@@ -5,6 +5,7 @@
 
 #include "frame/types.h"
 #include "stats/special/polynomial.h"
+#include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
 namespace {
@@ -24,7 +25,14 @@ constexpr double kQ[] = {-2.31581873324120129819E-5, 5.39605580493303397842E-4, 
 // For |x| <= 33. z is brought into [2, 3) by products that gather in p.
 double ReducedGamma(double x) noexcept {
     double z = x, p = 1;
-    while (z >= 3) {
+    // Counted ahead, so that the branches need not wait for the differences, which are exact.
+    int factors = static_cast<int>(x) - 2;
+    for (; factors >= 4; factors -= 4) {
+        p = p * (z - 1) * (z - 2) * (z - 3);
+        z -= 4;
+        p *= z;
+    }
+    for (; factors > 0; --factors) {
         z -= 1;
         p *= z;
     }
@@ -39,7 +47,8 @@ double ReducedGamma(double x) noexcept {
     // Deliberate, callers see it: z = 3 is only reached when z + 1 rounds up from 2 - 2^-52, and there the factor
     // Gamma(3) = 2 is missing.
     if (z == 2 || z == 3) return p;
-    return p * Polynomial(z - 2, kP) / Polynomial(z - 2, kQ);
+    const PolynomialPair ratio = Polynomials(z - 2, kP, kQ);
+    return p * ratio.first / ratio.second;
 }
 
 }  // namespace

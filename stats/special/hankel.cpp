@@ -3,6 +3,7 @@
 
 #include "frame/types.h"
 #include "stats/special/bessel_pair.h"
+#include "stats/special/eighth_turns.h"
 #include "stats/special/sin_cos_pi.h"
 
 namespace quorvan {
@@ -33,8 +34,9 @@ BesselPair HankelPair(double v, double x) noexcept {
         if (size <= 0.25 * kEpsilon * std::fabs(p) && odd > 2 * v) break;
     }
     const SineCosine turn = SinCosPi(std::fmod(0.5 * v, 2) + 0.25);
-    const double s = std::sin(x), c = std::cos(x);
-    const double sine = s * turn.cosine - c * turn.sine, cosine = c * turn.cosine + s * turn.sine;
+    const SineCosine t = SinCosLessEighths<0>(x);
+    const double sine = t.sine * turn.cosine - t.cosine * turn.sine;
+    const double cosine = t.cosine * turn.cosine + t.sine * turn.sine;
     const double factor = std::sqrt(kTwoOverPi / x);
     return {factor * (p * cosine - q * sine), factor * (p * sine + q * cosine)};
 }

@@ -28,7 +28,7 @@ double Series(double z, int odd) noexcept {
 template <std::size_t M, std::size_t N>
 double Exponential(double x, const double (&below18)[M], const double (&above)[N]) noexcept {
     return std::exp(x) / x *
-           (x < 18 ? ChebyshevSum((576 / x - 52) / 10, below18) : ChebyshevSum((6336 / x - 212) / 70, above));
+           (x < 18 ? ChebyshevHalves((576 / x - 52) / 10, below18) : ChebyshevHalves((6336 / x - 212) / 70, above));
 }
 
 }  // namespace

@@ -2,11 +2,11 @@
 
 #include <cmath>
 #include <limits>
-#include <utility>
 
 #include "frame/types.h"
 #include "stats/special/beta.h"
 #include "stats/special/incomplete_gamma.h"
+#include "stats/special/two_lanes.h"
 
 namespace quorvan {
 namespace {
@@ -23,6 +23,9 @@ constexpr double kFineTolerance = 3.637978807091712e-13;
 // From here on, in one parameter, the contracted fraction serves.
 constexpr double kContractedOrder = 64;
 
+// Below, in both parameters, power and Gammas are formed as they stand.
+constexpr double kDirectEnd = 13;
+
 // From here on, in both parameters, a fraction might outlast even kMostRounds.
 constexpr double kLargeOrder = 1e10;
 
@@ -32,57 +35,58 @@ constexpr double kHugeOrder = 1e40;
 
 // I_x(a, b) / (x^a / B(a, b)) = 1/a + sum over n of (1-b)(2-b)...(n-b)/n! x^n/(a+n), for b x <= 1 and x <= 0.95.
 double Series(double a, double b, double x) noexcept {
-    const double stop = kEpsilon / a;
-    double product = (1 - b) * x, sum = 0;
-    double term = product / (a + 1);
-    const double first = term;
-    for (double n = 2; std::fabs(term) > stop; n += 1) {
-        product *= (n - b) * x / n;
-        term = product / (a + n);
+    const double stop = kEpsilon / a, product = (1 - b) * x, x2 = x * x;
+    // The terms n and n + 1, none larger than the one before, and from them those two further on.
+    TwoLanes n = {1, 2};
+    TwoLanes term = {product / (a + 1), product * (2 - b) * x / (2 * (a + 2))}, sum = {0, term[1]};
+    const double first = term[0];
+    while (std::fabs(term[0]) > stop) {
+        const TwoLanes one = n + 1, two = n + 2;
+        term *= ((one - b) * (two - b) * x2 * (a + n)) / (one * two * (a + two));
         sum += term;
+        n = two;
     }
-    return sum + first + 1 / a;
+    return (sum[0] + sum[1]) + first + 1 / a;
 }
 
 // 1/(1 + d1/(1 + d2/(1 + ...))) with d(odd) = -z k1 k2/(k3 k4), d(even) = z k5 k6/(k7 k8), by the three-term
 // recurrence. The two fractions differ in z, in which of a + b and b - 1 stands in k2 and which in k6, and in their
-// direction.
+// direction. The lanes hold k1 and k5, k2 and k6, k3 and k7, k4 and k8; and numerator and denominator.
 double Fraction(double a, double k2, double step2, double k6, double step6, double z) noexcept {
-    double k1 = a, k3 = a, k4 = a + 1, k5 = 1, k7 = a + 1, k8 = a + 2;
-    double p2 = 0, q2 = 1, p1 = 1, q1 = 1, value = 1, last = 1;
+    const TwoLanes signed_z = {-z, z}, step = {step2, step6};
+    TwoLanes above0 = {a, 1}, above1 = {k2, k6}, below0 = {a, a + 1}, below1 = {a + 1, a + 2};
+    TwoLanes last = {0, 1}, at = {1, 1};
+    double value = 1, last_change = 1;
     const auto advance = [&](double d) {
-        const double p = p1 + p2 * d, q = q1 + q2 * d;
-        p2 = p1;
-        p1 = p;
-        q2 = q1;
-        q1 = q;
+        const TwoLanes next = at + last * d;
+        last = at;
+        at = next;
     };
     for (int round = 0; round < kMostRounds; ++round) {
-        advance(-(z * k1 * k2) / (k3 * k4));
-        advance((z * k5 * k6) / (k7 * k8));
-        const double r = q1 != 0 ? p1 / q1 : 0;
-        double change = 1;
+        const TwoLanes d = (signed_z * above0 * above1) / (below0 * below1);
+        advance(d[0]);
+        advance(d[1]);
+        const double p = at[0], q = at[1], r = q != 0 ? p / q : 0;
         if (r != 0) {
-            change = std::fabs((value - r) / r);
+            const double change = std::fabs(value - r), size = std::fabs(r);
             value = r;
+            if (change <= 3 * kEpsilon * size) break;
+            if (round >= kRounds) {
+                if (change <= kFineTolerance * size && change >= last_change * size) break;
+                last_change = change / size;
+            }
         }
-        if (change <= 3 * kEpsilon || (round >= kRounds && change <= kFineTolerance && change >= last)) break;
-        last = change;
-        k1 += 1;
-        k2 += step2;
-        k3 += 2;
-        k4 += 2;
-        k5 += 1;
-        k6 += step6;
-        k7 += 2;
-        k8 += 2;
+        above0 += 1;
+        above1 += step;
+        below0 += 2;
+        below1 += 2;
         double scale = 1;
-        if (std::fabs(q1) + std::fabs(p1) > kBig) scale = kBigInverse;
-        if (std::fabs(q1) < kBigInverse || std::fabs(p1) < kBigInverse) scale = kBig;
-        p2 *= scale;
-        p1 *= scale;
-        q2 *= scale;
-        q1 *= scale;
+        if (std::fabs(q) + std::fabs(p) > kBig) scale = kBigInverse;
+        if (std::fabs(q) < kBigInverse || std::fabs(p) < kBigInverse) scale = kBig;
+        if (scale != 1) {
+            last *= scale;
+            at *= scale;
+        }
     }
     return value;
 }
@@ -124,6 +128,31 @@ double Uniform(double a, double b, double x) noexcept {
     return 0.5 * std::erfc(d < 0 ? root : -root) + std::exp(-exponent) / std::sqrt(kTwoPi * sum) * c0;
 }
 
+bool SeriesServes(double b, double x) noexcept { return b * x <= 1 && x <= 0.95; }
+
+// x in the direction in which it is taken: y = 1 - x, what rounding took from x, and the distance |b x - a y| from the
+// mean.
+struct Directed {
+    double a, b, x, y, lost, from_mean;
+};
+
+// I_x(a, b) from below, without a complement. density() gives x^a y^b / B(a, b).
+template <class Density>
+double Direct(Directed to, Density density) noexcept {
+    const auto [a, b, x, y, lost, from_mean] = to;
+    if (SeriesServes(b, x)) {
+        // x^a / B(a, b) is the density short of y^b, here at least e^-2 or so.
+        const double power = a < kDirectEnd && b < kDirectEnd ? std::pow(x, a) * (1 + a * lost / x) / SpecBeta(a, b)
+                                                              : density() * std::exp(-b * std::log1p(-x));
+        return power * Series(a, b, x);
+    }
+    const double factor = density();
+    if (factor == 0) return 0;
+    if ((a > b ? a : b) > kContractedOrder) return factor * ContractedFraction(a, b, x, y, from_mean);
+    if (x * (a + b - 2) - (a - 1) < 0) return factor / a * Fraction(a, a + b, 1, b - 1, -1, x);
+    return factor / a * Fraction(a, b - 1, -1, a + b, 1, x / y) / y;
+}
+
 }  // namespace
 
 double SpecIncompleteBeta(double a, double b, double x) noexcept {
@@ -137,35 +166,16 @@ double SpecIncompleteBeta(double a, double b, double x) noexcept {
     if (a >= kLargeOrder && b >= kLargeOrder) return Uniform(a, b, x);
     if (a < 1e-290) return b / (a + b);  // the limit; the Gammas of such an a overflow
 
-    const double density = BetaDensity(a, b, x);
-    double y = 1 - x;
-    // x^a / B(a, b) is the density short of (1 - x)^b, here at least e^-2 or so.
-    const auto by_series = [&](double a, double b, double x) {
-        return density * std::exp(-b * std::log1p(-x)) * Series(a, b, x);
-    };
-    if (density != 0 && b * x <= 1 && x <= 0.95) return by_series(a, b, x);
-
-    const double above_mean = BetaAboveMean(a, b, x);
+    const bool short_series = SeriesServes(b, x);
+    const double y = 1 - x, lost = (1 - y) - x, above_mean = short_series ? 0 : BetaAboveMean(a, b, x);
+    // Of the arguments as they came, since an exchange rounds x.
+    const auto density = [=]() noexcept { return BetaDensity(a, b, x); };
     // Below the mean too, where b < 1 would make the contracted fraction's terms cancel and the complement has a short
     // series.
-    const bool exchanged = above_mean > 0 || (a > kContractedOrder && b < 1 && b > kEpsilon && a * y <= 1);
-    if (exchanged) {
-        std::swap(a, b);
-        std::swap(x, y);
-    }
-    double value;
-    if (density == 0) {
-        value = 0;
-    } else if (exchanged && b * x <= 1 && x <= 0.95) {
-        value = by_series(a, b, x);
-    } else if ((a > b ? a : b) > kContractedOrder) {
-        value = density * ContractedFraction(a, b, x, y, std::fabs(above_mean));
-    } else if (x * (a + b - 2) - (a - 1) < 0) {
-        value = density / a * Fraction(a, a + b, 1, b - 1, -1, x);
-    } else {
-        value = density / a * Fraction(a, b - 1, -1, a + b, 1, x / y) / y;
-    }
-    if (!exchanged) return value;
+    const bool exchanged =
+        !short_series && (above_mean > 0 || (a > kContractedOrder && b < 1 && b > kEpsilon && a * y <= 1));
+    if (!exchanged) return Direct({a, b, x, y, 0, -above_mean}, density);
+    const double value = Direct({b, a, y, x, lost, std::fabs(above_mean)}, density);
     return value <= kEpsilon ? 1 - kEpsilon : 1 - value;
 }
 

@@ -54,17 +54,17 @@ double Fraction(double a, double x) noexcept {
     if (factor < kLeastFactor) return 0;
     double y = 1 - a, z = x + y + 1, c = 0;
     double p2 = 1, q2 = x, p1 = x + 1, q1 = z * x;
-    double value = p1 / q1, change;
+    double value = p1 / q1;
+    bool settled = false;
     do {
         c += 1;
         y += 1;
         z += 2;
         const double yc = y * c;
         const double p = p1 * z - p2 * yc, q = q1 * z - q2 * yc;
-        change = 1;
         if (q != 0) {
             const double r = p / q;
-            change = std::fabs((value - r) / r);
+            settled = !(std::fabs(value - r) > kEpsilon * std::fabs(r));  // NaN too
             value = r;
         }
         p2 = p1;
@@ -77,7 +77,7 @@ double Fraction(double a, double x) noexcept {
             q2 /= kBig;
             q1 /= kBig;
         }
-    } while (change > kEpsilon);
+    } while (!settled);
     return factor * value;
 }
 

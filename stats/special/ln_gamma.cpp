@@ -52,8 +52,8 @@ double LnGammaCorrection(double x) noexcept {
     static constexpr double kA[] = {8.11614167470508450300E-4, -5.95061904284301438324E-4, 7.93650340457716943945E-4,
                                     -2.77777777730099687205E-3, 8.33333333333331927722E-2};
     static constexpr double kShort[] = {7.9365079365079365e-4, -2.7777777777777778e-3, 1.0 / 12};
-    const double p = 1 / (x * x);
-    return (x >= 1000 ? Polynomial(p, kShort) : Polynomial(p, kA)) / x;
+    const double w = 1 / x, p = w * w;
+    return w * (x >= 1000 ? Polynomial(p, kShort) : Polynomial(p, kA));
 }
 
 double SpecLnGamma(double x, int* sign) noexcept {

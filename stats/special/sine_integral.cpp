@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "frame/types.h"
+#include "stats/special/eighth_turns.h"
 #include "stats/special/polynomial_pair.h"
 
 namespace quorvan {
@@ -20,10 +21,11 @@ struct Integrals {
 template <std::size_t A, std::size_t B, std::size_t C, std::size_t D>
 Integrals ByAuxiliary(double x, const double (&fn)[A], const double (&fd)[B], const double (&gn)[C],
                       const double (&gd)[D]) noexcept {
-    const double z = 1 / (x * x), s = std::sin(x), c = std::cos(x);
+    const SineCosine t = SinCosLessEighths<0>(x);
+    const double z = 1 / (x * x);
     const PolynomialPair fs = Polynomials<true>(z, fn, fd), gs = Polynomials<true>(z, gn, gd);
     const double f = fs.first / (x * fs.second), g = z * gs.first / gs.second;
-    return {kHalfPi - f * c - g * s, f * s - g * c};
+    return {kHalfPi - f * t.cosine - g * t.sine, f * t.sine - g * t.cosine};
 }
 
 // Both at once for x >= 0; the compiler drops the one that a caller leaves.

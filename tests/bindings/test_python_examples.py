@@ -64,6 +64,7 @@ def test_distortion_beside_its_truth():
     for row in rows[1:4]:
         assert row[1] == pytest.approx(row[2], abs=2e-6)  # leakage of the harmonics under the Hanning window
     assert rows[4][0] == pytest.approx(rows[4][1], rel=1e-3)
+    assert rows[5][0] == pytest.approx(rows[4][0], rel=1e-3)  # without noise the same, in parts of the whole
 
 
 def test_curve_fit_recovers_the_discharge():

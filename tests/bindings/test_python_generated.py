@@ -174,3 +174,12 @@ def test_every_module_is_part_of_the_wheel():
                for p in python_binding.PACKAGE.rglob("*.py")}
     assert folders == set(re.findall(r'"(quorvan[\w.]*)"', re.search(r"packages = (\[.*?\])", project)[1]))
     assert pathlib.Path(qv.__file__).with_name("py.typed").exists()
+
+
+@pytest.mark.parametrize("name", MODELS)
+def test_documentation_speaks_of_nothing_that_only_c_has(name):
+    text = inspect.getdoc(getattr(qv, name))
+    parameters = text.partition("Parameters\n")[2].partition("Raises\n")[0]
+    assert not re.search(r"\bnull\b|in: .*; out: |\b(?:other than|not) 0:|may be x$|together with", parameters, re.M | re.I)
+    if "release" not in name:
+        assert "memory_release" not in text

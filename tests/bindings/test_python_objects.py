@@ -76,6 +76,58 @@ def test_arguments_that_no_call_can_take_are_refused_before_it(call, error):
         call()
 
 
+@pytest.mark.parametrize("call, told", [
+    (lambda: qv.power_spectrum(None), "x must be an array of float64, not NoneType"),
+    (lambda: qv.power_spectrum("text"), "x must be an array of float64, not str"),
+    (lambda: qv.power_spectrum(X + 1j), "x must be an array of float64, not an array of complex128"),
+    (lambda: qv.power_spectrum(X.reshape(10, 100)), "x must have 1 dimension, not 2"),
+    (lambda: qv.power_spectrum([[1.0, 2.0], [3.0]]), "x must be an array; its rows differ in length"),
+    (lambda: qv.solve([[1.0]], [[1.0], [2.0, 3.0]]), "b must be an array; its rows differ in length"),
+    (lambda: qv.power_spectrum(X, "0.1"), "dt must be a real number, not str"),
+    (lambda: qv.power_spectrum(X, None), "dt must be a real number, not NoneType"),
+    (lambda: qv.power_spectrum(X, 1j), "dt must be a real number, not complex"),
+    (lambda: qv.power_spectrum(X, X[:2]), r"dt must be a real number, not ndarray of shape \(2,\)"),
+    (lambda: qv.sine_wave(8.0, 1, 0.1), "n must be an integer, not float"),
+    (lambda: qv.sine_wave(8, 1, 0.1, "0"), "phase must be a real number, not str"),
+    (lambda: qv.complex_exp("1"), "x must be a number, not str"),
+    (lambda: qv.chirp_z(X, "a", 1j), "a must be a number, not str"),
+    (lambda: qv.beta(1.0, 2.0, "x"), "x must be a real number, not str"),
+    (lambda: qv.peak_power_frequency(X, window=3.0), "window must be WindowProperties or a pair"),
+    (lambda: qv.spectrum_unit_convert(X, 5), "unit must be a text, not int"),
+    (lambda: qv.window_apply_symmetric(X, 1.0), "window must be a Window, its name or its code, not float"),
+    (lambda: qv.window_apply_symmetric(X, "hann"), r"window must be one of .*\(did you mean 'hanning'\?\)"),
+    (lambda: qv.fit_nonlinear(X, X, None, [1.0]), "model must be a function of x and the coefficients"),
+    (lambda: qv.fit_polynomial_constrained(X, X, 2, fixed_orders=[0]), "fixed_orders and fixed_values go together"),
+    (lambda: qv.IirFilter("lopass", 4), "kind must be one of .* 'lowpass'"),
+])
+def test_message_names_the_argument_and_what_it_must_be(call, told):
+    with pytest.raises((TypeError, ValueError), match=told):
+        call()
+
+
+def test_sizes_beyond_32_bits_are_refused_before_their_memory_is_taken():
+    for call in (lambda: qv.sine_wave(2**31, 1.0, 0.1), lambda: qv.fft(X, 2**40), lambda: qv.gaussian_noise(2**62, 1.0)):
+        with pytest.raises(OverflowError, match="sizes must fit 32 bits"):
+            call()
+
+
+def test_numbers_of_all_kinds_are_real_numbers():
+    import decimal
+    import fractions
+    wanted = qv.power_spectrum(X, 0.5)
+    for half in (np.float32(0.5), np.array(0.5), fractions.Fraction(1, 2), decimal.Decimal("0.5")):
+        assert qv.power_spectrum(X, half).df == wanted.df
+
+
+def test_solve_takes_several_right_hand_sides():
+    a, b = np.array([[2.0, 1.0], [1.0, 3.0]]), np.array([[3.0, 1.0, 0.0], [5.0, 0.0, 1.0]])
+    np.testing.assert_allclose(a @ qv.solve(a, b), b, atol=1e-15)
+    np.testing.assert_allclose(a @ qv.solve(a, 1j * b), 1j * b, atol=1e-15)
+    out = np.empty((2, 3))
+    assert qv.solve_kind(a, b, "positive_definite", out=out) is out
+    np.testing.assert_allclose(a @ out, b, atol=1e-15)
+
+
 def test_read_only_out_is_refused():
     out = np.zeros(1000)
     out.flags.writeable = False
@@ -99,6 +151,13 @@ def test_unit_flags_can_be_joined():
     np.testing.assert_array_equal(out, [0, 4])
 
 
+@pytest.mark.parametrize("told", ["/nowhere/libquorvan.so", "libnowhere.so.0"])
+def test_missing_shared_object_is_told_with_what_to_do(monkeypatch, told):
+    monkeypatch.setenv("QUORVAN_LIBRARY", told)
+    with pytest.raises(ImportError, match=f"{told} cannot be loaded .*QUORVAN_LIBRARY.*wheel"):
+        rt.load_library()
+
+
 # --- Arrays ----------------------------------------------------------------------------------------------------------
 
 
@@ -107,6 +166,21 @@ def test_lists_integers_and_strided_arrays_are_arrays():
     np.testing.assert_array_equal(qv.array_negate(np.arange(10)[::2]), [0, -2, -4, -6, -8])
     np.testing.assert_array_equal(qv.transpose(np.arange(6.0).reshape(2, 3).T), np.arange(6).reshape(2, 3))
     np.testing.assert_array_equal(qv.array_negate(np.arange(3, dtype=">f8")), [0, -1, -2])
+
+
+def test_functions_of_scalars_take_arrays_of_any_shape():
+    x = np.linspace(-2, 2, 6).reshape(2, 3)
+    found = qv.airy(x)
+    assert type(found) is qv.AiryResult and found.ai.shape == found.bi.shape == (2, 3)
+    assert found.bi[1, 2] == qv.airy(2.0).bi
+    assert qv.beta([[1.0], [2.0]], [1, 2, 3]).shape == (2, 3)
+    assert type(qv.airy([])) is qv.AiryResult and qv.airy(np.empty((0, 3))).ai.shape == (0, 3)
+    assert qv.gamma([]).shape == (0,) and qv.gamma([], None).dtype == float
+    np.testing.assert_array_equal(qv.gamma([3, 4], None), [2, 6])
+    with pytest.raises(TypeError, match="a must be a real number, not str"):
+        qv.gamma(["3"])
+    with pytest.raises(ValueError):
+        qv.beta([1.0, 2.0], [1.0, 2.0, 3.0])
 
 
 def test_no_copy_of_what_fits():
@@ -178,6 +252,27 @@ def test_plan_is_used_and_given_back():
     plan.close()
     with pytest.raises(ValueError, match="closed"):
         plan.fft(X)
+
+
+def test_filter_without_a_design_is_refused():
+    lowpass = qv.IirFilter("lowpass", 4)
+    assert not lowpass.designed and np.isnan(lowpass.a).all() and np.isnan(lowpass.b).all()
+    for x in (X, X + 0j):
+        with pytest.raises(ValueError, match="no design yet"):
+            lowpass.apply(x)
+    with pytest.raises(qv.QuorvanError):
+        lowpass.butterworth(1000, 600)
+    assert not lowpass.designed
+    assert lowpass.butterworth(1000, 100).designed and np.isfinite(lowpass.apply(X)).all()
+    assert np.isnan(qv.iir_cascade_apply(X, qv.iir_filter_create("lowpass", 4))).all()  # not what was in memory
+
+
+def test_objects_tell_what_they_are():
+    with qv.FftPlan(8) as plan, qv.IirFilter("bandpass", 3) as bandpass:
+        assert repr(plan) == "FftPlan(8)"
+        assert repr(bandpass) == "IirFilter(bandpass, order 3, not designed)"
+        assert repr(bandpass.elliptic(1000, 100, 200, ripple=1, attenuation=40)) == "IirFilter(bandpass, order 3)"
+    assert repr(plan) == "FftPlan(closed)" and repr(bandpass) == "IirFilter(closed)"
 
 
 def test_object_that_cannot_be_made_raises():

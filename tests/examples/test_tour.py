@@ -205,3 +205,8 @@ def test_whole_tour_is_all_chapters_each_on_one_screen():
     for name in CHAPTERS:
         lines = text(name).splitlines()
         assert len(lines) <= 30 and max(map(len, lines)) <= 100, name
+
+
+def test_help_is_no_failure():
+    done = tour("--help")
+    assert done.returncode == 0 and done.stdout.startswith("usage: tour [FILE") and not done.stderr

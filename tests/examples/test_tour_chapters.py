@@ -245,6 +245,7 @@ def test_distortion_of_the_amplifier_is_the_one_it_was_given():
         for reading in readings:
             assert reading == near(value, rel=5e-6, abs=bound.get(name, amplitude)), name
     assert rows["fundamental, frequency"][0] == [near(997.0, rel=5e-6)] * 3
+    assert "The spectrum has no reading of it" in text("amplifier")
 
 
 # --- trend -----------------------------------------------------------------------------------------------------------

@@ -32,6 +32,22 @@ def test_generated_files_repeat_no_name():
     assert len(set(names)) == 491
 
 
+def test_introduction_is_paragraphs_and_formulas(table):
+    replace(table / "peaks", "title", "intro  One,\nintro  two.\nformula a  = b\nformula  c = d\nintro\nintro  Three.\nintro\n"
+            "intro  Four.\ntitle")
+    family = next(f for f in boundary.read_table() if f.name == "peaks")
+    assert family.blocks[:3] == [("intro", ["One,", "two."]), ("formula", ["a  = b", "c = d"]), ("intro", ["Three."])]
+    assert family.blocks[3][0] == "intro" and family.blocks[3][1][0] == "Four."
+    assert " *     a  = b\n" in boundary.header([family])
+
+
+@pytest.mark.parametrize("family", boundary.read_table(), ids=lambda family: family.name)
+def test_family_begins_with_what_it_is_for_and_shows_its_formulas(family):
+    words = [word for word, _ in family.blocks]
+    assert words[0] == "intro" and words[-1] == "intro"
+    assert "formula" in words or family.name == "memory"
+
+
 @pytest.mark.parametrize("family, old, new, message", [
     ("peaks", "194 PeakDetect", "3 PeakDetect", "ZemFunc3: listed twice"),
     ("peaks", "194 PeakDetect", "199 PeakDetect", "ZemFunc199: listed twice or not one of the numbers"),

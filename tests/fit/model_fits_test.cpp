@@ -520,6 +520,77 @@ TEST(FitGaussian, EverySetGivesOneResult) {
     for (const Values& c : found) EXPECT_EQ(c, found[0]);
 }
 
+// The climb by sums over all samples in every trial; returns the residue.
+double ClimbByFullSums(const Reals& x, const Reals& y, const double* w, double tolerance, Values& c) {
+    const std::size_t n = x.size();
+    const auto shape = [&](const Values& at, std::size_t i) {
+        const double z = (x[i] - at[1]) / at[2];
+        return std::exp(-0.5 * (z * z));
+    };
+    const auto weight = [&](std::size_t i) { return w ? std::fabs(w[i]) : 1; };
+    const auto error_of = [&](const Values& at) {
+        double sum = 0;
+        for (std::size_t i = 0; i < n; ++i) sum += weight(i) * std::pow(at[0] * shape(at, i) - y[i], 2);
+        return sum / static_cast<double>(n);
+    };
+    double error = error_of(c), previous = error + 1, step = 1;
+    const double first = error;
+    const Values start = c;
+    Values gradient(3);
+    bool wanted = true;
+    for (int count = 0; count <= 500; ++count) {
+        if (!(std::fabs(previous - error) > previous * tolerance) || !(error > 1e-12)) break;
+        if (wanted) {
+            previous = error;
+            gradient = {0, 0, 0};
+            for (std::size_t i = 0; i < n; ++i) {
+                const double e = shape(c, i), r = (y[i] - c[0] * e) * weight(i), distance = x[i] - c[1];
+                const double t = r * distance * c[0] * e / (c[2] * c[2]);
+                gradient[0] += r * e;
+                gradient[1] += t;
+                gradient[2] += t * distance / c[2];
+            }
+        }
+        Values trial = c;
+        for (std::size_t j = 0; j < 3; ++j) trial[j] += step * gradient[j];
+        error = error_of(trial);
+        wanted = previous >= error;
+        if (wanted)
+            c = trial;
+        else
+            step *= 0.5;
+    }
+    if (error < first || previous < first) return error;
+    c = start;
+    return first;
+}
+
+TEST(FitGaussian, ClimbsAsWithTheSumsOverAllSamplesOfEveryTrial) {
+    // A trial that is far too large shows in its first samples already. 1e-9 is far above what roundings become in a
+    // climb that contracts, and far below a step.
+    const std::size_t n = 2605;
+    Reals x(n), y(n), weights(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        x[i] = 0.5 + 3.5 * static_cast<double>(i) / static_cast<double>(n);
+        y[i] = 3 * std::exp(-0.5 * std::pow((x[i] - 2) / 0.7, 2)) + 0.05 * std::sin(static_cast<double>(i * i));
+        weights[i] = 1 + 0.5 * std::cos(static_cast<double>(i));
+    }
+    const Reals guess{2, 2.4, 1.1};
+    ForEachTarget([&] {
+        for (const double* w : {static_cast<const double*>(nullptr), static_cast<const double*>(weights.data())})
+            for (const double tolerance : {1e-4, 0.05, 0.5, 0.99, 3.0}) {
+                Call call(x, y, 0, w);
+                call.guess = guess;
+                call.tolerance = tolerance;
+                ASSERT_EQ(kGaussian.fit(call), 0);
+                Values c = guess.values();
+                const double residue = ClimbByFullSums(x, y, w, tolerance, c);
+                for (std::size_t j = 0; j < 3; ++j) EXPECT_NEAR(call.c[j], c[j], 1e-9 * c[j]) << tolerance;
+                EXPECT_NEAR(call.residue, residue, 1e-9 * residue) << tolerance;
+            }
+    });
+}
+
 TEST(FitGaussian, TheWidthIsStoredAsItsMagnitude) {
     const Reals guess{4, 2.2, -1.1}, positive{4, 2.2, 1.1};
     Call call(kX, kY), same(kX, kY);

@@ -6,7 +6,7 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${STAGING} 
 set(library ${STAGING}/${LIBDIR}/libquorvan.so)
 foreach(file ${library} ${library}.${SOVERSION} ${library}.${VERSION} ${STAGING}/${LIBDIR}/pkgconfig/quorvan.pc
         ${STAGING}/${LIBDIR}/cmake/quorvan/quorvan-config.cmake ${STAGING}/include/quorvan/quorvan.h
-        ${STAGING}/include/quorvan/types.h)
+        ${STAGING}/include/quorvan/types.h ${STAGING}/include/quorvan/quorvan.hpp)
     if(NOT EXISTS ${file})
         message(FATAL_ERROR "not installed: ${file}")
     endif()

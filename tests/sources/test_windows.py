@@ -10,7 +10,8 @@ import mpmath
 import numpy as np
 import pytest
 import scipy.signal.windows as sw
-import scipy.special
+
+import exact
 
 EPS = np.finfo(float).eps
 PI, TWO_PI = 3.141592653589793, 6.283185307179586
@@ -53,7 +54,7 @@ NAMED = {1: (89, 430), 2: (88, 431), 3: (15, 433), 4: (72, 435), 5: (14, 432), 6
 DIRECT = {30: (180, 439), 31: (343, 446), 32: (344, 447), 33: (345, 448), 34: (346, 449)}
 
 
-def same_bits(actual, expected):
+def equal_numbers(actual, expected):
     actual, expected = np.ascontiguousarray(actual, float), np.ascontiguousarray(expected, float)
     assert np.array_equal(actual.view(np.int64), expected.view(np.int64)), (actual, expected)
 
@@ -71,10 +72,10 @@ def check_twins(qv, real, complex_, n, window, *arguments):
     z = x + 1j * np.random.default_rng(n + 1).standard_normal(n)
     expected_re, expected_im = x * window, z.imag * window
     assert getattr(qv, f"ZemFunc{real}")(x, n, *arguments) == 0
-    same_bits(x, expected_re)
+    equal_numbers(x, expected_re)
     assert getattr(qv, f"ZemFunc{complex_}")(z, n, *arguments) == 0
-    same_bits(z.real, expected_re)
-    same_bits(z.imag, expected_im)
+    equal_numbers(z.real, expected_re)
+    equal_numbers(z.imag, expected_im)
 
 
 # The documented evaluations.
@@ -254,7 +255,7 @@ def test_gaussian_follows_its_formula_to_the_last_bit(qv, sigma):
     for n in LENGTHS:
         check_twins(qv, 280, 441, n, gaussian(n, effective, n + 1.0, n / 2), sigma)
         if sigma >= 0:  # the entry replaces a negative parameter itself
-            same_bits(of_ones(qv, 281, n, 62, sigma), gaussian(n, effective, float(n), (n - 1) / 2))
+            equal_numbers(of_ones(qv, 281, n, 62, sigma), gaussian(n, effective, float(n), (n - 1) / 2))
 
 
 def test_gaussian_is_scipys(qv):
@@ -282,8 +283,8 @@ def test_chebyshev_is_its_definition_with_thirty_digits(qv, attenuation):
         assert np.abs(x - periodic).max() <= chebyshev_tolerance(n + 1), n
         z = np.full(n, 1 - 2j)
         assert qv.ZemFunc442(z, n, attenuation) == 0
-        same_bits(z.real, x)
-        same_bits(z.imag, -2 * x)
+        equal_numbers(z.real, x)
+        equal_numbers(z.imag, -2 * x)
         symmetric = of_ones(qv, 281, n, 61, attenuation)
         assert np.abs(symmetric - chebyshev_oracle(n, ratio)).max() <= chebyshev_tolerance(n), n
 
@@ -316,13 +317,13 @@ def test_cosine_taper_follows_its_formula_to_the_last_bit(qv, ratio):
         for i in range(1, m):
             w[i] = w[n - 1 - i] = math.sin(i * PI / (2 * m)) * math.sin(i * PI / (2 * m))
         window = of_ones(qv, 278, n, ratio)
-        same_bits(window, w)
+        equal_numbers(window, w)
         z = np.full(n, 1 - 2j)
         assert qv.ZemFunc438(z, n, ratio) == 0
-        same_bits(z.real, window)
+        equal_numbers(z.real, window)
         assert np.array_equal(z.imag, -2 * window)
         if ratio == 0.2:
-            same_bits(of_ones(qv, 35, n), w)
+            equal_numbers(of_ones(qv, 35, n), w)
 
 
 @pytest.mark.parametrize("final", [0.1, 1.0, 3.0, 1e-8])
@@ -346,11 +347,11 @@ def test_force_keeps_the_first_percents_and_clears_the_rest_whatever_it_holds(qv
         x[kept:] = np.nan
         z = x * (1 + 0j)
         assert qv.ZemFunc81(x, n, duty) == 0
-        same_bits(x, expected)
+        equal_numbers(x, expected)
         z.imag = z.real
         assert qv.ZemFunc443(z, n, duty) == 0
-        same_bits(z.real, expected)
-        same_bits(z.imag, expected)
+        equal_numbers(z.real, expected)
+        equal_numbers(z.imag, expected)
 
 
 # By code.
@@ -385,7 +386,7 @@ def test_scaled_cosine_sums_divide_by_the_first_coefficient(qv, code):
         assert tuple(properties) == STORED[code]
         x = np.ones(n)
         assert qv.ZemFunc152(x, n, code, properties) == 0
-        same_bits(x, window)
+        equal_numbers(x, window)
 
 
 @pytest.mark.parametrize("code,parameter", [
@@ -396,13 +397,13 @@ def test_scaled_direct_windows_divide_by_the_measured_gain(qv, code, parameter):
         enbw, gain = measured(window.tolist())
         properties = np.zeros(2)
         check_twins(qv, 337, 428, n, window / gain, code, parameter, properties)
-        same_bits(properties, [enbw, gain])
+        equal_numbers(properties, [enbw, gain])
         assert qv.ZemFunc445(n, code, parameter, properties) == 0
-        same_bits(properties, [enbw, gain])
+        equal_numbers(properties, [enbw, gain])
         if parameter == 0.0:
             x = np.ones(n)
             assert qv.ZemFunc152(x, n, code, properties) == 0
-            same_bits(x, window / gain)
+            equal_numbers(x, window / gain)
 
 
 @pytest.mark.parametrize("code", [*COSINE_SUMS, *DIRECT, 60])
@@ -453,4 +454,37 @@ def test_measured_properties_sum_in_index_order(qv):
     for n in LENGTHS:
         w = np.random.default_rng(n).standard_normal(n) + 0.5
         assert qv.ZemFunc283(w, n, properties) == 0
-        same_bits(properties, measured(w.tolist()))
+        equal_numbers(properties, measured(w.tolist()))
+
+
+@pytest.mark.parametrize("n", range(1, 18))
+def test_parameters_that_are_no_ordinary_numbers_go_through_the_same_formulas(qv, n):
+    with np.errstate(all="ignore"):
+        for beta in (1e200, -1e200, np.inf, np.nan, 5e-324):
+            w = kaiser(n, np.float64(beta)) if n > 1 else [bessel_series(0.0) / bessel_series(np.float64(beta))]
+            exact.equal_numbers(of_ones(qv, 113, n, beta), w)
+        for sigma in (1e-200, 5e-324, 1e200, np.inf, np.nan):
+            for number, arguments, length, middle in ((280, (sigma,), n + 1.0, n / 2),
+                                                      (281, (62, sigma), float(n), (n - 1) / 2)):
+                c = -0.5 / (np.float64(sigma) * sigma * (length * length))
+                w = np.exp(c * (np.arange(n) - middle) ** 2)
+                if number == 280 and n % 2 == 0:
+                    w[n // 2] = 1  # no matter what the exponent's factor is
+                exact.equal_numbers(of_ones(qv, number, n, *arguments), np.ones(1) if n == 1 else w)
+        for ratio in (np.nan, -np.inf, -0.0):
+            exact.equal_numbers(of_ones(qv, 278, n, ratio), np.ones(n))
+        if n > 1:
+            # The last ratio below 1 leaves no pair untouched but the middle.
+            m = n // 2 if n % 2 else n // 2 - 1
+            w = np.ones(n)
+            if m >= 1:
+                w[[0, -1]] = 0
+            for i in range(1, m):
+                w[i] = w[n - 1 - i] = math.sin(i * PI / (2 * m)) * math.sin(i * PI / (2 * m))
+            exact.equal_numbers(of_ones(qv, 278, n, 1 - 2.0**-53), w)
+            for final in (np.inf, np.nan, 5e-324):
+                step, e, w = math.log(final) / (n - 1), 0.0, []
+                for _ in range(n):
+                    w.append(np.exp(e) if math.isinf(e) or e != e or e > 709 else math.exp(e))
+                    e += step
+                exact.equal_numbers(of_ones(qv, 74, n, final), w)

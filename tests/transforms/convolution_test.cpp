@@ -1,10 +1,15 @@
 // Convolution and correlation of sequences.
+#include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
+#include <string>
 
 #include "quorvan/quorvan.h"
 #include "tests/support/failing_heap.h"
 #include "tests/support/targets.h"
 #include "tests/transforms/reference.h"
+#include "transforms/block_convolution.h"
+#include "transforms/fft_plan.h"
 
 namespace quorvan::testing {
 namespace {
@@ -340,6 +345,148 @@ TEST(AutoCorrelateComplex, IsTheCorrelationWithItself) {
         EXPECT_EQ(ZemFunc425(x, n, 3, out), -20061);
         ExpectNear(Convolved(ReversedConjugate(x), x), out, FftBound(x, x));
     }
+}
+
+// By blocks, when one sequence is much longer than the other. The direct sum, tested above, is the truth; its own
+// error, of m products an element, is a small part of the bound.
+
+template <class T>
+Guarded<T> Noise(int n, int seed) {
+    if constexpr (std::is_same_v<T, double>)
+        return RandomReals(n, seed);
+    else
+        return RandomRecords(n, seed);
+}
+
+// Calls check(x, y) with the longer sequence first and second.
+template <class T, class Check>
+void InBothOrders(int n, int m, Check check) {
+    const Guarded<T> x = Noise<T>(n, 21), y = Noise<T>(m, 22);
+    check(x, y);
+    check(y, x);
+}
+
+void ExpectBlocksAgree(int n, int m) {
+    SCOPED_TRACE(std::to_string(n) + " and " + std::to_string(m));
+    InBothOrders<double>(n, m, [](const Reals& x, const Reals& y) {
+        const Size n = x.size(), m = y.size();
+        Reals expected = Output(n + m - 1), out = Output(n + m - 1);
+        ASSERT_EQ(ZemFunc372(x, n, y, m, 0, expected), 0);
+        ASSERT_EQ(ZemFunc32(x, n, y, m, out), 0);
+        ExpectNear(expected, out, FftBound(x, y));
+        ASSERT_EQ(ZemFunc373(x, n, y, m, 0, expected), 0);
+        ASSERT_EQ(ZemFunc33(x, n, y, m, out), 0);
+        ExpectNear(expected, out, FftBound(x, y));
+    });
+    InBothOrders<ComplexRecord>(n, m, [](const Records& x, const Records& y) {
+        const Size n = x.size(), m = y.size();
+        Records expected = RecordOutput(n + m - 1), out = RecordOutput(n + m - 1);
+        ASSERT_EQ(ZemFunc391(x, n, y, m, 0, expected), 0);
+        ASSERT_EQ(ZemFunc391(x, n, y, m, 1, out), 0);
+        ExpectNear(expected, out, FftBound(x, y));
+        ASSERT_EQ(ZemFunc421(x, n, y, m, 0, expected), 0);
+        ASSERT_EQ(ZemFunc421(x, n, y, m, 1, out), 0);
+        ExpectNear(expected, out, FftBound(x, y));
+    });
+}
+
+// Whether transforms of n and m elements go by blocks, of reals and of records.
+bool GoesByBlocks(Count n, Count m) {
+    const Count S = FftFastSize(n + m - 1);
+    return BlockLength<double>(n, m, S) > 0 && BlockLength<ComplexRecord>(n, m, S) > 0;
+}
+
+template <class T>
+int BlockStep(Count n, Count m) {
+    return BlockLength<T>(n, m, FftFastSize(n + m - 1)) - m + 1;
+}
+
+TEST(Convolution, ByBlocksAgreesWithTheSumForEveryRestOfTheLastBlock) {
+    const int shortest = 1100, taps = 31;
+    ASSERT_TRUE(GoesByBlocks(shortest, taps));
+    // Two blocks of reals at once: from one result in the first of them to all of both.
+    const int rests = std::max(2 * BlockStep<double>(shortest, taps), BlockStep<ComplexRecord>(shortest, taps));
+    for (int n = shortest; n <= shortest + rests; ++n) ExpectBlocksAgree(n, taps);
+}
+
+TEST(Convolution, ByBlocksAgreesWithTheSumAroundTheLengthsWhereItBegins) {
+    // From one element to more than a third of the longer sequence.
+    for (int m : {1, 2, 3, 10, 100, 400})
+        for (int n : {1020, 1024, 1025, 1100, 2048, 3333}) ExpectBlocksAgree(n, m);
+    EXPECT_FALSE(GoesByBlocks(900, 31)) << "too short";
+    EXPECT_FALSE(GoesByBlocks(3333, 400)) << "too near to each other";
+    EXPECT_TRUE(GoesByBlocks(3333, 10));
+}
+
+TEST(Convolution, ByBlocksAgreesWithTheSumOnEveryInstructionSet) {
+    ASSERT_TRUE(GoesByBlocks(20000, 101));
+    ASSERT_TRUE(GoesByBlocks(30011, 500));
+    ForEachTarget([] {
+        ExpectBlocksAgree(20000, 101);
+        ExpectBlocksAgree(30011, 500);
+    });
+}
+
+TEST(Convolution, ByBlocksOfZerosIsZeroWithoutASign) {
+    const Reals x(2000), y(20);
+    Reals out = Output(2019);
+    ASSERT_TRUE(GoesByBlocks(2000, 20));
+    ASSERT_EQ(ZemFunc32(x, 2000, y, 20, out), 0);
+    for (double v : out) ASSERT_TRUE(v == 0 && !std::signbit(v));
+}
+
+TEST(Convolution, ByBlocksKeepsWhatIsNotFiniteNearItsPlace) {
+    const Reals y = RandomReals(31, 24);
+    for (double bad : {std::nan(""), HUGE_VAL}) {
+        Reals x = RandomReals(20000, 23);
+        x[10000] = bad;
+        Reals out = Output(20030);
+        ASSERT_EQ(ZemFunc32(x, 20000, y, 31, out), 0);
+        for (int i = 0; i < 31; ++i) EXPECT_FALSE(std::isfinite(out[10000 + i]));
+        for (int i = 0; i < 5000; ++i) ASSERT_TRUE(std::isfinite(out[i]) && std::isfinite(out[15000 + i]));
+    }
+}
+
+TEST(Convolution, BlocksAreAPowerOfTwoBetweenTwiceTheShorterAndTheWhole) {
+    for (Count longer : {1000, 1024, 5000, 100000, 1 << 24, (1 << 30) + 5, INT32_MAX - 1, INT32_MAX})
+        for (Count shorter : {1, 2, 31, 301, 4096, 1 << 20, 1 << 27, INT32_MAX / 2}) {
+            if (shorter > longer || Size{longer} + shorter - 1 > INT32_MAX) continue;
+            const Count S = FftFastSize(longer + (shorter - 1));
+            for (Count block :
+                 {BlockLength<double>(longer, shorter, S), BlockLength<ComplexRecord>(longer, shorter, S)}) {
+                if (block == 0) continue;
+                EXPECT_EQ(block & (block - 1), 0);
+                EXPECT_GE(block / 2, shorter);
+                EXPECT_LT(block, S);
+            }
+        }
+    EXPECT_GT(BlockLength<double>(INT32_MAX, 1, INT32_MAX), 0);
+    EXPECT_GT(BlockLength<ComplexRecord>(INT32_MAX - 5000, 5001, INT32_MAX), 0);
+}
+
+TEST(Convolution, ByBlocksReportsEveryFailedAllocationAndWritesNothing) {
+    const Reals x = RandomReals(2000), y = RandomReals(31);
+    const Records z = RandomRecords(2000), v = RandomRecords(31);
+    Reals reals = Output(2030);
+    Records records = RecordOutput(2030);
+    ASSERT_TRUE(GoesByBlocks(2000, 31));
+    const auto failsUnwritten = [&](const std::function<Status()>& call) {
+        ExpectEveryAllocationFails([&] {
+            reals = Output(2030);
+            records = RecordOutput(2030);
+            const Status status = call();
+            EXPECT_TRUE(status == 0 || (Untouched(reals) && Untouched(records)));
+            return status;
+        });
+    };
+    failsUnwritten([&] { return ZemFunc32(x, 2000, y, 31, reals); });
+    failsUnwritten([&] { return ZemFunc372(y, 31, x, 2000, 1, reals); });
+    failsUnwritten([&] { return ZemFunc33(x, 2000, y, 31, reals); });
+    failsUnwritten([&] { return ZemFunc373(y, 31, x, 2000, 1, reals); });
+    failsUnwritten([&] { return ZemFunc391(z, 2000, v, 31, 1, records); });
+    failsUnwritten([&] { return ZemFunc421(z, 2000, v, 31, 1, records); });
+    failsUnwritten([&] { return ZemFunc490(v, 31, z, 2000, 1, 1, records); });
+    ExpectEveryAllocationFails([&] { return ZemFunc376(x, 2000, y, 31, 1, 1, reals); });
 }
 
 // All of them

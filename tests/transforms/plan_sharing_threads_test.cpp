@@ -90,5 +90,21 @@ TEST(PlanSharingThreads, OneHeldPlanServesAllThreadsAtOnce) {
     ZemFunc261(plan);
 }
 
+TEST(PlanSharingThreads, APlanIsHeldWhileOtherThreadsTransformByIt) {
+    const std::int64_t n = 360;
+    const std::vector<ComplexRecord> alone = SpectrumAlone(n);
+    std::atomic<int> wrong{0};
+    Together([&](int thread) {
+        const std::vector<double> x = Samples(n);
+        for (int round = 0; round < kRounds; ++round) {
+            QvFftPlan* plan = thread % 2 ? ZemFunc260(n) : nullptr;
+            std::vector<ComplexRecord> out(n);
+            if (ZemFunc262(x.data(), n, n, plan, 0, out.data()) != 0 || !SameBits(out, alone)) ++wrong;
+            ZemFunc261(plan);
+        }
+    });
+    EXPECT_EQ(wrong.load(), 0);
+}
+
 }  // namespace
 }  // namespace quorvan

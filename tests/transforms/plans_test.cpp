@@ -169,6 +169,63 @@ TEST(Plan, TwiddlesFollowTheirRecurrenceToTheLastBitOnEveryInstructionSet) {
     });
 }
 
+// Lane by lane, against the rows of the plain tables.
+void ExpectBlockedAsStated(const FftStage& stage, Count f, Count m) {
+    const FftKernelTable& kernels = kFftKernels();
+    const double* block = stage.blockedTwiddles;
+    for (Count j = 0; j < m;) {
+        const Count width = kernels.blockWidth(m - j);
+        for (Count r = 1; r < f; ++r, block += 2 * width)
+            for (Count lane = 0; lane < width; ++lane) {
+                const Count column = j + kernels.laneColumn(width, lane);
+                if (column >= m) continue;
+                const Count at = (column - 1) * (f - 1) + (r - 1);
+                ASSERT_EQ(block[lane], column ? stage.twiddleCos[at] : 1) << f << " " << m << " " << r << " " << column;
+                ASSERT_EQ(block[width + lane], column ? stage.twiddleSin[at] : 0) << f << " " << m << " " << r;
+            }
+        j += width;
+    }
+}
+
+TEST(Plan, GivesItsKernelsTheStatedTwiddlesInTheirOwnOrder) {
+    ForEachTarget([] {
+        for (Count size : {4, 6, 12, 60, 75, 1024, 1000, 2048, 23 * 47, 2 * 43 * 41, 2 * 3 * 5 * 7 * 11 * 13, 9 * 53}) {
+            const Held plan(size);
+            for (Count i = 0; i + 1 < plan->factorCount; ++i)
+                ExpectBlockedAsStated(*plan->stages[i], plan->factors[i], plan->columns[i]);
+        }
+    });
+}
+
+TEST(Plan, OfATransformGetsItsPlainTwiddlesWhenACallerHoldsIt) {
+    for (Count size : {60, 2 * 53 * 3}) {
+        const HeldPlan ofTransform(size);
+        const FftPlan* plan = ofTransform;
+        EXPECT_EQ(plan->stages[0]->twiddleCos, nullptr) << "no transform reads them";
+        FailAllocation(0);
+        EXPECT_EQ(ZemFunc260(size), nullptr);
+        FailAllocation(-1);
+        EXPECT_EQ(plan->refCount, 1);
+        EXPECT_EQ(plan->stages[0]->twiddleCos, nullptr);
+        const Held held(size);
+        EXPECT_EQ(&RecordOf(held), plan);
+        for (Count i = 0; i + 1 < plan->factorCount; ++i) {
+            EXPECT_NE(plan->stages[i]->twiddleCos, nullptr);
+            EXPECT_NE(plan->stages[i]->twiddleSin, nullptr);
+        }
+        const Held again(size);
+        EXPECT_EQ(plan->refCount, 3);
+    }
+}
+
+TEST(Plan, OfAPrimeThatACallerHoldsHasThePlainTwiddlesOfItsPredecessorToo) {
+    const HeldPlan ofTransform(59);  // 58 = 2 * 29
+    const FftPlan* predecessor = static_cast<const FftPlan*>(ofTransform)->stages[0]->raderPlan;
+    EXPECT_EQ(predecessor->stages[0]->twiddleCos, nullptr);
+    const Held held(59);
+    EXPECT_NE(predecessor->stages[0]->twiddleCos, nullptr);
+}
+
 TEST(Plan, TablesOfGenericPrimesStartAtOneAndFollowTheRecurrence) {
     for (Count prime : {23, 47}) {
         const Held plan(prime);

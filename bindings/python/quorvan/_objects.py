@@ -38,6 +38,9 @@ class FftPlan(Handle):
     def _give_back(pointer):
         functions.plans._ZemFunc261(pointer)
 
+    def _told(self):
+        return str(getattr(self, "size", ""))
+
     def fft(self, x, shift=False, *, out=None):
         """The spectrum of real or complex data, cut or padded with zeros to the length of the plan."""
         return functions.fft(x, fft_size=self.size, plan=self, shift=shift, out=out)
@@ -96,9 +99,22 @@ class IirFilter(Handle):
         self._pointer, made._pointer = made._pointer, None
         self._complex_state = None
 
+    def _made(self):
+        record = self._record  # whose coefficients hold whatever was in memory: NaN tells that there is no design
+        ctypes.memset(record.a, 0xFF, 8 * record.a_count)
+        ctypes.memset(record.b, 0xFF, 8 * record.b_count)
+
+    def _told(self):
+        return f"{self.kind.name.lower()}, order {self.order}{'' if self.designed else ', not designed'}"
+
     @property
     def _record(self):
         return _IirRecord.from_address(rt.handle(self, "IirFilter"))
+
+    @property
+    def designed(self):
+        """Whether the filter has coefficients."""
+        return self._record.b[0] == self._record.b[0]
 
     @property
     def kind(self):
@@ -161,6 +177,8 @@ class IirFilter(Handle):
 
     def apply(self, x, *, out=None):
         """Filters the next block of a real or complex signal."""
+        if not self.designed:
+            raise ValueError("this IirFilter has no design yet; call butterworth or another family first")
         if not rt.is_complex(x):
             return functions.iir_cascade_apply(x, self, out=out)
         if self._complex_state is None:

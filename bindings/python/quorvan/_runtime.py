@@ -1,7 +1,9 @@
 """What the generated functions stand on: the shared object, arrays in and out, statuses, handles."""
 
 import ctypes
+import difflib
 import enum
+import itertools
 import operator
 import os
 import pathlib
@@ -60,7 +62,18 @@ def find_library():
     return "libquorvan.so.0"
 
 
-library = ctypes.CDLL(find_library())  # its calls release the interpreter lock
+def load_library():
+    """The shared object, whose calls release the interpreter lock."""
+    place = find_library()
+    try:
+        return ctypes.CDLL(place)
+    except OSError as error:
+        raise ImportError(
+            f"quorvan needs its shared object, and {place} cannot be loaded ({error}). Build and install the library, "
+            "name a libquorvan.so in QUORVAN_LIBRARY, or install the wheel, which carries one.") from None
+
+
+library = load_library()
 
 
 class Complex(ctypes.Structure):
@@ -102,8 +115,24 @@ def check(status, function):
 # --- Scalars ---------------------------------------------------------------------------------------------------------
 
 
+def real(value, name):
+    """A double; texts and arrays are none, complex numbers neither."""
+    if type(value) is float:
+        return value
+    try:
+        if not isinstance(value, (str, bytes)) and np.ndim(value) == 0:
+            return float(value)
+    except (TypeError, ValueError):
+        pass
+    shape = f" of shape {value.shape}" if isinstance(value, np.ndarray) else ""
+    raise TypeError(f"{name} must be a real number, not {type(value).__name__}{shape}")
+
+
 def integer(value, name, low, high):
-    value = operator.index(value)
+    try:
+        value = operator.index(value)
+    except TypeError:
+        raise TypeError(f"{name} must be an integer, not {type(value).__name__}") from None
     if not low <= value <= high:
         raise OverflowError(f"{name} must lie from {low} to {high}")
     return value
@@ -127,26 +156,44 @@ def choice(value, selection, name):
         try:
             return selection[value.upper().replace("-", "_").replace(" ", "_")].value
         except KeyError:
-            known = ", ".join(member.lower() for member in selection.__members__)
-            raise ValueError(f"{name} is one of {known}; not {value!r}") from None
+            known = [member.lower() for member in selection.__members__]
+            meant = difflib.get_close_matches(value.lower(), known, 1)
+            hint = f" (did you mean {meant[0]!r}?)" if meant else ""
+            raise ValueError(f"{name} must be one of {', '.join(known)}; not {value!r}{hint}") from None
     if isinstance(value, enum.Enum) and not isinstance(value, selection):
-        raise TypeError(f"{name} is a {selection.__name__}, not a {type(value).__name__}")
-    return operator.index(value)
+        raise TypeError(f"{name} must be a {selection.__name__}, not a {type(value).__name__}")
+    try:
+        return operator.index(value)
+    except TypeError:
+        raise TypeError(f"{name} must be a {selection.__name__}, its name or its code, not "
+                        f"{type(value).__name__}") from None
 
 
-def complex_value(value):
-    value = complex(value)
+def complex_number(value, name):
+    try:
+        if not isinstance(value, (str, bytes)) and np.ndim(value) == 0:
+            return complex(value)
+    except (TypeError, ValueError):
+        pass
+    raise TypeError(f"{name} must be a number, not {type(value).__name__}")
+
+
+def complex_value(value, name):
+    value = complex_number(value, name)
     return Complex(value.real, value.imag)
 
 
-def properties(value):
-    enbw, coherent_gain = value
-    return Properties(enbw, coherent_gain)
+def properties(value, name):
+    try:
+        enbw, coherent_gain = value
+    except (TypeError, ValueError):
+        raise TypeError(f"{name} must be WindowProperties or a pair (enbw, coherent_gain)") from None
+    return Properties(real(enbw, name + ".enbw"), real(coherent_gain, name + ".coherent_gain"))
 
 
-def optional(value):
+def optional(value, name):
     """A scalar by address, or null."""
-    return None if value is None else ctypes.byref(ctypes.c_double(value))
+    return None if value is None else ctypes.byref(ctypes.c_double(real(value, name)))
 
 
 def quotient(a, b):
@@ -162,28 +209,48 @@ def remainder(a, b):
 
 
 def is_complex(*arrays):
-    return any(np.iscomplexobj(a) for a in arrays)
+    try:
+        return any(np.iscomplexobj(a) for a in arrays)
+    except ValueError:  # rows that differ in length: told where the array is taken
+        return False
+
+
+def dimensions(value):
+    try:
+        return np.ndim(value)
+    except ValueError:  # as above
+        return 0
 
 
 def array(value, dtype, ndim, name):
     """A contiguous array of the type; never a copy where it is one already."""
-    given = np.asarray(value)
+    try:
+        given = np.asarray(value)
+    except ValueError:
+        raise ValueError(f"{name} must be an array; its rows differ in length") from None
     if given.dtype != dtype:
         if given.size and not np.can_cast(given.dtype, dtype, "same_kind"):
-            raise TypeError(f"{name} is an array of {dtype}, which {given.dtype} does not fit")
+            what = f"an array of {given.dtype}" if given.ndim else f"{type(value).__name__}"
+            raise TypeError(f"{name} must be an array of {dtype}, not {what}")
         if given.dtype.kind in "iu" and dtype == I4 and given.size and not (
                 -(2**31) <= given.min() and given.max() < 2**31):
             raise OverflowError(f"{name} has elements that do not fit {dtype}")
         given = given.astype(dtype)
     if given.ndim != ndim:
-        raise ValueError(f"{name} has {ndim} dimension{'s' * (ndim > 1)}, not {given.ndim}")
+        raise ValueError(f"{name} must have {ndim} dimension{'s' * (ndim > 1)}, not {given.ndim}")
     return np.require(given, requirements="CA") if ndim else given
 
 
 def fits(value, shape, name):
     """Refuses an array whose shape does not go with the others."""
     if value is not None and value.shape != tuple(max(extent, 0) for extent in shape):
-        raise ValueError(f"{name} has the shape {value.shape}; the other arguments ask for {shape}")
+        raise ValueError(f"{name} has the shape {value.shape}; the other arguments ask for {tuple(shape)}")
+
+
+def together(**values):
+    """Refuses arrays of which some are None, where each element of one belongs to an element of the others."""
+    if len({value is None for value in values.values()}) > 1:
+        raise ValueError(f"{' and '.join(values)} go together: give all of them or none")
 
 
 def apart(value, other):
@@ -206,6 +273,8 @@ def pointer(value):
 def fresh(shape, dtype):
     """A new array; what the library leaves unwritten is NaN, or 0 for integers."""
     shape = tuple(max(extent, 0) for extent in shape)
+    if max(shape, default=0) > 2**31 - 1:  # the library would refuse it, but only once the memory is taken
+        raise OverflowError(f"a result of shape {shape}: sizes must fit 32 bits")
     return np.full(shape, np.nan, dtype) if dtype.kind in "fc" else np.zeros(shape, dtype)
 
 
@@ -302,28 +371,33 @@ def taken(address, count):
 
 
 def many(*values):
-    return any(np.ndim(value) > 0 for value in values if value is not None)
+    return any(np.ndim(value) > 0 for value in values if value is not None and type(value) is not float)
 
 
-def each(function, *values):
+def each(function, *values, result=None):
     """A function of scalars over arrays, by the rules of broadcasting; None stays None."""
-    given = [value for value in values if value is not None]
-    broadcast = np.broadcast(*given)
-    rows = []
-    for row in broadcast:
-        elements = iter(row)
-        rows.append(function(*(None if value is None else next(elements).item() for value in values)))
-    if not rows:
-        return np.empty(broadcast.shape)
-    if isinstance(rows[0], tuple):
-        return type(rows[0])(*(np.array(column).reshape(broadcast.shape) for column in zip(*rows)))
-    return np.array(rows).reshape(broadcast.shape)
+    given = iter(np.broadcast_arrays(*(value for value in values if value is not None)))
+    columns, shape = [], ()
+    for value in values:
+        if value is None:
+            columns.append(itertools.repeat(None))
+        else:
+            elements = next(given)
+            shape = elements.shape
+            columns.append(elements.ravel().tolist())
+    rows = list(map(function, *columns))
+    if result:
+        columns = zip(*rows) if rows else [()] * len(result._fields)
+        return result(*(np.array(column).reshape(shape) for column in columns))
+    return np.array(rows).reshape(shape)
 
 
 class Model:
     """A model function of the user's as the library calls it. What it raises comes out behind the call."""
 
-    def __init__(self, function):
+    def __init__(self, function, name):
+        if not callable(function):
+            raise TypeError(f"{name} must be a function of x and the coefficients, not {type(function).__name__}")
         self.error = None
 
         def call(x, coefficients, count):
@@ -341,8 +415,10 @@ class Model:
             raise self.error
 
 
-def text_buffer(text):
+def text_buffer(text, name):
     """A text that the library completes in place."""
+    if not isinstance(text, str):
+        raise TypeError(f"{name} must be a text, not {type(text).__name__}")
     encoded = text.encode()
     return ctypes.create_string_buffer(encoded, len(encoded) + 16)
 
@@ -383,6 +459,16 @@ class Handle:
     def __del__(self):
         self.close()
 
+    def __repr__(self):
+        return f"{type(self).__name__}({'closed' if self.closed else self._told()})"
+
+    def _told(self):
+        """What tells this object from others of its kind."""
+        return ""
+
+    def _made(self):
+        """Follows on the library's making of the object."""
+
 
 def adopt(kind, address, function):
     """The object for a pointer that the library handed out."""
@@ -390,6 +476,7 @@ def adopt(kind, address, function):
         raise QuorvanError(None, "the arguments were refused, or memory ran out", function)
     made = Handle._classes[kind].__new__(Handle._classes[kind])
     made._pointer = address
+    made._made()
     return made
 
 
@@ -398,7 +485,7 @@ def handle(value, kind):
     if value is None:
         return None
     if not isinstance(value, Handle._classes[kind]):
-        raise TypeError(f"wanted: a {kind}, not {type(value).__name__}")
+        raise TypeError(f"a {kind} is wanted, not {type(value).__name__}")
     if value._pointer is None:
         raise ValueError(f"this {kind} is closed")
     return value._pointer
@@ -411,6 +498,6 @@ def release(value, kind, function):
         return
     fits_kind = getattr(value, "_one_block", False) if kind == "block" else isinstance(value, Handle._classes[kind])
     if not fits_kind:
-        raise TypeError(f"wanted: a {kind}, not {type(value).__name__}")
+        raise TypeError(f"a {kind} is wanted, not {type(value).__name__}")
     address, value._pointer = value._pointer, None
     function(address)

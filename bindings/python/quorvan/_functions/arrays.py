@@ -1,11 +1,21 @@
-"""Array primitives.
+r"""Array primitives.
 
-Operations on arrays of doubles: filling, moving, arithmetic, sums, extremes, scaling and sorting. A 2-D array
-is row-major without gaps; its functions run over rows * cols elements, a count that is formed in 32 bits and
-wraps: 65536 rows of 65537 columns are 65536 elements, and a count that wraps below 1 is refused. An output
-may be the same array as an input. Other overlaps work only where elements are just moved: in `array_copy`,
-`array_subset` and `array_shift`. NaN and infinity pass through arithmetic; searches ignore NaN. On an error
-nothing is written, except in `array_divide`.
+Operations on arrays of doubles: filling, moving, arithmetic, sums, extremes, scaling and sorting.
+
+    out[i] = x[i] op y[i]                        op: + - * /
+    scaled      out[i] = (x[i] - (max + min) / 2) / ((max - min) / 2)       in [-1, 1]
+    normalised  out[i] = (x[i] - mean) / deviation,   deviation = sqrt(sum (x[i] - mean)^2 / n)
+    linear      out[i] = a x[i] + b
+    polynomial  out[i] = sum over j of coef[j] x[i]^j
+
+A 2-D array is row-major without gaps; its functions run over rows * cols elements, a count that is formed in
+32 bits and wraps: 65536 rows of 65537 columns are 65536 elements, and a count that wraps below 1 is refused.
+
+An output may be the same array as an input. Other overlaps work only where elements are just moved: in
+`array_copy`, `array_subset` and `array_shift`.
+
+NaN and infinity pass through arithmetic; searches ignore NaN. On an error nothing is written, except in
+`array_divide`.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -74,7 +84,7 @@ def array_clear(n, *, out=None):
     n : int
         the number of elements
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -114,7 +124,7 @@ def array_fill(n, value, *, out=None):
     value : float
         what every element becomes
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -135,6 +145,7 @@ def array_fill(n, value, *, out=None):
     >>> x = qv.array_fill(n, value)
     """
     n = rt.i64(n, "n")
+    value = rt.real(value, "value")
     x_ = rt.result(out, (n,), rt.F8, (), overlapping=True)
     status = _ZemFunc155(rt.pointer(x_), n, value)
     rt.check(status, "array_fill")
@@ -152,7 +163,7 @@ def array_copy(x, *, out=None):
     x : array_like of float64, shape (n,)
         the source
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -198,7 +209,7 @@ def array_subset(x, index, length, *, out=None):
     length : int
         how many elements to take
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -242,7 +253,7 @@ def array_reverse(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -285,7 +296,7 @@ def array_shift(x, shift=False, *, out=None):
     shift : bool, default False
         places to move, upwards when positive
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -332,7 +343,7 @@ def array_sort(x, direction=SortOrder.ASCENDING, *, out=None):
     direction : SortOrder, its name, or int, default SortOrder.ASCENDING
         0: ascending; anything else: descending
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -374,7 +385,7 @@ def array_add(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -419,7 +430,7 @@ def array_add_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -463,7 +474,7 @@ def array_subtract(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -508,7 +519,7 @@ def array_subtract_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -552,7 +563,7 @@ def array_multiply(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -597,7 +608,7 @@ def array_multiply_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -644,7 +655,7 @@ def array_divide(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the divisors
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -691,7 +702,7 @@ def array_divide_2d(x, y, *, out=None):
     y : array_like of float64, shape (rows, cols)
         the divisors
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -736,7 +747,7 @@ def array_negate(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -777,7 +788,7 @@ def array_abs(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1070,7 +1081,7 @@ def array_scale(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1125,7 +1136,7 @@ def array_scale_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1181,7 +1192,7 @@ def array_quick_scale(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1232,7 +1243,7 @@ def array_quick_scale_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1286,7 +1297,7 @@ def array_normalize(x, *, out=None):
     x : array_like of float64, shape (n,)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1341,7 +1352,7 @@ def array_normalize_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the signal
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1391,7 +1402,7 @@ def array_linear_eval(x, a, b, *, out=None):
     b : float
         the offset
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1413,6 +1424,8 @@ def array_linear_eval(x, a, b, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     out_ = rt.result(out, (n,), rt.F8, (x,), overlapping=True)
     status = _ZemFunc115(rt.pointer(x), n, a, b, rt.pointer(out_))
     rt.check(status, "array_linear_eval")
@@ -1436,7 +1449,7 @@ def array_linear_eval_2d(x, a, b, *, out=None):
     b : float
         the offset
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1459,6 +1472,8 @@ def array_linear_eval_2d(x, a, b, *, out=None):
     x = rt.array(x, rt.F8, 2, "x")
     rows = x.shape[0]
     cols = x.shape[1]
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     out_ = rt.result(out, (rows, cols), rt.F8, (x,), overlapping=True)
     status = _ZemFunc116(rt.pointer(x), rows, cols, a, b, rt.pointer(out_))
     rt.check(status, "array_linear_eval_2d")
@@ -1481,7 +1496,7 @@ def array_poly_eval(x, coef, *, out=None):
     coef : array_like of float64, shape (count,)
         the coefficients, in ascending order
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1526,7 +1541,7 @@ def array_poly_eval_2d(x, coef, *, out=None):
     coef : array_like of float64, shape (count,)
         the coefficients, in ascending order
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1574,7 +1589,7 @@ def array_clip(x, upper, lower, *, out=None):
     lower : float
         the lower limit
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1597,6 +1612,8 @@ def array_clip(x, upper, lower, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    upper = rt.real(upper, "upper")
+    lower = rt.real(lower, "lower")
     out_ = rt.result(out, (n,), rt.F8, (x,), overlapping=True)
     status = _ZemFunc30(rt.pointer(x), n, upper, lower, rt.pointer(out_))
     rt.check(status, "array_clip")

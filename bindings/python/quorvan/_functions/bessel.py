@@ -1,8 +1,18 @@
-"""Bessel, Airy, Struve and Kelvin functions.
+r"""Bessel, Airy, Struve and Kelvin functions.
 
-Functions of a real argument, returned as the value itself or written to the caller's doubles: there is no
-status. A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN in
-every result. The accuracy, region by region, stands in docs/accuracy.md.
+Solutions of Bessel's, Airy's, Struve's and Kelvin's equations for real arguments: fields in cylinders and
+spheres, modulation, diffraction, the skin effect.
+
+    J, Y    x^2 y" + x y' + (x^2 - v^2) y = 0
+    I, K    x^2 y" + x y' - (x^2 + v^2) y = 0
+    j, y    spherical: sqrt(pi / (2 x)) J(n + 1/2, x),  sqrt(pi / (2 x)) Y(n + 1/2, x)
+    H       x^2 y" + x y' + (x^2 - v^2) y = 4 (x/2)^(v + 1) / (sqrt(pi) Gamma(v + 1/2))
+    Ai, Bi  y" = x y
+    ber(x) + i bei(x) = J(n, x e^(3 pi i / 4)),    ker(x) + i kei(x) = e^(-n pi i / 2) K(n, x e^(pi i / 4))
+
+Values are returned as such or written to the caller's doubles: there is no status. A domain fault gives NaN
+or the infinity that the function's text names; a NaN argument gives NaN in every result. Arguments in
+radians. The accuracy, region by region, stands in docs/accuracy.md.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -33,6 +43,12 @@ _max, _min = max, min
 _ZemFunc302 = rt.bind("ZemFunc302", "double", "dd")
 
 
+def _bessel_j(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc302(order, x)
+
+
 def bessel_j(order, x):
     r"""The Bessel function of the first kind J of real order.
 
@@ -61,11 +77,17 @@ def bessel_j(order, x):
     >>> value = qv.bessel_j(order, x)
     """
     if rt.many(order, x):
-        return rt.each(bessel_j, order, x)
-    return _ZemFunc302(order, x)
+        return rt.each(_bessel_j, order, x)
+    return _bessel_j(order, x)
 
 
 _ZemFunc301 = rt.bind("ZemFunc301", "double", "dd")
+
+
+def _bessel_y(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc301(order, x)
 
 
 def bessel_y(order, x):
@@ -95,11 +117,17 @@ def bessel_y(order, x):
     >>> value = qv.bessel_y(order, x)
     """
     if rt.many(order, x):
-        return rt.each(bessel_y, order, x)
-    return _ZemFunc301(order, x)
+        return rt.each(_bessel_y, order, x)
+    return _bessel_y(order, x)
 
 
 _ZemFunc303 = rt.bind("ZemFunc303", "double", "ud")
+
+
+def _spherical_bessel_j(n, x):
+    n = rt.u32(n, "n")
+    x = rt.real(x, "x")
+    return _ZemFunc303(n, x)
 
 
 def spherical_bessel_j(n, x):
@@ -128,12 +156,17 @@ def spherical_bessel_j(n, x):
     >>> value = qv.spherical_bessel_j(n, x)
     """
     if rt.many(n, x):
-        return rt.each(spherical_bessel_j, n, x)
-    n = rt.u32(n, "n")
-    return _ZemFunc303(n, x)
+        return rt.each(_spherical_bessel_j, n, x)
+    return _spherical_bessel_j(n, x)
 
 
 _ZemFunc304 = rt.bind("ZemFunc304", "double", "ud")
+
+
+def _spherical_bessel_y(n, x):
+    n = rt.u32(n, "n")
+    x = rt.real(x, "x")
+    return _ZemFunc304(n, x)
 
 
 def spherical_bessel_y(n, x):
@@ -162,12 +195,17 @@ def spherical_bessel_y(n, x):
     >>> value = qv.spherical_bessel_y(n, x)
     """
     if rt.many(n, x):
-        return rt.each(spherical_bessel_y, n, x)
-    n = rt.u32(n, "n")
-    return _ZemFunc304(n, x)
+        return rt.each(_spherical_bessel_y, n, x)
+    return _spherical_bessel_y(n, x)
 
 
 _ZemFunc305 = rt.bind("ZemFunc305", "double", "dd")
+
+
+def _bessel_i(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc305(order, x)
 
 
 def bessel_i(order, x):
@@ -197,11 +235,17 @@ def bessel_i(order, x):
     >>> value = qv.bessel_i(order, x)
     """
     if rt.many(order, x):
-        return rt.each(bessel_i, order, x)
-    return _ZemFunc305(order, x)
+        return rt.each(_bessel_i, order, x)
+    return _bessel_i(order, x)
 
 
 _ZemFunc306 = rt.bind("ZemFunc306", "double", "ud")
+
+
+def _bessel_k(n, x):
+    n = rt.u32(n, "n")
+    x = rt.real(x, "x")
+    return _ZemFunc306(n, x)
 
 
 def bessel_k(n, x):
@@ -230,12 +274,17 @@ def bessel_k(n, x):
     >>> value = qv.bessel_k(n, x)
     """
     if rt.many(n, x):
-        return rt.each(bessel_k, n, x)
-    n = rt.u32(n, "n")
-    return _ZemFunc306(n, x)
+        return rt.each(_bessel_k, n, x)
+    return _bessel_k(n, x)
 
 
 _ZemFunc328 = rt.bind("ZemFunc328", "double", "dd")
+
+
+def _struve(order, x):
+    order = rt.real(order, "order")
+    x = rt.real(x, "x")
+    return _ZemFunc328(order, x)
 
 
 def struve(order, x):
@@ -264,8 +313,8 @@ def struve(order, x):
     >>> value = qv.struve(order, x)
     """
     if rt.many(order, x):
-        return rt.each(struve, order, x)
-    return _ZemFunc328(order, x)
+        return rt.each(_struve, order, x)
+    return _struve(order, x)
 
 
 _ZemFunc330 = rt.bind("ZemFunc330", "none", "dpp")
@@ -276,6 +325,14 @@ class AiryResult(NamedTuple):
 
     ai: float
     bi: float
+
+
+def _airy(x):
+    x = rt.real(x, "x")
+    ai_ = ctypes.c_double()
+    bi_ = ctypes.c_double()
+    _ZemFunc330(x, ctypes.byref(ai_), ctypes.byref(bi_))
+    return AiryResult(ai_.value, bi_.value)
 
 
 def airy(x):
@@ -302,14 +359,19 @@ def airy(x):
     >>> ai, bi = qv.airy(x)
     """
     if rt.many(x):
-        return rt.each(airy, x)
-    ai_ = ctypes.c_double()
-    bi_ = ctypes.c_double()
-    _ZemFunc330(x, ctypes.byref(ai_), ctypes.byref(bi_))
-    return AiryResult(ai_.value, bi_.value)
+        return rt.each(_airy, x, result=AiryResult)
+    return _airy(x)
 
 
 _ZemFunc333 = rt.bind("ZemFunc333", "none", "dup")
+
+
+def _kelvin_be(x, n):
+    x = rt.real(x, "x")
+    n = rt.u32(n, "n")
+    out_ = rt.Complex()
+    _ZemFunc333(x, n, ctypes.byref(out_))
+    return complex(out_.re, out_.im)
 
 
 def kelvin_be(x, n):
@@ -338,14 +400,19 @@ def kelvin_be(x, n):
     >>> out = qv.kelvin_be(x, n)
     """
     if rt.many(x, n):
-        return rt.each(kelvin_be, x, n)
-    n = rt.u32(n, "n")
-    out_ = rt.Complex()
-    _ZemFunc333(x, n, ctypes.byref(out_))
-    return complex(out_.re, out_.im)
+        return rt.each(_kelvin_be, x, n)
+    return _kelvin_be(x, n)
 
 
 _ZemFunc334 = rt.bind("ZemFunc334", "none", "dup")
+
+
+def _kelvin_ke(x, n):
+    x = rt.real(x, "x")
+    n = rt.u32(n, "n")
+    out_ = rt.Complex()
+    _ZemFunc334(x, n, ctypes.byref(out_))
+    return complex(out_.re, out_.im)
 
 
 def kelvin_ke(x, n):
@@ -374,8 +441,5 @@ def kelvin_ke(x, n):
     >>> out = qv.kelvin_ke(x, n)
     """
     if rt.many(x, n):
-        return rt.each(kelvin_ke, x, n)
-    n = rt.u32(n, "n")
-    out_ = rt.Complex()
-    _ZemFunc334(x, n, ctypes.byref(out_))
-    return complex(out_.re, out_.im)
+        return rt.each(_kelvin_ke, x, n)
+    return _kelvin_ke(x, n)

@@ -1,10 +1,17 @@
-"""Complex arithmetic.
+r"""Complex arithmetic.
 
 Complex numbers as pairs of doubles, real part first: arguments by value, results by address. Complex arrays
-are split: one array of real parts, one of imaginary parts. A scalar function writes both parts of its result,
-or neither on an error. Each operation has its own convention for zero arguments. Squared magnitudes are
-formed as they stand, and overflow to infinity. An output array may be any of the input arrays, also
-crosswise: every element is read whole before it is written.
+are split: one array of real parts, one of imaginary parts.
+
+    (a + bi)(c + di) = (a c - b d) + (b c + a d) i
+    magnitude = sqrt(re^2 + im^2),  phase = atan2(im, re) in radians, in [-pi, pi]
+    sqrt, log and powers are those of the principal branch, cut along the negative real axis
+
+A scalar function writes both parts of its result, or neither on an error. Each operation has its own
+convention for zero arguments. Squared magnitudes are formed as they stand, and overflow to infinity.
+
+An output array may be any of the input arrays, also crosswise: every element is read whole before it is
+written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -45,6 +52,16 @@ _max, _min = max, min
 _ZemFunc38 = rt.bind("ZemFunc38", "status", "ddddpp")
 
 
+def _complex_add(x, y):
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc38(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_add")
+    return complex(out_re.value, out_im.value)
+
+
 def complex_add(x, y):
     r"""Adds two complex numbers: (a + c, b + d).
 
@@ -68,17 +85,21 @@ def complex_add(x, y):
     >>> out = qv.complex_add(x, y)
     """
     if rt.many(x, y):
-        return rt.each(complex_add, x, y)
-    x = complex(x)
-    y = complex(y)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc38(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_add")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_add, x, y)
+    return _complex_add(x, y)
 
 
 _ZemFunc51 = rt.bind("ZemFunc51", "status", "ddddpp")
+
+
+def _complex_subtract(x, y):
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc51(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_subtract")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_subtract(x, y):
@@ -104,17 +125,21 @@ def complex_subtract(x, y):
     >>> out = qv.complex_subtract(x, y)
     """
     if rt.many(x, y):
-        return rt.each(complex_subtract, x, y)
-    x = complex(x)
-    y = complex(y)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc51(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_subtract")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_subtract, x, y)
+    return _complex_subtract(x, y)
 
 
 _ZemFunc46 = rt.bind("ZemFunc46", "status", "ddddpp")
+
+
+def _complex_multiply(x, y):
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc46(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_multiply")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_multiply(x, y):
@@ -140,17 +165,21 @@ def complex_multiply(x, y):
     >>> out = qv.complex_multiply(x, y)
     """
     if rt.many(x, y):
-        return rt.each(complex_multiply, x, y)
-    x = complex(x)
-    y = complex(y)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc46(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_multiply")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_multiply, x, y)
+    return _complex_multiply(x, y)
 
 
 _ZemFunc40 = rt.bind("ZemFunc40", "status", "ddddpp")
+
+
+def _complex_divide(x, y):
+    x = rt.complex_number(x, "x")
+    y = rt.complex_number(y, "y")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc40(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_divide")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_divide(x, y):
@@ -180,17 +209,20 @@ def complex_divide(x, y):
     >>> out = qv.complex_divide(x, y)
     """
     if rt.many(x, y):
-        return rt.each(complex_divide, x, y)
-    x = complex(x)
-    y = complex(y)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc40(x.real, x.imag, y.real, y.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_divide")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_divide, x, y)
+    return _complex_divide(x, y)
 
 
 _ZemFunc49 = rt.bind("ZemFunc49", "status", "ddpp")
+
+
+def _complex_reciprocal(x):
+    x = rt.complex_number(x, "x")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc49(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_reciprocal")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_reciprocal(x):
@@ -222,16 +254,20 @@ def complex_reciprocal(x):
     >>> out = qv.complex_reciprocal(x)
     """
     if rt.many(x):
-        return rt.each(complex_reciprocal, x)
-    x = complex(x)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc49(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_reciprocal")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_reciprocal, x)
+    return _complex_reciprocal(x)
 
 
 _ZemFunc50 = rt.bind("ZemFunc50", "status", "ddpp")
+
+
+def _complex_sqrt(x):
+    x = rt.complex_number(x, "x")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc50(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_sqrt")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_sqrt(x):
@@ -257,16 +293,20 @@ def complex_sqrt(x):
     >>> out = qv.complex_sqrt(x)
     """
     if rt.many(x):
-        return rt.each(complex_sqrt, x)
-    x = complex(x)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc50(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_sqrt")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_sqrt, x)
+    return _complex_sqrt(x)
 
 
 _ZemFunc42 = rt.bind("ZemFunc42", "status", "ddpp")
+
+
+def _complex_exp(x):
+    x = rt.complex_number(x, "x")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc42(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_exp")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_exp(x):
@@ -292,16 +332,20 @@ def complex_exp(x):
     >>> out = qv.complex_exp(x)
     """
     if rt.many(x):
-        return rt.each(complex_exp, x)
-    x = complex(x)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc42(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_exp")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_exp, x)
+    return _complex_exp(x)
 
 
 _ZemFunc44 = rt.bind("ZemFunc44", "status", "ddpp")
+
+
+def _complex_log(x):
+    x = rt.complex_number(x, "x")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc44(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_log")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_log(x):
@@ -330,16 +374,20 @@ def complex_log(x):
     >>> out = qv.complex_log(x)
     """
     if rt.many(x):
-        return rt.each(complex_log, x)
-    x = complex(x)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc44(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_log")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_log, x)
+    return _complex_log(x)
 
 
 _ZemFunc45 = rt.bind("ZemFunc45", "status", "ddpp")
+
+
+def _complex_log10(x):
+    x = rt.complex_number(x, "x")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc45(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_log10")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_log10(x):
@@ -368,16 +416,21 @@ def complex_log10(x):
     >>> out = qv.complex_log10(x)
     """
     if rt.many(x):
-        return rt.each(complex_log10, x)
-    x = complex(x)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc45(x.real, x.imag, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_log10")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_log10, x)
+    return _complex_log10(x)
 
 
 _ZemFunc48 = rt.bind("ZemFunc48", "status", "dddpp")
+
+
+def _complex_pow(x, p):
+    x = rt.complex_number(x, "x")
+    p = rt.real(p, "p")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc48(x.real, x.imag, p, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_pow")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_pow(x, p):
@@ -410,13 +463,8 @@ def complex_pow(x, p):
     >>> out = qv.complex_pow(x, p)
     """
     if rt.many(x, p):
-        return rt.each(complex_pow, x, p)
-    x = complex(x)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc48(x.real, x.imag, p, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_pow")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_pow, x, p)
+    return _complex_pow(x, p)
 
 
 _ZemFunc172 = rt.bind("ZemFunc172", "status", "ddpp")
@@ -427,6 +475,15 @@ class ComplexToPolarResult(NamedTuple):
 
     magnitude: float
     phase: float
+
+
+def _complex_to_polar(z):
+    z = rt.complex_number(z, "z")
+    magnitude_ = ctypes.c_double()
+    phase_ = ctypes.c_double()
+    status = _ZemFunc172(z.real, z.imag, ctypes.byref(magnitude_), ctypes.byref(phase_))
+    rt.check(status, "complex_to_polar")
+    return ComplexToPolarResult(magnitude_.value, phase_.value)
 
 
 def complex_to_polar(z):
@@ -455,16 +512,21 @@ def complex_to_polar(z):
     >>> magnitude, phase = qv.complex_to_polar(z)
     """
     if rt.many(z):
-        return rt.each(complex_to_polar, z)
-    z = complex(z)
-    magnitude_ = ctypes.c_double()
-    phase_ = ctypes.c_double()
-    status = _ZemFunc172(z.real, z.imag, ctypes.byref(magnitude_), ctypes.byref(phase_))
-    rt.check(status, "complex_to_polar")
-    return ComplexToPolarResult(magnitude_.value, phase_.value)
+        return rt.each(_complex_to_polar, z, result=ComplexToPolarResult)
+    return _complex_to_polar(z)
 
 
 _ZemFunc174 = rt.bind("ZemFunc174", "status", "ddpp")
+
+
+def _complex_from_polar(magnitude, phase):
+    magnitude = rt.real(magnitude, "magnitude")
+    phase = rt.real(phase, "phase")
+    out_re = ctypes.c_double()
+    out_im = ctypes.c_double()
+    status = _ZemFunc174(magnitude, phase, ctypes.byref(out_re), ctypes.byref(out_im))
+    rt.check(status, "complex_from_polar")
+    return complex(out_re.value, out_im.value)
 
 
 def complex_from_polar(magnitude, phase):
@@ -491,12 +553,8 @@ def complex_from_polar(magnitude, phase):
     >>> out = qv.complex_from_polar(magnitude, phase)
     """
     if rt.many(magnitude, phase):
-        return rt.each(complex_from_polar, magnitude, phase)
-    out_re = ctypes.c_double()
-    out_im = ctypes.c_double()
-    status = _ZemFunc174(magnitude, phase, ctypes.byref(out_re), ctypes.byref(out_im))
-    rt.check(status, "complex_from_polar")
-    return complex(out_re.value, out_im.value)
+        return rt.each(_complex_from_polar, magnitude, phase)
+    return _complex_from_polar(magnitude, phase)
 
 
 _ZemFunc39 = rt.bind("ZemFunc39", "status", "pppplpp")
@@ -512,7 +570,7 @@ def complex_array_add(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -560,7 +618,7 @@ def complex_array_subtract(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -608,7 +666,7 @@ def complex_array_multiply(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -658,7 +716,7 @@ def complex_array_divide(a, b, *, out=None):
     b : array_like of complex128, shape (n,)
         the second operand
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -711,7 +769,7 @@ def complex_array_to_polar(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the complex numbers
     out : tuple or None
-        arrays for `magnitude`, `phase`, each may be None; an input, to work in place
+        arrays for `magnitude`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -758,7 +816,7 @@ def complex_array_from_polar(magnitude, phase, *, out=None):
     phase : array_like of float64, shape (n,)
         phases in radians
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -805,7 +863,7 @@ def complex_array_linear_eval(z, a, b, *, out=None):
     b : complex, with the parts (b_re, b_im)
         the offset
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -827,8 +885,8 @@ def complex_array_linear_eval(z, a, b, *, out=None):
     """
     z = rt.array(z, rt.C16, 1, "z")
     n = z.shape[0]
-    a = complex(a)
-    b = complex(b)
+    a = rt.complex_number(a, "a")
+    b = rt.complex_number(b, "b")
     rt.fits(z, (n,), "z")
     z_re, z_im = rt.parts(z)
     out_re = rt.fresh((n,), rt.F8)

@@ -1,10 +1,19 @@
-"""Convolution and correlation.
+r"""Convolution and correlation.
 
-Linear convolution, (x * y)[l] = sum over i of x[i] y[l - i], with n + m - 1 results; correlation, which is
-the convolution of the reversed and conjugated x with y and has lag 0 at index n - 1; and deconvolution.
-Method 0 adds the products themselves, method 1 works through Fourier transforms of a fast length; functions
-without a method use transforms. Outputs must not overlap inputs. Normalisation of correlations: 0 none, 1
-unbiased (each lag divided by its number of overlapping terms), 2 biased (all divided by the longer length).
+What a linear system does to a signal, how alike two signals are at every shift, and the way back from a
+response to its cause.
+
+    convolution    (x * y)[l] = sum over i of x[i] y[l - i],                       l = 0 to n + m - 2
+    correlation    r[n - 1 + l] = sum over i of conj(x[i]) y[i + l],               l = -(n - 1) to m - 1
+    deconvolution  x * h = y solved for h
+
+The full result has n + m - 1 elements; lag 0 of a correlation stands at index n - 1. A positive lag means
+that y comes later than x. Method 0 adds the products themselves, method 1 works through Fourier transforms of
+a fast length, or of blocks of the longer sequence where that is faster; functions without a method use
+transforms. Outputs must not overlap inputs.
+
+Normalisation of correlations: 0 none, 1 unbiased (each lag divided by its number of overlapping terms), 2
+biased (all divided by the longer length).
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -51,7 +60,7 @@ def convolve_real(x, y, *, out=None):
     y : array_like of float64, shape (m,)
         the second sequence
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -102,7 +111,7 @@ def convolve_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -154,7 +163,7 @@ def convolve_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -194,7 +203,7 @@ _ZemFunc33 = rt.bind("ZemFunc33", "status", "plplp")
 def correlate_real(x, y, *, out=None):
     r"""The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
 
-    If x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+    If x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of them, whatever m.
 
     Parameters
     ----------
@@ -203,7 +212,7 @@ def correlate_real(x, y, *, out=None):
     y : array_like of float64, shape (m,)
         the second sequence
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -245,7 +254,7 @@ def correlate_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     r"""The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
 
     A method other than 0 and 1 does nothing and succeeds. With method 1, if x and y are one pointer, it is the
-    autocorrelation of the n elements, whatever m.
+    autocorrelation of the n elements, 2 n - 1 of them, whatever m.
 
     Parameters
     ----------
@@ -256,7 +265,7 @@ def correlate_real_by(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -299,7 +308,8 @@ def correlate_real_normalised(x, y, method=Method.TRANSFORM, normalisation=Norma
     r"""The cross-correlation, out[n - 1 + l] = sum over i of x[i] y[i + l].
 
     A method other than 0 and 1 correlates nothing, and what stands in out is normalised; this also follows a
-    failure. With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, whatever m.
+    failure. With method 1, if x and y are one pointer, it is the autocorrelation of the n elements, 2 n - 1 of
+    them, whatever m.
 
     Parameters
     ----------
@@ -312,7 +322,7 @@ def correlate_real_normalised(x, y, method=Method.TRANSFORM, normalisation=Norma
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -364,7 +374,7 @@ def auto_correlate_real(x, normalisation=Normalisation.NONE, *, out=None):
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -413,7 +423,7 @@ def correlate_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -464,7 +474,7 @@ def correlate_complex_normalised(x, y, method=Method.TRANSFORM, normalisation=No
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -512,7 +522,7 @@ def auto_correlate_complex(x, normalisation=Normalisation.NONE, *, out=None):
     normalisation : Normalisation, its name, or int, default Normalisation.NONE
         0 none, 1 unbiased, 2 biased
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -558,7 +568,7 @@ def deconvolve(y, x, *, out=None):
     x : array_like of float64, shape (m,)
         the known factor
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -611,7 +621,7 @@ def convolve_2d_real(x, y, shape=Shape.FULL, method=Method.TRANSFORM, *, out=Non
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -672,7 +682,7 @@ def convolve_2d_complex(x, y, shape=Shape.FULL, method=Method.TRANSFORM, *, out=
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -728,7 +738,7 @@ def correlate_2d_real(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -782,7 +792,7 @@ def correlate_2d_complex(x, y, method=Method.TRANSFORM, *, out=None):
     method : Method, its name, or int, default Method.TRANSFORM
         0: direct; 1: by transforms
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -829,7 +839,7 @@ def auto_correlate_2d_real(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the array, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -875,7 +885,7 @@ def auto_correlate_2d_complex(x, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the array, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -1,8 +1,18 @@
-"""Matrix decompositions.
+r"""Matrix decompositions.
 
-Singular values, LU, Cholesky, QR in several methods, Hessenberg form and balancing, for real and complex
-matrices. A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied before they are
-worked on: an output may be the input itself. On an error the outputs stay as they are.
+A matrix as a product of simpler ones: for solving, for rank and condition, as the first step towards
+eigenvalues.
+
+    singular values  A = U diag(s) V^H     s descending, at least 0; one vector a column of U and of V
+    LU               P A = L U             L unit lower, U upper triangular, rows exchanged
+    Cholesky         A = R^H R             R upper triangular with a positive diagonal
+    QR               A = Q R, A P = Q R    Q^H Q = 1, R upper triangular, columns exchanged by P
+    Hessenberg       A = Q H Q^H           H zero below its first subdiagonal
+    balancing        B = D^-1 P^-1 A P D   P a permutation, D diagonal with powers of two
+
+Real and complex matrices; ^H is the transpose of real ones, the conjugate transpose of complex ones. V itself
+is returned, not its transpose. A matrix is a pointer and its sizes, row-major without gaps. Inputs are copied
+before they are worked on: an output may be the input itself. On an error the outputs stay as they are.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -66,7 +76,7 @@ def singular_values(a, *, out=None):
     a : array_like of float64, shape (m, n)
         the matrix, row-major
     out : array or None
-        the array for `s`; an input, to work in place
+        the array for `s`; it may be an input, to work in place
 
     Returns
     -------
@@ -115,7 +125,7 @@ def singular_values_complex(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix, row-major
     out : array or None
-        the array for `s`; an input, to work in place
+        the array for `s`; it may be an input, to work in place
 
     Returns
     -------
@@ -170,7 +180,7 @@ def svd(a, *, out=None):
     a : array_like of float64, shape (m, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -234,7 +244,7 @@ def svd_complex(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -299,7 +309,7 @@ def svd_mode(a, mode=SvdMode.FULL, *, out=None):
     mode : SvdMode, its name, or int, default SvdMode.FULL
         0: full, U m by m and V n by n; 1: economy
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -368,7 +378,7 @@ def svd_mode_complex(a, mode=SvdMode.FULL, *, out=None):
     mode : SvdMode, its name, or int, default SvdMode.FULL
         0: full, U m by m and V n by n; 1: economy
     out : tuple or None
-        arrays for `u`, `s`, `v`, each may be None; an input, to work in place
+        arrays for `u`, `s`, `v`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -430,7 +440,7 @@ def lu(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `a`, `pivots`, each may be None; an input, to work in place
+        arrays for `a`, `pivots`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -496,7 +506,7 @@ def lu_complex(a, *, out=None):
     a : array_like of complex128, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `a`, `pivots`, each may be None; an input, to work in place
+        arrays for `a`, `pivots`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -552,7 +562,7 @@ def cholesky(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix, row-major; only its upper triangle is factored, but all of it must be finite
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -598,7 +608,7 @@ def cholesky_complex(a, *, out=None):
     a : array_like of complex128, shape (n, n)
         the matrix, row-major; only its upper triangle is factored, but all of it must be finite
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -656,7 +666,7 @@ def qr_method(a, method=QrMethod.HOUSEHOLDER, *, out=None):
     method : QrMethod, its name, or int, default QrMethod.HOUSEHOLDER
         0: Householder reflections; 1: Givens rotations; 2: fast Givens rotations
     out : tuple or None
-        arrays for `q`, `r`, each may be None; an input, to work in place
+        arrays for `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -716,9 +726,9 @@ def qr_pivot(a, pivot_mode=PivotMode.VECTOR, economy=False, *, out=None):
     pivot_mode : PivotMode, its name, or int, default PivotMode.VECTOR
         0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
     economy : bool, default False
-        0: Q is m by m; otherwise Q has min(m, n) columns
+        false: Q is m by m; true: Q has min(m, n) columns
     out : tuple or None
-        arrays for `p`, `q`, `r`, each may be None; an input, to work in place
+        arrays for `p`, `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -784,9 +794,9 @@ def qr_pivot_complex(a, pivot_mode=PivotMode.VECTOR, economy=False, *, out=None)
     pivot_mode : PivotMode, its name, or int, default PivotMode.VECTOR
         0: the columns as they stand; 1: by the largest remaining column, p a vector; 2: the same, p a matrix
     economy : bool, default False
-        0: Q is m by m; otherwise Q has min(m, n) columns
+        false: Q is m by m; true: Q has min(m, n) columns
     out : tuple or None
-        arrays for `p`, `q`, `r`, each may be None; an input, to work in place
+        arrays for `p`, `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -846,7 +856,7 @@ def qr_complex(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `q`, `r`, each may be None; an input, to work in place
+        arrays for `q`, `r`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -900,7 +910,7 @@ def hessenberg(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `h`, `q`, each may be None; an input, to work in place
+        arrays for `h`, `q`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -956,7 +966,7 @@ def hessenberg_complex(a, *, out=None):
     a : array_like of complex128, shape (n, n)
         the matrix, row-major
     out : tuple or None
-        arrays for `h`, `q`, each may be None; an input, to work in place
+        arrays for `h`, `q`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -1017,7 +1027,7 @@ def balance(a, job=BalanceJob.BOTH, *, out=None):
     job : BalanceJob, its name, or int, default BalanceJob.BOTH
         0: none; 1: permutation; 2: scaling; 3: both
     out : tuple or None
-        arrays for `scale`, `balanced`, each may be None; an input, to work in place
+        arrays for `scale`, `balanced`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -1091,7 +1101,7 @@ def balance_complex(a, job=BalanceJob.BOTH, *, out=None):
     job : BalanceJob, its name, or int, default BalanceJob.BOTH
         0: none; 1: permutation; 2: scaling; 3: both
     out : tuple or None
-        arrays for `scale`, `balanced`, each may be None; an input, to work in place
+        arrays for `scale`, `balanced`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -1159,7 +1169,7 @@ def balance_back(v, low, high, scale, job=BalanceJob.BOTH, side=Side.RIGHT, *, o
     side : Side, its name, or int, default Side.RIGHT
         0: right eigenvectors; 1: left ones
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1222,7 +1232,7 @@ def balance_back_complex(v, low, high, scale, job=BalanceJob.BOTH, side=Side.RIG
     side : Side, its name, or int, default Side.RIGHT
         0: right eigenvectors; 1: left ones
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

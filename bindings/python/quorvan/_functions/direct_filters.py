@@ -1,9 +1,20 @@
-"""Direct-form and smoothing filters.
+r"""Direct-form and smoothing filters.
 
-Filters that take plain coefficient arrays. The transfer function of the direct form is (b[0] + b[1] z^-1 +
-...) / (a[0] + a[1] z^-1 + ...); a[0] is a true divisor and need not be 1. The caller holds the state: the
-last nb - 1 inputs and the last na - 1 outputs, the oldest first. Zeros start from rest; handing the same
-arrays back continues a stream, and a stream may be cut anywhere.
+Filters that take plain coefficient arrays: difference equations, smoothing by local polynomials, running
+medians.
+
+    a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - a[2] y[t - 2] - ...
+    H(z) = (b[0] + b[1] z^-1 + ...) / (a[0] + a[1] z^-1 + ...)
+
+Coefficients stand in ascending delay, those of the feedback with the sign of the denominator; a[0] is a true
+divisor and need not be 1. The caller holds the state: the last nb - 1 inputs and the last na - 1 outputs, the
+oldest first. Zeros start from rest; handing the same arrays back continues a stream, and a stream may be cut
+anywhere.
+
+    Savitzky-Golay  y[t] = p(0), p the polynomial of least squares through x[t - side] ... x[t + side]
+    median          y[t] = median of x[t - leftRank] ... x[t + rightRank]
+
+Savitzky-Golay filters and symmetric medians do not delay the signal.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -45,8 +56,9 @@ class FilterFirResult(NamedTuple):
 
 
 def filter_fir(x, b, input_state=None, *, out=None):
-    r"""Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ... Each sum is added in this order, so that
-    blocks give the bits of the whole.
+    r"""Filters without feedback, y[t] = b[0] x[t] + b[1] x[t - 1] + ...
+
+    Each sum is added in this order, so that blocks give the bits of the whole.
 
     Parameters
     ----------
@@ -57,12 +69,12 @@ def filter_fir(x, b, input_state=None, *, out=None):
     input_state : array_like of float64, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
     input_state : float64 array of shape (nb - 1,)
         the same behind the last sample
 
@@ -104,8 +116,9 @@ class FilterDirectResult(NamedTuple):
 
 
 def filter_direct(x, b, a=None, output_state=None, input_state=None, *, out=None):
-    r"""Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ... Outputs of magnitude
-    2.2250738585072014e-308 and below become 0; without feedback they stay.
+    r"""Filters with feedback, a[0] y[t] = b[0] x[t] + b[1] x[t - 1] + ... - a[1] y[t - 1] - ...
+
+    Outputs of magnitude 2.2250738585072014e-308 and below become 0; without feedback they stay.
 
     Parameters
     ----------
@@ -120,12 +133,12 @@ def filter_direct(x, b, a=None, output_state=None, input_state=None, *, out=None
     input_state : array_like of float64, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
     output_state : float64 array of shape (na - 1,)
         the same behind the last sample
     input_state : float64 array of shape (nb - 1,)
@@ -183,12 +196,12 @@ def filter_fir_complex(x, b, input_state=None, *, out=None):
     input_state : array_like of complex128, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : complex128 array of shape (n,)
-        the output; may be x
+        the output
     input_state : complex128 array of shape (nb - 1,)
         the same behind the last sample
 
@@ -245,12 +258,12 @@ def filter_direct_complex(x, b, a=None, output_state=None, input_state=None, *, 
     input_state : array_like of complex128, shape (nb - 1,), default None
         the last inputs, the oldest first
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : complex128 array of shape (n,)
-        the output; may be x
+        the output
     output_state : complex128 array of shape (na - 1,)
         the same behind the last sample
     input_state : complex128 array of shape (nb - 1,)
@@ -301,12 +314,12 @@ def filter_zero_phase(x, a, b, *, out=None):
     b : array_like of float64, shape (nb,)
         the numerator
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------
@@ -362,9 +375,9 @@ def savitzky_golay_design(order, side, weights=None, want_derivatives=True, *, o
     weights : array_like of float64, shape (2 * side + 1,), default None
         the weights of the samples of a frame, by magnitude
     want_derivatives : bool, default True
-        not 0: derivatives are written
+        true: derivatives are written
     out : tuple or None
-        arrays for `smoother`, `derivatives`, each may be None; an input, to work in place
+        arrays for `smoother`, `derivatives`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -426,12 +439,12 @@ def savitzky_golay_filter(x, order, side, weights=None, *, out=None):
     weights : array_like of float64, shape (2 * side + 1,), default None
         the weights of the samples of a frame, by magnitude
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------
@@ -486,12 +499,12 @@ def savitzky_golay_filter_complex(x, order, side, weights=None, *, out=None):
     weights : array_like of float64, shape (2 * side + 1,), default None
         the weights of the samples of a frame, by magnitude
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : complex128 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------
@@ -541,12 +554,12 @@ def filter_median(x, left_rank, right_rank, *, out=None):
     right_rank : int
         the samples behind it; negative: as many as before
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
     y : float64 array of shape (n,)
-        the output; may be x
+        the output
 
     Raises
     ------

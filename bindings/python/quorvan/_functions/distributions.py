@@ -1,7 +1,18 @@
-"""Probability distributions.
+r"""Probability distributions.
 
-The error function, and the normal, Student's t, chi-square and F distributions with their inverses. The
-normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions
+Probabilities and critical values of tests: the error function, and the normal, Student's t, chi-square and F
+distributions with their inverses.
+
+    erf(x)        2 / sqrt(pi) integral of exp(-t^2) from 0 to x,     erfc(x) = 1 - erf(x)
+    normal        P(x) = integral of exp(-t^2 / 2) / sqrt(2 pi) from -infinity to x
+    Student's t   1 - I_w(k/2, 1/2) / 2 for t >= 0,                   w = k / (k + t^2)
+    chi-square    P(k/2, x/2), the regularised incomplete gamma function
+    F             I_w(k1/2, k2/2),                                    w = k1 x / (k2 + k1 x)
+
+All are lower tails, the probability of a value at or below the argument; I is the regularised incomplete beta
+function and k counts degrees of freedom. An inverse takes a probability and gives the quantile.
+
+The normal pair are short closed formulas, right to 1.2e-5 and 4.5e-4. The inverses of the other distributions
 bisect with a fixed tolerance of 1e-4 and give the lower end of the last bracket: they are made for critical
 values, not for digits. After a status the output is as it was, except where NaN is told. A NaN probability
 gives -20053.
@@ -34,6 +45,14 @@ _max, _min = max, min
 _ZemFunc70 = rt.bind("ZemFunc70", "status", "dp")
 
 
+def _erf(x):
+    x = rt.real(x, "x")
+    out_ = ctypes.c_double()
+    status = _ZemFunc70(x, ctypes.byref(out_))
+    rt.check(status, "erf")
+    return out_.value
+
+
 def erf(x):
     r"""The error function, 2 / sqrt(pi) times the integral of exp(-t^2) from 0 to x.
 
@@ -58,14 +77,19 @@ def erf(x):
     >>> out = qv.erf(x)
     """
     if rt.many(x):
-        return rt.each(erf, x)
-    out_ = ctypes.c_double()
-    status = _ZemFunc70(x, ctypes.byref(out_))
-    rt.check(status, "erf")
-    return out_.value
+        return rt.each(_erf, x)
+    return _erf(x)
 
 
 _ZemFunc71 = rt.bind("ZemFunc71", "status", "dp")
+
+
+def _erfc(x):
+    x = rt.real(x, "x")
+    out_ = ctypes.c_double()
+    status = _ZemFunc71(x, ctypes.byref(out_))
+    rt.check(status, "erfc")
+    return out_.value
 
 
 def erfc(x):
@@ -93,14 +117,19 @@ def erfc(x):
     >>> out = qv.erfc(x)
     """
     if rt.many(x):
-        return rt.each(erfc, x)
-    out_ = ctypes.c_double()
-    status = _ZemFunc71(x, ctypes.byref(out_))
-    rt.check(status, "erfc")
-    return out_.value
+        return rt.each(_erfc, x)
+    return _erfc(x)
 
 
 _ZemFunc134 = rt.bind("ZemFunc134", "status", "dp")
+
+
+def _normal_cdf(x):
+    x = rt.real(x, "x")
+    out_ = ctypes.c_double()
+    status = _ZemFunc134(x, ctypes.byref(out_))
+    rt.check(status, "normal_cdf")
+    return out_.value
 
 
 def normal_cdf(x):
@@ -128,14 +157,19 @@ def normal_cdf(x):
     >>> out = qv.normal_cdf(x)
     """
     if rt.many(x):
-        return rt.each(normal_cdf, x)
-    out_ = ctypes.c_double()
-    status = _ZemFunc134(x, ctypes.byref(out_))
-    rt.check(status, "normal_cdf")
-    return out_.value
+        return rt.each(_normal_cdf, x)
+    return _normal_cdf(x)
 
 
 _ZemFunc106 = rt.bind("ZemFunc106", "status", "dp")
+
+
+def _normal_inverse(p):
+    p = rt.real(p, "p")
+    out_ = ctypes.c_double()
+    status = _ZemFunc106(p, ctypes.byref(out_))
+    rt.check(status, "normal_inverse")
+    return out_.value
 
 
 def normal_inverse(p):
@@ -168,14 +202,20 @@ def normal_inverse(p):
     >>> out = qv.normal_inverse(p)
     """
     if rt.many(p):
-        return rt.each(normal_inverse, p)
-    out_ = ctypes.c_double()
-    status = _ZemFunc106(p, ctypes.byref(out_))
-    rt.check(status, "normal_inverse")
-    return out_.value
+        return rt.each(_normal_inverse, p)
+    return _normal_inverse(p)
 
 
 _ZemFunc181 = rt.bind("ZemFunc181", "status", "dip")
+
+
+def _t_cdf(t, dof):
+    t = rt.real(t, "t")
+    dof = rt.i32(dof, "dof")
+    out_ = ctypes.c_double()
+    status = _ZemFunc181(t, dof, ctypes.byref(out_))
+    rt.check(status, "t_cdf")
+    return out_.value
 
 
 def t_cdf(t, dof):
@@ -207,15 +247,20 @@ def t_cdf(t, dof):
     >>> out = qv.t_cdf(t, dof)
     """
     if rt.many(t, dof):
-        return rt.each(t_cdf, t, dof)
-    dof = rt.i32(dof, "dof")
-    out_ = ctypes.c_double()
-    status = _ZemFunc181(t, dof, ctypes.byref(out_))
-    rt.check(status, "t_cdf")
-    return out_.value
+        return rt.each(_t_cdf, t, dof)
+    return _t_cdf(t, dof)
 
 
 _ZemFunc107 = rt.bind("ZemFunc107", "status", "dip")
+
+
+def _t_inverse(p, dof):
+    p = rt.real(p, "p")
+    dof = rt.i32(dof, "dof")
+    out_ = ctypes.c_double()
+    status = _ZemFunc107(p, dof, ctypes.byref(out_))
+    rt.check(status, "t_inverse")
+    return out_.value
 
 
 def t_inverse(p, dof):
@@ -250,15 +295,20 @@ def t_inverse(p, dof):
     >>> out = qv.t_inverse(p, dof)
     """
     if rt.many(p, dof):
-        return rt.each(t_inverse, p, dof)
-    dof = rt.i32(dof, "dof")
-    out_ = ctypes.c_double()
-    status = _ZemFunc107(p, dof, ctypes.byref(out_))
-    rt.check(status, "t_inverse")
-    return out_.value
+        return rt.each(_t_inverse, p, dof)
+    return _t_inverse(p, dof)
 
 
 _ZemFunc190 = rt.bind("ZemFunc190", "status", "dip")
+
+
+def _chi_square_cdf(x, dof):
+    x = rt.real(x, "x")
+    dof = rt.i32(dof, "dof")
+    out_ = ctypes.c_double()
+    status = _ZemFunc190(x, dof, ctypes.byref(out_))
+    rt.check(status, "chi_square_cdf")
+    return out_.value
 
 
 def chi_square_cdf(x, dof):
@@ -293,15 +343,20 @@ def chi_square_cdf(x, dof):
     >>> out = qv.chi_square_cdf(x, dof)
     """
     if rt.many(x, dof):
-        return rt.each(chi_square_cdf, x, dof)
-    dof = rt.i32(dof, "dof")
-    out_ = ctypes.c_double()
-    status = _ZemFunc190(x, dof, ctypes.byref(out_))
-    rt.check(status, "chi_square_cdf")
-    return out_.value
+        return rt.each(_chi_square_cdf, x, dof)
+    return _chi_square_cdf(x, dof)
 
 
 _ZemFunc108 = rt.bind("ZemFunc108", "status", "dip")
+
+
+def _chi_square_inverse(p, dof):
+    p = rt.real(p, "p")
+    dof = rt.i32(dof, "dof")
+    out_ = ctypes.c_double()
+    status = _ZemFunc108(p, dof, ctypes.byref(out_))
+    rt.check(status, "chi_square_inverse")
+    return out_.value
 
 
 def chi_square_inverse(p, dof):
@@ -337,15 +392,21 @@ def chi_square_inverse(p, dof):
     >>> out = qv.chi_square_inverse(p, dof)
     """
     if rt.many(p, dof):
-        return rt.each(chi_square_inverse, p, dof)
-    dof = rt.i32(dof, "dof")
-    out_ = ctypes.c_double()
-    status = _ZemFunc108(p, dof, ctypes.byref(out_))
-    rt.check(status, "chi_square_inverse")
-    return out_.value
+        return rt.each(_chi_square_inverse, p, dof)
+    return _chi_square_inverse(p, dof)
 
 
 _ZemFunc83 = rt.bind("ZemFunc83", "status", "diip")
+
+
+def _f_cdf(x, dof1, dof2):
+    x = rt.real(x, "x")
+    dof1 = rt.i32(dof1, "dof1")
+    dof2 = rt.i32(dof2, "dof2")
+    out_ = ctypes.c_double()
+    status = _ZemFunc83(x, dof1, dof2, ctypes.byref(out_))
+    rt.check(status, "f_cdf")
+    return out_.value
 
 
 def f_cdf(x, dof1, dof2):
@@ -382,16 +443,21 @@ def f_cdf(x, dof1, dof2):
     >>> out = qv.f_cdf(x, dof1, dof2)
     """
     if rt.many(x, dof1, dof2):
-        return rt.each(f_cdf, x, dof1, dof2)
-    dof1 = rt.i32(dof1, "dof1")
-    dof2 = rt.i32(dof2, "dof2")
-    out_ = ctypes.c_double()
-    status = _ZemFunc83(x, dof1, dof2, ctypes.byref(out_))
-    rt.check(status, "f_cdf")
-    return out_.value
+        return rt.each(_f_cdf, x, dof1, dof2)
+    return _f_cdf(x, dof1, dof2)
 
 
 _ZemFunc104 = rt.bind("ZemFunc104", "status", "diip")
+
+
+def _f_inverse(p, dof1, dof2):
+    p = rt.real(p, "p")
+    dof1 = rt.i32(dof1, "dof1")
+    dof2 = rt.i32(dof2, "dof2")
+    out_ = ctypes.c_double()
+    status = _ZemFunc104(p, dof1, dof2, ctypes.byref(out_))
+    rt.check(status, "f_inverse")
+    return out_.value
 
 
 def f_inverse(p, dof1, dof2):
@@ -427,10 +493,5 @@ def f_inverse(p, dof1, dof2):
     >>> out = qv.f_inverse(p, dof1, dof2)
     """
     if rt.many(p, dof1, dof2):
-        return rt.each(f_inverse, p, dof1, dof2)
-    dof1 = rt.i32(dof1, "dof1")
-    dof2 = rt.i32(dof2, "dof2")
-    out_ = ctypes.c_double()
-    status = _ZemFunc104(p, dof1, dof2, ctypes.byref(out_))
-    rt.check(status, "f_inverse")
-    return out_.value
+        return rt.each(_f_inverse, p, dof1, dof2)
+    return _f_inverse(p, dof1, dof2)

@@ -1,10 +1,19 @@
-"""Eigenproblems.
+r"""Eigenproblems.
 
-Eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the Schur forms behind them with the
-eigenvalues in a chosen order along the diagonal. Matrices are row-major without gaps; eigenvectors stand one
-a column, normalised as LAPACK does it. Inputs are copied before they are worked on. On an error the outputs
-stay as they are. Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending
-modulus. Equal ones keep their places.
+Modes, stability and resonances: eigenvalues and eigenvectors of one matrix and of a pair of matrices, and the
+Schur forms behind them with the eigenvalues in a chosen order along the diagonal.
+
+    eigenvalues              A v = lambda v
+    generalised              A v = lambda B v,     lambda = alpha / beta
+    Schur form               A = Q T Q^H,          T upper triangular; real: with 2 x 2 blocks for conjugate pairs
+    generalised Schur form   A = Q S Z^H,  B = Q T Z^H
+
+Matrices are row-major without gaps; eigenvectors stand one a column, normalised as LAPACK does it: to a
+Euclidean length of 1, those of a pair of matrices to a largest |re| + |im| of 1. Inputs are copied before
+they are worked on. On an error the outputs stay as they are.
+
+Orders: 0 as produced, 1 ascending and 2 descending real part, 3 ascending and 4 descending modulus. Equal
+ones keep their places.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -59,7 +68,7 @@ def eigen_general(a, want_vectors=True, *, out=None):
     want_vectors : bool, default True
         0: eigenvalues alone; 1: vectors too
     out : tuple or None
-        arrays for `values`, `vectors`, each may be None; an input, to work in place
+        arrays for `values`, `vectors`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -123,7 +132,7 @@ def eigen_symmetric(a, want_vectors=True, *, out=None):
     want_vectors : bool, default True
         0: eigenvalues alone; 1: vectors too
     out : tuple or None
-        arrays for `values`, `vectors`, each may be None; an input, to work in place
+        arrays for `values`, `vectors`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -185,7 +194,7 @@ def eigen_complex(a, kind=EigenKind.GENERAL, want_vectors=True, *, out=None):
     want_vectors : bool, default True
         0: eigenvalues alone; 1: vectors too
     out : tuple or None
-        arrays for `values`, `vectors`, each may be None; an input, to work in place
+        arrays for `values`, `vectors`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -251,7 +260,7 @@ def schur(a, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `vectors`, `t`, `values`, each may be None; an input, to work in place
+        arrays for `vectors`, `t`, `values`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -321,7 +330,7 @@ def schur_complex(a, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `vectors`, `t`, `values`, each may be None; an input, to work in place
+        arrays for `vectors`, `t`, `values`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -391,7 +400,7 @@ def eigen_generalised(a, b, *, out=None):
     b : array_like of float64, shape (n, n)
         the matrix B, row-major
     out : tuple or None
-        arrays for `values`, `right`, `left`, each may be None; an input, to work in place
+        arrays for `values`, `right`, `left`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -461,7 +470,7 @@ def eigen_generalised_complex(a, b, *, out=None):
     b : array_like of complex128, shape (n, n)
         the matrix B, row-major
     out : tuple or None
-        arrays for `values`, `right`, `left`, each may be None; an input, to work in place
+        arrays for `values`, `right`, `left`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -537,8 +546,8 @@ def qz(a, b, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, each may be None; an input, to work in
-        place
+        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, or None for one to be made; each may be
+        an input, to work in place
 
     Returns
     -------
@@ -644,8 +653,8 @@ def qz_complex(a, b, sort=EigenOrder.AS_PRODUCED, *, out=None):
     sort : EigenOrder, its name, or int, default EigenOrder.AS_PRODUCED
         the order of the eigenvalues, 0 to 4
     out : tuple or None
-        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, each may be None; an input, to work in
-        place
+        arrays for `s`, `t`, `q`, `z`, `alpha`, `beta`, `right`, `left`, or None for one to be made; each may be
+        an input, to work in place
 
     Returns
     -------

@@ -1,10 +1,20 @@
-"""Elliptic, hypergeometric and integral functions.
+r"""Elliptic, hypergeometric and integral functions.
 
-Scalar functions of real arguments, returned as the value itself or written to the caller's doubles: there is
-no status. A domain fault gives NaN or the infinity that the function's text names; a NaN argument gives NaN,
-in every output. The elliptic functions take the parameter m = k^2, not the modulus k. The hypergeometric
-functions take x before the parameters. Where an argument goes by address, a null pointer selects the complete
-integral; the address of 0.0 does not.
+Arc lengths, pendulums and filter theory (elliptic), asymptotic and special solutions (hypergeometric),
+diffraction, transients and antennas (integrals), of real arguments.
+
+    F(phi, m) = integral of dt / sqrt(1 - m sin^2 t) from 0 to phi,      K(m) = F(pi/2, m)
+    E(phi, m) = integral of sqrt(1 - m sin^2 t) dt from 0 to phi,        E(m) = E(pi/2, m)
+    sn u = sin phi, cn u = cos phi, dn u = sqrt(1 - m sin^2 phi),        where F(phi, m) = u
+    C(x) = integral of cos(pi t^2 / 2) from 0 to x,   S(x) = integral of sin(pi t^2 / 2)
+    1F1(a; b; x) = sum of (a)_k / (b)_k x^k / k!,     2F1(a, b; c; x) = sum of (a)_k (b)_k / (c)_k x^k / k!
+
+The elliptic functions take the parameter m = k^2, not the modulus k; angles in radians. The hypergeometric
+functions take x before the parameters; (a)_k = a (a + 1) ... (a + k - 1). Where an argument goes by address,
+a null pointer selects the complete integral; the address of 0.0 does not.
+
+Values are returned as such or written to the caller's doubles: there is no status. A domain fault gives NaN
+or the infinity that the function's text names; a NaN argument gives NaN, in every output.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -41,8 +51,13 @@ _max, _min = max, min
 _ZemFunc318 = rt.bind("ZemFunc318", "double", "dp")
 
 
+def _elliptic_k(m, phi):
+    m = rt.real(m, "m")
+    return _ZemFunc318(m, rt.optional(phi, "phi"))
+
+
 def elliptic_k(m, phi=None):
-    r"""Null phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
+    r"""Without phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
 
     Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1
     infinite from |phi| = pi/2 on. NaN for m outside [0, 1]. Rational forms in 1 - m with its logarithm; the
@@ -69,15 +84,20 @@ def elliptic_k(m, phi=None):
     >>> value = qv.elliptic_k(m)
     """
     if rt.many(m, phi):
-        return rt.each(elliptic_k, m, phi)
-    return _ZemFunc318(m, rt.optional(phi))
+        return rt.each(_elliptic_k, m, phi)
+    return _elliptic_k(m, phi)
 
 
 _ZemFunc319 = rt.bind("ZemFunc319", "double", "dp")
 
 
+def _elliptic_e(m, phi):
+    m = rt.real(m, "m")
+    return _ZemFunc319(m, rt.optional(phi, "phi"))
+
+
 def elliptic_e(m, phi=None):
-    r"""Null phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
+    r"""Without phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
 
     Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E. NaN for m
     outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
@@ -103,8 +123,8 @@ def elliptic_e(m, phi=None):
     >>> value = qv.elliptic_e(m)
     """
     if rt.many(m, phi):
-        return rt.each(elliptic_e, m, phi)
-    return _ZemFunc319(m, rt.optional(phi))
+        return rt.each(_elliptic_e, m, phi)
+    return _elliptic_e(m, phi)
 
 
 _ZemFunc332 = rt.bind("ZemFunc332", "none", "ddpppp")
@@ -117,6 +137,17 @@ class JacobiEllipticResult(NamedTuple):
     cn: float
     dn: float
     phi: float
+
+
+def _jacobi_elliptic(u, m):
+    u = rt.real(u, "u")
+    m = rt.real(m, "m")
+    sn_ = ctypes.c_double()
+    cn_ = ctypes.c_double()
+    dn_ = ctypes.c_double()
+    phi_ = ctypes.c_double()
+    _ZemFunc332(u, m, ctypes.byref(sn_), ctypes.byref(cn_), ctypes.byref(dn_), ctypes.byref(phi_))
+    return JacobiEllipticResult(sn_.value, cn_.value, dn_.value, phi_.value)
 
 
 def jacobi_elliptic(u, m):
@@ -149,16 +180,16 @@ def jacobi_elliptic(u, m):
     >>> result = qv.jacobi_elliptic(u, m)
     """
     if rt.many(u, m):
-        return rt.each(jacobi_elliptic, u, m)
-    sn_ = ctypes.c_double()
-    cn_ = ctypes.c_double()
-    dn_ = ctypes.c_double()
-    phi_ = ctypes.c_double()
-    _ZemFunc332(u, m, ctypes.byref(sn_), ctypes.byref(cn_), ctypes.byref(dn_), ctypes.byref(phi_))
-    return JacobiEllipticResult(sn_.value, cn_.value, dn_.value, phi_.value)
+        return rt.each(_jacobi_elliptic, u, m, result=JacobiEllipticResult)
+    return _jacobi_elliptic(u, m)
 
 
 _ZemFunc320 = rt.bind("ZemFunc320", "double", "d")
+
+
+def _dawson(x):
+    x = rt.real(x, "x")
+    return _ZemFunc320(x)
 
 
 def dawson(x):
@@ -185,8 +216,8 @@ def dawson(x):
     >>> value = qv.dawson(x)
     """
     if rt.many(x):
-        return rt.each(dawson, x)
-    return _ZemFunc320(x)
+        return rt.each(_dawson, x)
+    return _dawson(x)
 
 
 _ZemFunc331 = rt.bind("ZemFunc331", "none", "dpp")
@@ -197,6 +228,14 @@ class FresnelResult(NamedTuple):
 
     s: float
     c: float
+
+
+def _fresnel(x):
+    x = rt.real(x, "x")
+    s_ = ctypes.c_double()
+    c_ = ctypes.c_double()
+    _ZemFunc331(x, ctypes.byref(s_), ctypes.byref(c_))
+    return FresnelResult(s_.value, c_.value)
 
 
 def fresnel(x):
@@ -225,14 +264,17 @@ def fresnel(x):
     >>> s, c = qv.fresnel(x)
     """
     if rt.many(x):
-        return rt.each(fresnel, x)
-    s_ = ctypes.c_double()
-    c_ = ctypes.c_double()
-    _ZemFunc331(x, ctypes.byref(s_), ctypes.byref(c_))
-    return FresnelResult(s_.value, c_.value)
+        return rt.each(_fresnel, x, result=FresnelResult)
+    return _fresnel(x)
 
 
 _ZemFunc321 = rt.bind("ZemFunc321", "double", "di")
+
+
+def _exp_integral_n(x, n):
+    x = rt.real(x, "x")
+    n = rt.i32(n, "n")
+    return _ZemFunc321(x, n)
 
 
 def exp_integral_n(x, n):
@@ -262,12 +304,16 @@ def exp_integral_n(x, n):
     >>> value = qv.exp_integral_n(x, n)
     """
     if rt.many(x, n):
-        return rt.each(exp_integral_n, x, n)
-    n = rt.i32(n, "n")
-    return _ZemFunc321(x, n)
+        return rt.each(_exp_integral_n, x, n)
+    return _exp_integral_n(x, n)
 
 
 _ZemFunc322 = rt.bind("ZemFunc322", "double", "d")
+
+
+def _sine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc322(x)
 
 
 def sine_integral(x):
@@ -294,11 +340,16 @@ def sine_integral(x):
     >>> value = qv.sine_integral(x)
     """
     if rt.many(x):
-        return rt.each(sine_integral, x)
-    return _ZemFunc322(x)
+        return rt.each(_sine_integral, x)
+    return _sine_integral(x)
 
 
 _ZemFunc323 = rt.bind("ZemFunc323", "double", "d")
+
+
+def _cosine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc323(x)
 
 
 def cosine_integral(x):
@@ -326,11 +377,16 @@ def cosine_integral(x):
     >>> value = qv.cosine_integral(x)
     """
     if rt.many(x):
-        return rt.each(cosine_integral, x)
-    return _ZemFunc323(x)
+        return rt.each(_cosine_integral, x)
+    return _cosine_integral(x)
 
 
 _ZemFunc325 = rt.bind("ZemFunc325", "double", "d")
+
+
+def _hyperbolic_sine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc325(x)
 
 
 def hyperbolic_sine_integral(x):
@@ -358,11 +414,16 @@ def hyperbolic_sine_integral(x):
     >>> value = qv.hyperbolic_sine_integral(x)
     """
     if rt.many(x):
-        return rt.each(hyperbolic_sine_integral, x)
-    return _ZemFunc325(x)
+        return rt.each(_hyperbolic_sine_integral, x)
+    return _hyperbolic_sine_integral(x)
 
 
 _ZemFunc324 = rt.bind("ZemFunc324", "double", "d")
+
+
+def _hyperbolic_cosine_integral(x):
+    x = rt.real(x, "x")
+    return _ZemFunc324(x)
 
 
 def hyperbolic_cosine_integral(x):
@@ -390,19 +451,26 @@ def hyperbolic_cosine_integral(x):
     >>> value = qv.hyperbolic_cosine_integral(x)
     """
     if rt.many(x):
-        return rt.each(hyperbolic_cosine_integral, x)
-    return _ZemFunc324(x)
+        return rt.each(_hyperbolic_cosine_integral, x)
+    return _hyperbolic_cosine_integral(x)
 
 
 _ZemFunc316 = rt.bind("ZemFunc316", "double", "ddd")
 
 
-def hyperg_1f1(x, a, b):
-    r"""Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ... +Inf for b
-    = 0, -1, -2, ... unless a ends the series before.
+def _hyperg_1f1(x, a, b):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc316(x, a, b)
 
-    NaN for infinite parameters, and where no digit would be right. Power series, Kummer's transformation or
-    asymptotic form, the best by its estimated error (Moshier 1989, hyperg).
+
+def hyperg_1f1(x, a, b):
+    r"""Kummer's confluent hypergeometric function 1F1(a; b; x) = 1 + a/b x + a(a+1)/(b(b+1)) x^2/2! + ...
+
+    +Inf for b = 0, -1, -2, ... unless a ends the series before. NaN for infinite parameters, and where no digit
+    would be right. Power series, Kummer's transformation or asymptotic form, the best by its estimated error
+    (Moshier 1989, hyperg).
 
     Parameters
     ----------
@@ -427,11 +495,18 @@ def hyperg_1f1(x, a, b):
     >>> value = qv.hyperg_1f1(x, a, b)
     """
     if rt.many(x, a, b):
-        return rt.each(hyperg_1f1, x, a, b)
-    return _ZemFunc316(x, a, b)
+        return rt.each(_hyperg_1f1, x, a, b)
+    return _hyperg_1f1(x, a, b)
 
 
 _ZemFunc317 = rt.bind("ZemFunc317", "double", "ddd")
+
+
+def _hyperg_u(x, a, b):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc317(x, a, b)
 
 
 def hyperg_u(x, a, b):
@@ -464,11 +539,19 @@ def hyperg_u(x, a, b):
     >>> value = qv.hyperg_u(x, a, b)
     """
     if rt.many(x, a, b):
-        return rt.each(hyperg_u, x, a, b)
-    return _ZemFunc317(x, a, b)
+        return rt.each(_hyperg_u, x, a, b)
+    return _hyperg_u(x, a, b)
 
 
 _ZemFunc386 = rt.bind("ZemFunc386", "double", "dddd")
+
+
+def _hyperg_2f1(x, a, b, c):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    c = rt.real(c, "c")
+    return _ZemFunc386(x, a, b, c)
 
 
 def hyperg_2f1(x, a, b, c):
@@ -504,11 +587,19 @@ def hyperg_2f1(x, a, b, c):
     >>> value = qv.hyperg_2f1(x, a, b, c)
     """
     if rt.many(x, a, b, c):
-        return rt.each(hyperg_2f1, x, a, b, c)
-    return _ZemFunc386(x, a, b, c)
+        return rt.each(_hyperg_2f1, x, a, b, c)
+    return _hyperg_2f1(x, a, b, c)
 
 
 _ZemFunc315 = rt.bind("ZemFunc315", "double", "dddd")
+
+
+def _hyperg_2f1_transformed(x, a, b, c):
+    x = rt.real(x, "x")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    c = rt.real(c, "c")
+    return _ZemFunc315(x, a, b, c)
 
 
 def hyperg_2f1_transformed(x, a, b, c):
@@ -539,11 +630,17 @@ def hyperg_2f1_transformed(x, a, b, c):
     >>> value = qv.hyperg_2f1_transformed(x, a, b, c)
     """
     if rt.many(x, a, b, c):
-        return rt.each(hyperg_2f1_transformed, x, a, b, c)
-    return _ZemFunc315(x, a, b, c)
+        return rt.each(_hyperg_2f1_transformed, x, a, b, c)
+    return _hyperg_2f1_transformed(x, a, b, c)
 
 
 _ZemFunc327 = rt.bind("ZemFunc327", "double", "dd")
+
+
+def _parabolic_cylinder(x, v):
+    x = rt.real(x, "x")
+    v = rt.real(v, "v")
+    return _ZemFunc327(x, v)
 
 
 def parabolic_cylinder(x, v):
@@ -574,5 +671,5 @@ def parabolic_cylinder(x, v):
     >>> value = qv.parabolic_cylinder(x, v)
     """
     if rt.many(x, v):
-        return rt.each(parabolic_cylinder, x, v)
-    return _ZemFunc327(x, v)
+        return rt.each(_parabolic_cylinder, x, v)
+    return _parabolic_cylinder(x, v)

@@ -1,12 +1,21 @@
-"""Filter objects and the cascade engine.
+r"""Filter objects and the cascade engine.
 
-A recursive filter lives in an object: a record that the caller may read, with the coefficients and delay
-lines of its stages behind it in the same block of memory. It is created, designed (see the designs of the
-family below), and then applied to any number of blocks: the delay lines carry over, and a signal that is cut
-into blocks comes out as it would in one piece, to the last bit. `memory_release` gives the object back. A
-stage with the coefficients a and b and the delay line d turns the sample v into v' = t b[0] + b[1] d[0] +
-b[2] d[1] + ..., where t = v - a[0] d[0] - a[1] d[1] - ... then enters the delay line (direct form II; sums
-from the left). What enters a delay line or leaves the last stage becomes 0 where its magnitude is
+Recursive filters for streams: an object keeps the coefficients and the delay lines of its stages, and a
+signal that is cut into blocks comes out as it would in one piece, to the last bit.
+
+    H(z) = product over the stages of (b[0] + b[1] z^-1 + ... + b[w] z^-w) / (1 + a[0] z^-1 + ... + a[w - 1] z^-w)
+    t  = v - a[0] d[0] - a[1] d[1] - ... - a[w - 1] d[w - 1]
+    v' = t b[0] + b[1] d[0] + b[2] d[1] + ... + b[w] d[w - 1]
+    d[1 ...] = d[0 ...],  d[0] = t
+
+Each sample v goes through a stage with the coefficients a and b and the delay line d in this way (direct form
+II; sums from the left) and v' into the next stage. The width w is 2 for lowpass and highpass, 4 for bandpass
+and bandstop, and there are (order + 1) / 2 stages. The leading 1 of the denominator is not stored; signs are
+those of the denominator. The caller may read the record: stage s has its a at s w, its b at s (w + 1), its d
+at s w with the newest value first.
+
+A filter is created, designed (see iir_design), and then applied to any number of blocks; `memory_release`
+gives the object back. What enters a delay line or leaves the last stage becomes 0 where its magnitude is
 2.2250738585072014e-308 or less: a decaying response ends in zeros and does not slow down on denormals. An
 object belongs to one thread at a time.
 
@@ -138,7 +147,7 @@ def iir_cascade_apply(x, filter, *, out=None):
     filter : IirFilter
         the filter, designed
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -184,7 +193,7 @@ def iir_cascade_apply_complex(x, filter, state, *, out=None):
     state : IirStateComplex
         the delay lines, of the same kind and order
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

@@ -1,12 +1,19 @@
-"""Equiripple FIR design.
+r"""Equiripple FIR design.
 
 Linear-phase filters whose peak weighted error is the least possible: the Parks-McClellan algorithm with the
 Remez exchange on a grid of 16 points to each cosine function (J. H. McClellan, T. W. Parks and L. R. Rabiner,
-IEEE Trans. Audio Electroacoust. 21, 1973). Frequencies are in the unit of the sampling rate fs. Multiband
-filters are symmetric; differentiators and Hilbert transformers are antisymmetric. The weighted error reaches
-plus and minus delta in turn; in a band its size is delta / weight. After an error h is not written. A design
-has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99 passes.
-Statuses are tested in the order in which they are listed.
+IEEE Trans. Audio Electroacoust. 21, 1973).
+
+    H(f) = sum over i of h[i] exp(-2 pi i f i / fs)
+    multiband                    h[i] =  h[taps - 1 - i],   minimises max W(f) | |H(f)| - D(f) |
+    differentiator, Hilbert      h[i] = -h[taps - 1 - i]
+
+Frequencies are in the unit of the sampling rate fs; D and W are the desired value and the weight of each
+band. The delay is (taps - 1)/2 samples. The weighted error reaches plus and minus delta in turn; in a band
+its size is delta / weight, a ripple of 20 lg(1 + delta / weight) dB. After an error h is not written.
+
+A design has at most 2045 functions (taps/2, and one more for an odd multiband filter). It takes at most 99
+passes. Statuses are tested in the order in which they are listed.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -75,7 +82,7 @@ def fir_remez_design(desired, weights, fs, edges, taps, kind=RemezKind.MULTIBAND
     kind : RemezKind, its name, or int, default RemezKind.MULTIBAND
         1 multiband filter, 2 differentiator, 3 Hilbert transformer; others antisymmetric, without checks
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -116,6 +123,7 @@ def fir_remez_design(desired, weights, fs, edges, taps, kind=RemezKind.MULTIBAND
     weights = rt.array(weights, rt.F8, 1, "weights")
     edges = rt.array(edges, rt.F8, 1, "edges")
     bands = desired.shape[0]
+    fs = rt.real(fs, "fs")
     kind = rt.choice(kind, RemezKind, "kind")
     taps = rt.i32(taps, "taps")
     rt.fits(weights, (bands,), "weights")
@@ -152,7 +160,7 @@ def fir_remez_bands(taps, fs, bands, kind=RemezBandsKind.MULTIBAND, *, out=None)
     kind : RemezBandsKind, its name, or int, default RemezBandsKind.MULTIBAND
         0 multiband filter, 1 differentiator, 2 Hilbert transformer
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -182,6 +190,7 @@ def fir_remez_bands(taps, fs, bands, kind=RemezBandsKind.MULTIBAND, *, out=None)
     bands = rt.array(bands, rt.F8, 2, "bands")
     count = bands.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
     kind = rt.choice(kind, RemezBandsKind, "kind")
     rt.fits(bands, (count, 4), "bands")
     delta_ = ctypes.c_double()
@@ -215,7 +224,7 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -232,6 +241,7 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -244,6 +254,9 @@ def fir_remez_lowpass(fs, fpass, fstop, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_lowpass(fs, fpass, fstop, taps)
     """
+    fs = rt.real(fs, "fs")
+    fpass = rt.real(fpass, "fpass")
+    fstop = rt.real(fstop, "fstop")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -276,7 +289,7 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -293,6 +306,7 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20033: taps is even: the response would be 0 at fs/2
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
@@ -306,6 +320,9 @@ def fir_remez_highpass(fs, fstop, fpass, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_highpass(fs, fstop, fpass, taps)
     """
+    fs = rt.real(fs, "fs")
+    fstop = rt.real(fstop, "fstop")
+    fpass = rt.real(fpass, "fpass")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -342,7 +359,7 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -359,6 +376,7 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -371,6 +389,11 @@ def fir_remez_bandpass(fs, f1, f2, f3, f4, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_bandpass(fs, f1, f2, f3, f4, taps)
     """
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -407,7 +430,7 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
     taps : int
         the number of coefficients, at least 3
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -424,6 +447,7 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20033: taps is even: the response would be 0 at fs/2
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
@@ -437,6 +461,11 @@ def fir_remez_bandstop(fs, f1, f2, f3, f4, taps, *, out=None):
     -------
     >>> h, delta = qv.fir_remez_bandstop(fs, f1, f2, f3, f4, taps)
     """
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     taps = rt.i32(taps, "taps")
     delta_ = ctypes.c_double()
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -464,7 +493,7 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     fstop : float
         edge of the stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -481,6 +510,7 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -499,6 +529,9 @@ def fir_remez_filter_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fpass = rt.real(fpass, "fpass")
+    fstop = rt.real(fstop, "fstop")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc472(rt.pointer(x), n, taps, fs, fpass, fstop, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_lowpass")
@@ -526,7 +559,7 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
     fpass : float
         edge of the passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -543,6 +576,7 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -561,6 +595,9 @@ def fir_remez_filter_highpass(x, taps, fs, fstop, fpass, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fstop = rt.real(fstop, "fstop")
+    fpass = rt.real(fpass, "fpass")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.F8, (x,))
     status = _ZemFunc473(rt.pointer(x), n, taps, fs, fstop, fpass, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_highpass")
@@ -590,7 +627,7 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -607,6 +644,7 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -625,6 +663,11 @@ def fir_remez_filter_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc474(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_bandpass")
@@ -656,7 +699,7 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -673,6 +716,7 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -691,6 +735,11 @@ def fir_remez_filter_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.F8, (x,))
     status = _ZemFunc475(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_bandstop")
@@ -716,7 +765,7 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     fstop : float
         edge of the stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -733,6 +782,7 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -748,6 +798,9 @@ def fir_remez_filter_complex_lowpass(x, taps, fs, fpass, fstop, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fpass = rt.real(fpass, "fpass")
+    fstop = rt.real(fstop, "fstop")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc476(rt.pointer(x), n, taps, fs, fpass, fstop, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_lowpass")
@@ -775,7 +828,7 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
     fpass : float
         edge of the passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -792,6 +845,7 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -807,6 +861,9 @@ def fir_remez_filter_complex_highpass(x, taps, fs, fstop, fpass, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fstop = rt.real(fstop, "fstop")
+    fpass = rt.real(fpass, "fpass")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.C16, (x,))
     status = _ZemFunc477(rt.pointer(x), n, taps, fs, fstop, fpass, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_highpass")
@@ -836,7 +893,7 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper stopband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -853,6 +910,7 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -868,6 +926,11 @@ def fir_remez_filter_complex_bandpass(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc478(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_bandpass")
@@ -899,7 +962,7 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     f4 : float
         begin of the upper passband
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -916,6 +979,7 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
         -20023: fs is not above 0
         -20031: an edge is not finite
         -20023: an edge is negative, or the edges do not ascend from 0 to fs/2
+        -20020: fs is so small (below 4.5e-308) that its half rounds up
         -20001: the design would have more than 2045 functions, or memory is exhausted
         -20031: the exchange fails: extremal points coincide, the error shrinks, or 99 passes do not suffice;
         delta then tells the error so far
@@ -931,6 +995,11 @@ def fir_remez_filter_complex_bandstop(x, taps, fs, f1, f2, f3, f4, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    f3 = rt.real(f3, "f3")
+    f4 = rt.real(f4, "f4")
     y_ = rt.result(out, (n + taps - rt.remainder(taps, 2),), rt.C16, (x,))
     status = _ZemFunc479(rt.pointer(x), n, taps, fs, f1, f2, f3, f4, rt.pointer(y_))
     rt.check(status, "fir_remez_filter_complex_bandstop")

@@ -1,12 +1,18 @@
-"""Narrowband FIR design.
+r"""Narrowband FIR design.
 
 Filters with a very narrow transition, as two stages with few multiplications: a model filter whose taps stand
 `factor` samples apart, and an image suppressor that removes the copies of its response (Y. Neuvo, Dong C.-Y.
-and S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984). The factor with the least sum of
-Kaiser's order estimates is taken; where none gains, a single filter is designed. Both stages are equiripple
-and each spends at most half of the deviation, so that the cascade stays within it. Bands beyond fs/4 are
-mirrored, or designed as the complement, whose output is added to the delayed input. The record belongs to the
-caller, between `fir_narrowband_create` and `fir_narrowband_release`, and takes one design.
+and S. K. Mitra, IEEE Trans. Acoust. Speech Signal Process. 32, 1984).
+
+    H(z) = G(z^factor) S(z),     G the model, S the suppressor
+
+The factor with the least sum of Kaiser's order estimates is taken; where none gains, a single filter is
+designed. Both stages are equiripple and each spends at most half of the deviation, so that the cascade stays
+within it. Bands beyond fs/4 are mirrored, or designed as the complement, whose output is added to the delayed
+input. Frequencies are in the unit of the sampling rate fs. Taps are symmetric, in ascending delay.
+
+The record belongs to the caller, between `fir_narrowband_create` and `fir_narrowband_release`, and takes one
+design.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -124,6 +130,12 @@ def fir_narrowband_design(fs, f1, f2, ripple, attenuation, kind, filter, center=
     -------
     >>> qv.fir_narrowband_design(fs, f1, f2, ripple, attenuation, kind, filter)
     """
+    fs = rt.real(fs, "fs")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
+    center = rt.real(center, "center")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     kind = rt.choice(kind, FilterKind, "kind")
     status = _ZemFunc409(fs, f1, f2, center, ripple, attenuation, kind, rt.handle(filter, "FirNarrowband"))
     rt.check(status, "fir_narrowband_design")
@@ -144,7 +156,7 @@ def fir_narrowband_filter(x, filter, *, out=None):
     filter : FirNarrowband
         a designed record
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -191,7 +203,7 @@ def fir_narrowband_filter_complex(x, filter, *, out=None):
     filter : FirNarrowband
         a designed record
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------

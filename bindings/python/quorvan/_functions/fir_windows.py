@@ -1,13 +1,20 @@
-"""FIR design by window.
+r"""FIR design by window.
 
 Finite impulse responses: the ideal response of a lowpass (kind 0), highpass (1), bandpass (2) or bandstop
 (3), cut to the wanted number of taps and multiplied by a symmetric window (A. V. Oppenheim and R. W. Schafer,
-Discrete-Time Signal Processing, chapter 7). With t = i - (taps - 1)/2 and w = 2 pi f/fs the lowpass is sin(w
-t)/(pi t), the bandpass the difference of two lowpasses; highpass and bandstop are a unit pulse less these.
-The passband is not scaled to a gain of exactly 1. Frequencies are in the unit of the sampling rate fs. Taps
-are symmetric about the middle; the delay is (taps - 1)/2. After an error h is undefined. The filters write
-the whole convolution, with both transients, and y must not overlap x. Statuses are tested in the order in
-which they are listed.
+Discrete-Time Signal Processing, chapter 7).
+
+    t = i - (taps - 1)/2,   W = 2 pi f / fs
+    lowpass    h[i] = w[i] sin(W t) / (pi t),                 W / pi at t = 0
+    highpass   h[i] = w[i] (delta(t) - sin(W t) / (pi t))
+    bandpass   h[i] = w[i] (sin(Wh t) - sin(Wl t)) / (pi t)
+    bandstop   h[i] = w[i] (delta(t) - (sin(Wh t) - sin(Wl t)) / (pi t))
+    y[l] = sum over i of h[i] x[l - i]
+
+The passband is not scaled to a gain of exactly 1; at the cutoffs the gain is near 1/2. Frequencies are in the
+unit of the sampling rate fs. Taps are symmetric about the middle, in ascending delay; the delay is (taps -
+1)/2. After an error h is undefined. The filters write the whole convolution, with both transients, and y must
+not overlap x. Statuses are tested in the order in which they are listed.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -65,7 +72,7 @@ def fir_ideal_response(kind, fs, fl, taps, fh=0.0, *, out=None):
     fh : float, default 0.0
         the upper edge of a band; else ignored
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -90,6 +97,9 @@ def fir_ideal_response(kind, fs, fl, taps, fh=0.0, *, out=None):
     >>> h = qv.fir_ideal_response(kind, fs, fl, taps)
     """
     kind = rt.choice(kind, FilterKind, "kind")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     taps = rt.i32(taps, "taps")
     h_ = rt.result(out, (taps,), rt.F8, ())
     status = _ZemFunc79(kind, fs, fl, fh, taps, rt.pointer(h_))
@@ -122,7 +132,7 @@ def fir_design_window(kind, fs, fl, taps, window, fh=0.0, parameter=0.0, *, out=
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -149,8 +159,12 @@ def fir_design_window(kind, fs, fl, taps, window, fh=0.0, parameter=0.0, *, out=
     >>> h = qv.fir_design_window(kind, fs, fl, taps, window)
     """
     kind = rt.choice(kind, FilterKind, "kind")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     taps = rt.i32(taps, "taps")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     h_ = rt.result(out, (taps,), rt.F8, ())
     status = _ZemFunc335(kind, fs, fl, fh, taps, window, parameter, rt.pointer(h_))
     rt.check(status, "fir_design_window")
@@ -174,7 +188,7 @@ def fir_design_lowpass(fs, fc, taps, window=FirWindow.HAMMING, *, out=None):
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -197,6 +211,8 @@ def fir_design_lowpass(fs, fc, taps, window=FirWindow.HAMMING, *, out=None):
     -------
     >>> h = qv.fir_design_lowpass(fs, fc, taps)
     """
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     taps = rt.i32(taps, "taps")
     window = rt.choice(window, FirWindow, "window")
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -222,7 +238,7 @@ def fir_design_highpass(fs, fc, taps, window=FirWindow.HAMMING, *, out=None):
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -246,6 +262,8 @@ def fir_design_highpass(fs, fc, taps, window=FirWindow.HAMMING, *, out=None):
     -------
     >>> h = qv.fir_design_highpass(fs, fc, taps)
     """
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     taps = rt.i32(taps, "taps")
     window = rt.choice(window, FirWindow, "window")
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -273,7 +291,7 @@ def fir_design_bandpass(fs, fl, fh, taps, window=FirWindow.HAMMING, *, out=None)
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -296,6 +314,9 @@ def fir_design_bandpass(fs, fl, fh, taps, window=FirWindow.HAMMING, *, out=None)
     -------
     >>> h = qv.fir_design_bandpass(fs, fl, fh, taps)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     taps = rt.i32(taps, "taps")
     window = rt.choice(window, FirWindow, "window")
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -323,7 +344,7 @@ def fir_design_bandstop(fs, fl, fh, taps, window=FirWindow.HAMMING, *, out=None)
     window : FirWindow, its name, or int, default FirWindow.HAMMING
         1 rectangular, 2 triangle, 3 Hanning, 4 Hamming, 5 Blackman; any other: Hamming
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -347,6 +368,9 @@ def fir_design_bandstop(fs, fl, fh, taps, window=FirWindow.HAMMING, *, out=None)
     -------
     >>> h = qv.fir_design_bandstop(fs, fl, fh, taps)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     taps = rt.i32(taps, "taps")
     window = rt.choice(window, FirWindow, "window")
     h_ = rt.result(out, (taps,), rt.F8, ())
@@ -372,7 +396,7 @@ def fir_design_kaiser_lowpass(fs, fc, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -395,7 +419,10 @@ def fir_design_kaiser_lowpass(fs, fc, taps, beta, *, out=None):
     -------
     >>> h = qv.fir_design_kaiser_lowpass(fs, fc, taps, beta)
     """
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     taps = rt.i32(taps, "taps")
+    beta = rt.real(beta, "beta")
     h_ = rt.result(out, (taps,), rt.F8, ())
     status = _ZemFunc112(fs, fc, taps, rt.pointer(h_), beta)
     rt.check(status, "fir_design_kaiser_lowpass")
@@ -419,7 +446,7 @@ def fir_design_kaiser_highpass(fs, fc, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -443,7 +470,10 @@ def fir_design_kaiser_highpass(fs, fc, taps, beta, *, out=None):
     -------
     >>> h = qv.fir_design_kaiser_highpass(fs, fc, taps, beta)
     """
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     taps = rt.i32(taps, "taps")
+    beta = rt.real(beta, "beta")
     h_ = rt.result(out, (taps,), rt.F8, ())
     status = _ZemFunc111(fs, fc, taps, rt.pointer(h_), beta)
     rt.check(status, "fir_design_kaiser_highpass")
@@ -469,7 +499,7 @@ def fir_design_kaiser_bandpass(fs, fl, fh, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -492,7 +522,11 @@ def fir_design_kaiser_bandpass(fs, fl, fh, taps, beta, *, out=None):
     -------
     >>> h = qv.fir_design_kaiser_bandpass(fs, fl, fh, taps, beta)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     taps = rt.i32(taps, "taps")
+    beta = rt.real(beta, "beta")
     h_ = rt.result(out, (taps,), rt.F8, ())
     status = _ZemFunc109(fs, fl, fh, taps, rt.pointer(h_), beta)
     rt.check(status, "fir_design_kaiser_bandpass")
@@ -518,7 +552,7 @@ def fir_design_kaiser_bandstop(fs, fl, fh, taps, beta, *, out=None):
     beta : float
         of the window; negative: 4.5
     out : array or None
-        the array for `h`; an input, to work in place
+        the array for `h`; it may be an input, to work in place
 
     Returns
     -------
@@ -542,7 +576,11 @@ def fir_design_kaiser_bandstop(fs, fl, fh, taps, beta, *, out=None):
     -------
     >>> h = qv.fir_design_kaiser_bandstop(fs, fl, fh, taps, beta)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     taps = rt.i32(taps, "taps")
+    beta = rt.real(beta, "beta")
     h_ = rt.result(out, (taps,), rt.F8, ())
     status = _ZemFunc110(fs, fl, fh, taps, rt.pointer(h_), beta)
     rt.check(status, "fir_design_kaiser_bandstop")
@@ -574,7 +612,7 @@ def fir_filter_window(x, taps, kind, fs, fl, window, fh=0.0, parameter=0.0, *, o
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -609,7 +647,11 @@ def fir_filter_window(x, taps, kind, fs, fl, window, fh=0.0, parameter=0.0, *, o
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
     kind = rt.choice(kind, FilterKind, "kind")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc480(rt.pointer(x), n, taps, kind, fs, fl, fh, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window")
@@ -637,7 +679,7 @@ def fir_filter_window_lowpass(x, taps, fs, fc, window, parameter=0.0, *, out=Non
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -670,7 +712,10 @@ def fir_filter_window_lowpass(x, taps, fs, fc, window, parameter=0.0, *, out=Non
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc481(rt.pointer(x), n, taps, fs, fc, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_lowpass")
@@ -698,7 +743,7 @@ def fir_filter_window_highpass(x, taps, fs, fc, window, parameter=0.0, *, out=No
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -732,7 +777,10 @@ def fir_filter_window_highpass(x, taps, fs, fc, window, parameter=0.0, *, out=No
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc482(rt.pointer(x), n, taps, fs, fc, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_highpass")
@@ -762,7 +810,7 @@ def fir_filter_window_bandpass(x, taps, fs, fl, fh, window, parameter=0.0, *, ou
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -795,7 +843,11 @@ def fir_filter_window_bandpass(x, taps, fs, fl, fh, window, parameter=0.0, *, ou
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc483(rt.pointer(x), n, taps, fs, fl, fh, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_bandpass")
@@ -825,7 +877,7 @@ def fir_filter_window_bandstop(x, taps, fs, fl, fh, window, parameter=0.0, *, ou
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -859,7 +911,11 @@ def fir_filter_window_bandstop(x, taps, fs, fl, fh, window, parameter=0.0, *, ou
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.F8, (x,))
     status = _ZemFunc484(rt.pointer(x), n, taps, fs, fl, fh, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_bandstop")
@@ -891,7 +947,7 @@ def fir_filter_window_complex(x, taps, kind, fs, fl, window, fh=0.0, parameter=0
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -923,7 +979,11 @@ def fir_filter_window_complex(x, taps, kind, fs, fl, window, fh=0.0, parameter=0
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
     kind = rt.choice(kind, FilterKind, "kind")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc485(rt.pointer(x), n, taps, kind, fs, fl, fh, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_complex")
@@ -951,7 +1011,7 @@ def fir_filter_window_complex_lowpass(x, taps, fs, fc, window, parameter=0.0, *,
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -980,7 +1040,10 @@ def fir_filter_window_complex_lowpass(x, taps, fs, fc, window, parameter=0.0, *,
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc486(rt.pointer(x), n, taps, fs, fc, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_complex_lowpass")
@@ -1008,7 +1071,7 @@ def fir_filter_window_complex_highpass(x, taps, fs, fc, window, parameter=0.0, *
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1038,7 +1101,10 @@ def fir_filter_window_complex_highpass(x, taps, fs, fc, window, parameter=0.0, *
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc487(rt.pointer(x), n, taps, fs, fc, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_complex_highpass")
@@ -1068,7 +1134,7 @@ def fir_filter_window_complex_bandpass(x, taps, fs, fl, fh, window, parameter=0.
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1097,7 +1163,11 @@ def fir_filter_window_complex_bandpass(x, taps, fs, fl, fh, window, parameter=0.
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc488(rt.pointer(x), n, taps, fs, fl, fh, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_complex_bandpass")
@@ -1127,7 +1197,7 @@ def fir_filter_window_complex_bandstop(x, taps, fs, fl, fh, window, parameter=0.
     parameter : float, default 0.0
         of a Kaiser, Chebyshev or Gaussian window, as `window_apply_symmetric` takes it
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1157,7 +1227,11 @@ def fir_filter_window_complex_bandstop(x, taps, fs, fl, fh, window, parameter=0.
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     taps = rt.i32(taps, "taps")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     y_ = rt.result(out, (n + taps - 1,), rt.C16, (x,))
     status = _ZemFunc489(rt.pointer(x), n, taps, fs, fl, fh, window, parameter, rt.pointer(y_))
     rt.check(status, "fir_filter_window_complex_bandstop")

@@ -1,11 +1,17 @@
-"""Fit bounds, goodness of fit and sample removal.
+r"""Fit bounds, goodness of fit and sample removal.
 
 What goes around a fit: bands about a fitted line, exponential, power, logarithm or Gaussian, whose
-coefficients come in as arguments; three numbers for its goodness; and the removal of samples before it. A
-confidence band (type 0) is where the mean response lies with the given probability, a prediction band (type
-1) where a new observation does. Both come from the linearised model: with J the derivatives, G = (sum of |w|
-J' J)^+, s^2 = sum of |w| (f - y)^2 / (n - p) and t the quantile of Student's distribution with n - p degrees
-of freedom, the half-width is t s sqrt(J G J'), for a new observation t s sqrt(J G J' + 1/|w|).
+coefficients come in as arguments; three numbers for its goodness; and the removal of samples before it.
+
+    G   = (sum of |w| J J')^+,     J the column of derivatives of the model by its p coefficients
+    s^2 = sum of |w| (f - y)^2 / (n - p)
+    confidence (type 0)   f +- t s sqrt(J' G J)
+    prediction (type 1)   f +- t s sqrt(J' G J + 1/|w|)
+    goodness              sse = sum of w (y - f)^2,  R^2 = 1 - sse / sum of w (y - mean)^2,  rmse = sqrt(sse / dof)
+
+A confidence band is where the mean response lies with the given probability, a prediction band where a new
+observation does. Both come from the linearised model; t is the quantile of Student's distribution with n - p
+degrees of freedom for a probability of (1 + level)/2.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -73,7 +79,7 @@ def fit_bounds_line(x, y, slope, intercept, weights=None, type=BoundsType.CONFID
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -110,6 +116,9 @@ def fit_bounds_line(x, y, slope, intercept, weights=None, type=BoundsType.CONFID
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     type = rt.choice(type, BoundsType, "type")
+    level = rt.real(level, "level")
+    slope = rt.real(slope, "slope")
+    intercept = rt.real(intercept, "intercept")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     slope_half_width_ = ctypes.c_double()
@@ -159,7 +168,7 @@ def fit_bounds_exponential(x, y, a, b, weights=None, type=BoundsType.CONFIDENCE,
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -196,6 +205,9 @@ def fit_bounds_exponential(x, y, a, b, weights=None, type=BoundsType.CONFIDENCE,
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     type = rt.choice(type, BoundsType, "type")
+    level = rt.real(level, "level")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_half_width_ = ctypes.c_double()
@@ -244,7 +256,7 @@ def fit_bounds_power(x, y, a, b, weights=None, type=BoundsType.CONFIDENCE, level
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -282,6 +294,9 @@ def fit_bounds_power(x, y, a, b, weights=None, type=BoundsType.CONFIDENCE, level
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     type = rt.choice(type, BoundsType, "type")
+    level = rt.real(level, "level")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_half_width_ = ctypes.c_double()
@@ -332,7 +347,7 @@ def fit_bounds_logarithm(x, y, a, b, weights=None, base=0.0, type=BoundsType.CON
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -368,7 +383,11 @@ def fit_bounds_logarithm(x, y, a, b, weights=None, base=0.0, type=BoundsType.CON
     y = rt.array(y, rt.F8, 1, "y")
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
+    base = rt.real(base, "base")
     type = rt.choice(type, BoundsType, "type")
+    level = rt.real(level, "level")
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_half_width_ = ctypes.c_double()
@@ -420,7 +439,7 @@ def fit_bounds_gaussian(x, y, amplitude, centre, width, weights=None, type=Bound
     level : float, default 0.95
         the probability, between 0 and 1
     out : tuple or None
-        arrays for `upper`, `lower`, each may be None; an input, to work in place
+        arrays for `upper`, `lower`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -460,6 +479,10 @@ def fit_bounds_gaussian(x, y, amplitude, centre, width, weights=None, type=Bound
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     type = rt.choice(type, BoundsType, "type")
+    level = rt.real(level, "level")
+    amplitude = rt.real(amplitude, "amplitude")
+    centre = rt.real(centre, "centre")
+    width = rt.real(width, "width")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     amplitude_half_width_ = ctypes.c_double()
@@ -573,7 +596,8 @@ def fit_remove_out_of_range(x, y, limits, weights=None, mode=RangeOf.Y, *, out=N
     mode : RangeOf, its name, or int, default RangeOf.Y
         0 by y, 1 by x, 2 by x and y
     out : tuple or None
-        arrays for `x`, `y`, `weights`, `removed`, each may be None; an input, to work in place
+        arrays for `x`, `y`, `weights`, `removed`, or None for one to be made; each may be an input, to work in
+        place
 
     Returns
     -------
@@ -659,7 +683,7 @@ def fit_remove_by_index(x, y, indices, weights=None, *, out=None):
     weights : array_like of float64, shape (n,), default None
         the weights
     out : tuple or None
-        arrays for `x`, `y`, `weights`, each may be None; an input, to work in place
+        arrays for `x`, `y`, `weights`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------

@@ -1,4 +1,14 @@
-"""Gamma, beta and related functions.
+r"""Gamma, beta and related functions.
+
+Factorials and their continuations, the incomplete functions behind the distributions, and two sums of number
+theory.
+
+    Gamma(x) = integral of t^(x - 1) e^-t from 0 to infinity,     n! = Gamma(n + 1)
+    P(a, x) = integral of t^(a - 1) e^-t from 0 to x / Gamma(a),  Q = 1 - P
+    B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b)
+    I_x(a, b) = integral of t^(a - 1) (1 - t)^(b - 1) from 0 to x / B(a, b)
+    psi(x) = Gamma'(x) / Gamma(x),   zeta(x) - 1 = sum of k^-x from k = 2 on
+    dilogarithm = integral of -ln t / (t - 1) from 1 to x = Li2(1 - x)
 
 Scalar functions of real arguments, returned as the value itself: there is no status. A domain fault gives NaN
 or the infinity that the function's text names; a NaN argument gives NaN. Where an argument goes by address, a
@@ -32,8 +42,14 @@ _max, _min = max, min
 _ZemFunc307 = rt.bind("ZemFunc307", "double", "ddp")
 
 
+def _beta(a, b, x):
+    a = rt.real(a, "a")
+    b = rt.real(b, "b")
+    return _ZemFunc307(a, b, rt.optional(x, "x"))
+
+
 def beta(a, b, x=None):
-    r"""Null x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b).
+    r"""Without x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b).
 
     At poles NaN or +Inf, as the Gammas give. Otherwise the regularised incomplete beta function I_x(a, b), the
     integral of t^(a-1) (1-t)^(b-1) from 0 to x over B(a, b). I_x(a, b) is NaN for a <= 0, b <= 0 or x outside [0,
@@ -61,11 +77,16 @@ def beta(a, b, x=None):
     >>> value = qv.beta(a, b)
     """
     if rt.many(a, b, x):
-        return rt.each(beta, a, b, x)
-    return _ZemFunc307(a, b, rt.optional(x))
+        return rt.each(_beta, a, b, x)
+    return _beta(a, b, x)
 
 
 _ZemFunc308 = rt.bind("ZemFunc308", "double", "l")
+
+
+def _factorial(n):
+    n = rt.i64(n, "n")
+    return _ZemFunc308(n)
 
 
 def factorial(n):
@@ -90,16 +111,20 @@ def factorial(n):
     >>> value = qv.factorial(n)
     """
     if rt.many(n):
-        return rt.each(factorial, n)
-    n = rt.i64(n, "n")
-    return _ZemFunc308(n)
+        return rt.each(_factorial, n)
+    return _factorial(n)
 
 
 _ZemFunc309 = rt.bind("ZemFunc309", "double", "dp")
 
 
+def _gamma(a, x):
+    a = rt.real(a, "a")
+    return _ZemFunc309(a, rt.optional(x, "x"))
+
+
 def gamma(a, x=None):
-    r"""Null x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725.
+    r"""Without x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725.
 
     Otherwise the regularised incomplete gamma function P(a, x), the integral of t^(a-1) e^-t from 0 to x over
     Gamma(a). P(a, x) is NaN for a <= 0 or x < 0; it is 0 at x = 0 and 1 at x = +Inf. Gamma at 1 - 2^-52 and at 2
@@ -125,11 +150,17 @@ def gamma(a, x=None):
     >>> value = qv.gamma(a)
     """
     if rt.many(a, x):
-        return rt.each(gamma, a, x)
-    return _ZemFunc309(a, rt.optional(x))
+        return rt.each(_gamma, a, x)
+    return _gamma(a, x)
 
 
 _ZemFunc310 = rt.bind("ZemFunc310", "double", "dd")
+
+
+def _incomplete_gamma_complement(a, x):
+    a = rt.real(a, "a")
+    x = rt.real(x, "x")
+    return _ZemFunc310(a, x)
 
 
 def incomplete_gamma_complement(a, x):
@@ -158,11 +189,16 @@ def incomplete_gamma_complement(a, x):
     >>> value = qv.incomplete_gamma_complement(a, x)
     """
     if rt.many(a, x):
-        return rt.each(incomplete_gamma_complement, a, x)
-    return _ZemFunc310(a, x)
+        return rt.each(_incomplete_gamma_complement, a, x)
+    return _incomplete_gamma_complement(a, x)
 
 
 _ZemFunc311 = rt.bind("ZemFunc311", "double", "u")
+
+
+def _ln_factorial(n):
+    n = rt.u32(n, "n")
+    return _ZemFunc311(n)
 
 
 def ln_factorial(n):
@@ -187,12 +223,16 @@ def ln_factorial(n):
     >>> value = qv.ln_factorial(n)
     """
     if rt.many(n):
-        return rt.each(ln_factorial, n)
-    n = rt.u32(n, "n")
-    return _ZemFunc311(n)
+        return rt.each(_ln_factorial, n)
+    return _ln_factorial(n)
 
 
 _ZemFunc312 = rt.bind("ZemFunc312", "double", "d")
+
+
+def _ln_gamma(x):
+    x = rt.real(x, "x")
+    return _ZemFunc312(x)
 
 
 def ln_gamma(x):
@@ -217,11 +257,16 @@ def ln_gamma(x):
     >>> value = qv.ln_gamma(x)
     """
     if rt.many(x):
-        return rt.each(ln_gamma, x)
-    return _ZemFunc312(x)
+        return rt.each(_ln_gamma, x)
+    return _ln_gamma(x)
 
 
 _ZemFunc313 = rt.bind("ZemFunc313", "double", "d")
+
+
+def _digamma(x):
+    x = rt.real(x, "x")
+    return _ZemFunc313(x)
 
 
 def digamma(x):
@@ -246,11 +291,16 @@ def digamma(x):
     >>> value = qv.digamma(x)
     """
     if rt.many(x):
-        return rt.each(digamma, x)
-    return _ZemFunc313(x)
+        return rt.each(_digamma, x)
+    return _digamma(x)
 
 
 _ZemFunc314 = rt.bind("ZemFunc314", "double", "d")
+
+
+def _gamma_stirling(x):
+    x = rt.real(x, "x")
+    return _ZemFunc314(x)
 
 
 def gamma_stirling(x):
@@ -278,11 +328,16 @@ def gamma_stirling(x):
     >>> value = qv.gamma_stirling(x)
     """
     if rt.many(x):
-        return rt.each(gamma_stirling, x)
-    return _ZemFunc314(x)
+        return rt.each(_gamma_stirling, x)
+    return _gamma_stirling(x)
 
 
 _ZemFunc326 = rt.bind("ZemFunc326", "double", "d")
+
+
+def _dilogarithm(x):
+    x = rt.real(x, "x")
+    return _ZemFunc326(x)
 
 
 def dilogarithm(x):
@@ -309,11 +364,16 @@ def dilogarithm(x):
     >>> value = qv.dilogarithm(x)
     """
     if rt.many(x):
-        return rt.each(dilogarithm, x)
-    return _ZemFunc326(x)
+        return rt.each(_dilogarithm, x)
+    return _dilogarithm(x)
 
 
 _ZemFunc329 = rt.bind("ZemFunc329", "double", "d")
+
+
+def _zeta(x):
+    x = rt.real(x, "x")
+    return _ZemFunc329(x)
 
 
 def zeta(x):
@@ -338,5 +398,5 @@ def zeta(x):
     >>> value = qv.zeta(x)
     """
     if rt.many(x):
-        return rt.each(zeta, x)
-    return _ZemFunc329(x)
+        return rt.each(_zeta, x)
+    return _zeta(x)

@@ -1,10 +1,21 @@
-"""Waveform generators.
+r"""Waveform generators.
 
-Each fills an array of n samples with a deterministic signal and keeps no state of its own. The periodic waves
-take their phase in degrees by address and leave there the phase of the sample behind the last, in [0, 360),
-so that the next call goes on without a break. Frequencies are in cycles per sample. The patterns draw one
-shape over the whole array. The pulses are functions of t = i dt - delay. The first check that fails, in the
-order of the status lists, decides; then neither output nor phase is written.
+Test signals: each fills an array of n samples with a deterministic waveform and keeps no state of its own.
+
+    sine       amp sin(2 pi freq i + phase)
+    chirp      amp sin((i (f2 - f1) pi / n + 2 pi f1) i)        from f1 to f2
+    ramp       first + i (last - first) / (n - 1)
+    sinc       amp sin(pi t) / (pi t)                            t = i dt - delay
+    Gaussian modulated sine   amp exp(a u^2) cos(2 u)    u = pi centre t,  a = -5 bandwidth^2 / (attenuation ln 10)
+    Gaussian monopulse        2 sqrt(e) amp u exp(-2 u^2)   u = pi centre t
+
+The periodic waves take their phase in degrees by address and leave there the phase of the sample behind the
+last, in [0, 360), so that the next call goes on without a break. Frequencies are in cycles per sample: a tone
+of f hertz at a rate of fs has f / fs. The patterns draw one shape over the whole array. The pulses are
+functions of t = i dt - delay, with delay in the unit of dt and frequencies in the unit of 1/dt.
+
+The first check that fails, in the order of the status lists, decides; then neither output nor phase is
+written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -68,7 +79,7 @@ def sine_wave(n, amp, freq, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -90,7 +101,9 @@ def sine_wave(n, amp, freq, phase=0.0, *, out=None):
     >>> out, phase = qv.sine_wave(n, amp, freq)
     """
     n = rt.i64(n, "n")
-    phase_ = ctypes.c_double(phase)
+    amp = rt.real(amp, "amp")
+    freq = rt.real(freq, "freq")
+    phase_ = ctypes.c_double(rt.real(phase, "phase"))
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc159(n, amp, freq, ctypes.byref(phase_), rt.pointer(out_))
     rt.check(status, "sine_wave")
@@ -114,7 +127,7 @@ def sine_pattern(n, amp, phase, cycles, *, out=None):
     cycles : float
         cycles in the array, any number
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -134,6 +147,9 @@ def sine_pattern(n, amp, phase, cycles, *, out=None):
     >>> out = qv.sine_pattern(n, amp, phase, cycles)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    phase = rt.real(phase, "phase")
+    cycles = rt.real(cycles, "cycles")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc158(n, amp, phase, cycles, rt.pointer(out_))
     rt.check(status, "sine_pattern")
@@ -168,7 +184,7 @@ def square_wave(n, amp, freq, duty, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -190,7 +206,10 @@ def square_wave(n, amp, freq, duty, phase=0.0, *, out=None):
     >>> out, phase = qv.square_wave(n, amp, freq, duty)
     """
     n = rt.i64(n, "n")
-    phase_ = ctypes.c_double(phase)
+    amp = rt.real(amp, "amp")
+    freq = rt.real(freq, "freq")
+    phase_ = ctypes.c_double(rt.real(phase, "phase"))
+    duty = rt.real(duty, "duty")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc165(n, amp, freq, ctypes.byref(phase_), duty, rt.pointer(out_))
     rt.check(status, "square_wave")
@@ -223,7 +242,7 @@ def triangle_wave(n, amp, freq, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -245,7 +264,9 @@ def triangle_wave(n, amp, freq, phase=0.0, *, out=None):
     >>> out, phase = qv.triangle_wave(n, amp, freq)
     """
     n = rt.i64(n, "n")
-    phase_ = ctypes.c_double(phase)
+    amp = rt.real(amp, "amp")
+    freq = rt.real(freq, "freq")
+    phase_ = ctypes.c_double(rt.real(phase, "phase"))
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc179(n, amp, freq, ctypes.byref(phase_), rt.pointer(out_))
     rt.check(status, "triangle_wave")
@@ -278,7 +299,7 @@ def sawtooth_wave(n, amp, freq, phase=0.0, *, out=None):
     phase : float, default 0.0
         degrees, of the first sample
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -300,7 +321,9 @@ def sawtooth_wave(n, amp, freq, phase=0.0, *, out=None):
     >>> out, phase = qv.sawtooth_wave(n, amp, freq)
     """
     n = rt.i64(n, "n")
-    phase_ = ctypes.c_double(phase)
+    amp = rt.real(amp, "amp")
+    freq = rt.real(freq, "freq")
+    phase_ = ctypes.c_double(rt.real(phase, "phase"))
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc151(n, amp, freq, ctypes.byref(phase_), rt.pointer(out_))
     rt.check(status, "sawtooth_wave")
@@ -338,7 +361,7 @@ def arbitrary_wave(n, amp, freq, table, phase=0.0, interpolation=True, *, out=No
     interpolation : bool, default True
         1 interpolates linearly, from the last cell towards the first; else the cell as it is
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -363,7 +386,9 @@ def arbitrary_wave(n, amp, freq, table, phase=0.0, interpolation=True, *, out=No
     table = rt.array(table, rt.F8, 1, "table")
     size = table.shape[0]
     n = rt.i64(n, "n")
-    phase_ = ctypes.c_double(phase)
+    amp = rt.real(amp, "amp")
+    freq = rt.real(freq, "freq")
+    phase_ = ctypes.c_double(rt.real(phase, "phase"))
     interpolation = int(bool(interpolation))
     out_ = rt.result(out, (n,), rt.F8, (table,))
     status = _ZemFunc9(n, amp, freq, ctypes.byref(phase_), rt.pointer(table), size, interpolation, rt.pointer(out_))
@@ -388,7 +413,7 @@ def chirp(n, amp, f1, f2, *, out=None):
     f2 : float
         cycles per sample at sample n, the one behind the last
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -408,6 +433,9 @@ def chirp(n, amp, f1, f2, *, out=None):
     >>> out = qv.chirp(n, amp, f1, f2)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    f1 = rt.real(f1, "f1")
+    f2 = rt.real(f2, "f2")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc28(n, amp, f1, f2, rt.pointer(out_))
     rt.check(status, "chirp")
@@ -432,7 +460,7 @@ def pulse_pattern(n, amp, delay, width, *, out=None):
     width : int
         samples in the pulse
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -453,6 +481,7 @@ def pulse_pattern(n, amp, delay, width, *, out=None):
     >>> out = qv.pulse_pattern(n, amp, delay, width)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
     delay = rt.i64(delay, "delay")
     width = rt.i64(width, "width")
     out_ = rt.result(out, (n,), rt.F8, ())
@@ -476,7 +505,7 @@ def impulse_pattern(n, amp, index, *, out=None):
     index : int
         sample of the impulse
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -497,6 +526,7 @@ def impulse_pattern(n, amp, index, *, out=None):
     >>> out = qv.impulse_pattern(n, amp, index)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
     index = rt.i64(index, "index")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc93(n, amp, index, rt.pointer(out_))
@@ -521,7 +551,7 @@ def ramp_pattern(n, first, last, *, out=None):
     last : float
         value of the last sample, exactly
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -541,6 +571,8 @@ def ramp_pattern(n, first, last, *, out=None):
     >>> out = qv.ramp_pattern(n, first, last)
     """
     n = rt.i64(n, "n")
+    first = rt.real(first, "first")
+    last = rt.real(last, "last")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc145(n, first, last, rt.pointer(out_))
     rt.check(status, "ramp_pattern")
@@ -560,7 +592,7 @@ def triangle_pattern(n, amp, *, out=None):
     amp : float
         peak, at sample n / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -580,6 +612,7 @@ def triangle_pattern(n, amp, *, out=None):
     >>> out = qv.triangle_pattern(n, amp)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc178(n, amp, rt.pointer(out_))
     rt.check(status, "triangle_pattern")
@@ -603,7 +636,7 @@ def sinc_pattern(n, amp, delay, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -624,6 +657,9 @@ def sinc_pattern(n, amp, delay, dt=1.0, *, out=None):
     >>> out = qv.sinc_pattern(n, amp, delay)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    delay = rt.real(delay, "delay")
+    dt = rt.real(dt, "dt")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc157(n, amp, delay, dt, rt.pointer(out_))
     rt.check(status, "sinc_pattern")
@@ -652,7 +688,7 @@ def periodic_sinc_pattern(n, amp, delay, order, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -674,6 +710,9 @@ def periodic_sinc_pattern(n, amp, delay, order, dt=1.0, *, out=None):
     >>> out = qv.periodic_sinc_pattern(n, amp, delay, order)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    delay = rt.real(delay, "delay")
+    dt = rt.real(dt, "dt")
     order = rt.i32(order, "order")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc349(n, amp, delay, dt, order, rt.pointer(out_))
@@ -706,7 +745,7 @@ def gaussian_modulated_sine(n, amp, delay, centre, bandwidth, attenuation, dt=1.
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -728,6 +767,12 @@ def gaussian_modulated_sine(n, amp, delay, centre, bandwidth, attenuation, dt=1.
     >>> out = qv.gaussian_modulated_sine(n, amp, delay, centre, bandwidth, attenuation)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    delay = rt.real(delay, "delay")
+    dt = rt.real(dt, "dt")
+    centre = rt.real(centre, "centre")
+    bandwidth = rt.real(bandwidth, "bandwidth")
+    attenuation = rt.real(attenuation, "attenuation")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc348(n, amp, delay, dt, centre, bandwidth, attenuation, rt.pointer(out_))
     rt.check(status, "gaussian_modulated_sine")
@@ -753,7 +798,7 @@ def gaussian_monopulse(n, amp, delay, centre, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -775,6 +820,10 @@ def gaussian_monopulse(n, amp, delay, centre, dt=1.0, *, out=None):
     >>> out = qv.gaussian_monopulse(n, amp, delay, centre)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    delay = rt.real(delay, "delay")
+    dt = rt.real(dt, "dt")
+    centre = rt.real(centre, "centre")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc347(n, amp, delay, dt, centre, rt.pointer(out_))
     rt.check(status, "gaussian_monopulse")
@@ -804,7 +853,7 @@ def skewed_triangle_pulse(n, amp, delay, width, skew, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -827,6 +876,11 @@ def skewed_triangle_pulse(n, amp, delay, width, skew, dt=1.0, *, out=None):
     >>> out = qv.skewed_triangle_pulse(n, amp, delay, width, skew)
     """
     n = rt.i64(n, "n")
+    amp = rt.real(amp, "amp")
+    delay = rt.real(delay, "delay")
+    dt = rt.real(dt, "dt")
+    width = rt.real(width, "width")
+    skew = rt.real(skew, "skew")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc350(n, amp, delay, dt, width, skew, rt.pointer(out_))
     rt.check(status, "skewed_triangle_pulse")

@@ -1,16 +1,30 @@
-"""IIR design and one-shot IIR filters.
+r"""IIR design and one-shot IIR filters.
 
-Recursive filters of six families and four kinds. An analog lowpass prototype with its cutoff at 1 rad/s goes,
-pole pair by pole pair, through the bilinear transform with prewarped edges, w = tan(pi f / fs), into stages
-of second order (lowpass, highpass) or of fourth order (bandpass, bandstop, which have twice the order of the
-prototype). No polynomial of high degree is formed, so that high orders stay accurate. Frequencies are in the
-unit of fs, the sampling rate. Kinds: 0 lowpass, 1 highpass, 2 bandpass, 3 bandstop; the first two have their
-cutoff in fl (or fc) and ignore fh. Ripple and attenuation are in dB, above 0. The edges mean: Butterworth and
-Bessel 3 dB down; Chebyshev and elliptic the end of the passband, where the ripple is reached for the last
-time; inverse Chebyshev the begin of the stopband, where the attenuation is first reached. The even-pole
-family has poles on the unit circle with equally spaced imaginary parts. Designs check in the order of their
-statuses. The one-shot filters of real arrays check their sizes and levels elsewhere, and accept a cutoff of
-fs/2, which the designs refuse with -20023.
+Recursive filters of six families and four kinds, into a filter object, as coefficients, or applied at once.
+An analog lowpass prototype with its cutoff at 1 rad/s goes, pole pair by pole pair, through the bilinear
+transform with prewarped edges into stages of second order (lowpass, highpass) or of fourth order (bandpass,
+bandstop, which have twice the order of the prototype). No polynomial of high degree is formed, so that high
+orders stay accurate.
+
+    s = (1 - z^-1) / (1 + z^-1),   w = tan(pi f / fs),   B = wh - wl,   P = wl wh
+    lowpass s / w,   highpass w / s,   bandpass (s^2 + P) / (B s),   bandstop B s / (s^2 + P)   for its s
+    Butterworth         |H|^2 = 1 / (1 + W^(2 N))                       3 dB down at the edges
+    Bessel              H = B_N(0) / B_N(s), reverse Bessel polynomial  scaled to 3 dB down at the edges
+    Chebyshev           |H|^2 = 1 / (1 + e^2 T_N(W)^2)                  e^2 = 10^(ripple/10) - 1
+    inverse Chebyshev   |H|^2 = 1 / (1 + 1 / (e^2 T_N(1/W)^2))          e^2 = 1 / (10^(attenuation/10) - 1)
+    elliptic            |H|^2 = 1 / (1 + e^2 R_N(W)^2)                  e^2 = 10^(ripple/10) - 1
+    even pole           poles -sqrt(1 - x^2) +- i x,  x = 1 - (2k + 1)/N,  k = 0, 1, ...;  -1 for odd N
+
+H is the prototype of order N, W its frequency and R_N the elliptic rational function; "for its s" reads: in
+place of the s of the prototype. Frequencies are in the unit of fs, the sampling rate. Kinds: 0 lowpass, 1
+highpass, 2 bandpass, 3 bandstop; the first two have their cutoff in fl (or fc) and ignore fh. Ripple and
+attenuation are in dB, above 0. The passband peaks at 0 dB. The edges of Chebyshev and elliptic filters are
+the end of the passband, where the ripple is reached for the last time; that of inverse Chebyshev filters is
+the begin of the stopband, where the attenuation is first reached. The even-pole family has poles on the unit
+circle with equally spaced imaginary parts; it is not 3 dB down at its edges.
+
+Designs check in the order of their statuses. The one-shot filters of real arrays check their sizes and levels
+elsewhere, and accept a cutoff of fs/2, which the designs refuse with -20023.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -126,6 +140,9 @@ def iir_design_even_pole(fs, fl, filter, fh=0.0):
     -------
     >>> qv.iir_design_even_pole(fs, fl, filter)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     status = _ZemFunc12(fs, fl, fh, rt.handle(filter, "IirFilter"))
     rt.check(status, "iir_design_even_pole")
 
@@ -171,6 +188,9 @@ def iir_design_butterworth(fs, fl, filter, fh=0.0):
     -------
     >>> qv.iir_design_butterworth(fs, fl, filter)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     status = _ZemFunc18(fs, fl, fh, rt.handle(filter, "IirFilter"))
     rt.check(status, "iir_design_butterworth")
 
@@ -221,6 +241,9 @@ def iir_design_bessel(fs, fl, filter, fh=0.0):
     -------
     >>> qv.iir_design_bessel(fs, fl, filter)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     status = _ZemFunc471(fs, fl, fh, rt.handle(filter, "IirFilter"))
     rt.check(status, "iir_design_bessel")
 
@@ -269,6 +292,10 @@ def iir_design_chebyshev(fs, fl, ripple, filter, fh=0.0):
     -------
     >>> qv.iir_design_chebyshev(fs, fl, ripple, filter)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
     status = _ZemFunc24(fs, fl, fh, ripple, rt.handle(filter, "IirFilter"))
     rt.check(status, "iir_design_chebyshev")
 
@@ -317,6 +344,10 @@ def iir_design_inverse_chebyshev(fs, fl, attenuation, filter, fh=0.0):
     -------
     >>> qv.iir_design_inverse_chebyshev(fs, fl, attenuation, filter)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    attenuation = rt.real(attenuation, "attenuation")
     status = _ZemFunc98(fs, fl, fh, attenuation, rt.handle(filter, "IirFilter"))
     rt.check(status, "iir_design_inverse_chebyshev")
 
@@ -369,6 +400,11 @@ def iir_design_elliptic(fs, fl, ripple, attenuation, filter, fh=0.0):
     -------
     >>> qv.iir_design_elliptic(fs, fl, ripple, attenuation, filter)
     """
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     status = _ZemFunc61(fs, fl, fh, ripple, attenuation, rt.handle(filter, "IirFilter"))
     rt.check(status, "iir_design_elliptic")
 
@@ -402,7 +438,7 @@ def iir_coefficients_even_pole(kind, order, fs, fl, fh=0.0, *, out=None):
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -430,6 +466,9 @@ def iir_coefficients_even_pole(kind, order, fs, fl, fh=0.0, *, out=None):
     _out = rt.outs(out, 2, "iir_coefficients_even_pole")
     kind = rt.choice(kind, FilterKind, "kind")
     order = rt.i32(order, "order")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     a_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     b_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     a_ = rt.result(_out[0], (a_size,), rt.F8, ())
@@ -469,7 +508,7 @@ def iir_coefficients_butterworth(kind, order, fs, fl, fh=0.0, *, out=None):
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -497,6 +536,9 @@ def iir_coefficients_butterworth(kind, order, fs, fl, fh=0.0, *, out=None):
     _out = rt.outs(out, 2, "iir_coefficients_butterworth")
     kind = rt.choice(kind, FilterKind, "kind")
     order = rt.i32(order, "order")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     a_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     b_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     a_ = rt.result(_out[0], (a_size,), rt.F8, ())
@@ -538,7 +580,7 @@ def iir_coefficients_chebyshev(kind, order, fs, fl, ripple, fh=0.0, *, out=None)
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -567,6 +609,10 @@ def iir_coefficients_chebyshev(kind, order, fs, fl, ripple, fh=0.0, *, out=None)
     _out = rt.outs(out, 2, "iir_coefficients_chebyshev")
     kind = rt.choice(kind, FilterKind, "kind")
     order = rt.i32(order, "order")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
     a_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     b_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     a_ = rt.result(_out[0], (a_size,), rt.F8, ())
@@ -607,7 +653,7 @@ def iir_coefficients_inverse_chebyshev(kind, order, fs, fl, attenuation, fh=0.0,
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -636,6 +682,10 @@ def iir_coefficients_inverse_chebyshev(kind, order, fs, fl, attenuation, fh=0.0,
     _out = rt.outs(out, 2, "iir_coefficients_inverse_chebyshev")
     kind = rt.choice(kind, FilterKind, "kind")
     order = rt.i32(order, "order")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    attenuation = rt.real(attenuation, "attenuation")
     a_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     b_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     a_ = rt.result(_out[0], (a_size,), rt.F8, ())
@@ -678,7 +728,7 @@ def iir_coefficients_elliptic(kind, order, fs, fl, ripple, attenuation, fh=0.0, 
     fh : float, default 0.0
         upper edge of a band; ignored for kinds 0 and 1
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -709,6 +759,11 @@ def iir_coefficients_elliptic(kind, order, fs, fl, ripple, attenuation, fh=0.0, 
     _out = rt.outs(out, 2, "iir_coefficients_elliptic")
     kind = rt.choice(kind, FilterKind, "kind")
     order = rt.i32(order, "order")
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     a_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     b_size = _max(order, 0) * (2 if kind > 1 else 1) + 1
     a_ = rt.result(_out[0], (a_size,), rt.F8, ())
@@ -739,7 +794,7 @@ def iir_to_direct_form(filter, *, out=None):
     filter : IirFilter
         the filter, designed
     out : tuple or None
-        arrays for `a`, `b`, each may be None; an input, to work in place
+        arrays for `a`, `b`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -751,7 +806,7 @@ def iir_to_direct_form(filter, *, out=None):
     Raises
     ------
     QuorvanError
-        -20066: the filter is null
+        -20066: the filter is None
         -20021: the order of the record is below 1
         -20061: the kind of the record is none of the four
         -20066: the counts of the record do not fit together, or an array is too short
@@ -795,7 +850,7 @@ def iir_filter_butterworth_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -823,6 +878,8 @@ def iir_filter_butterworth_lowpass(x, fs, fc, order, *, out=None):
         return iir_filter_complex_butterworth_lowpass(x=x, fs=fs, fc=fc, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc21(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -849,7 +906,7 @@ def iir_filter_butterworth_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -877,6 +934,8 @@ def iir_filter_butterworth_highpass(x, fs, fc, order, *, out=None):
         return iir_filter_complex_butterworth_highpass(x=x, fs=fs, fc=fc, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc20(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -905,7 +964,7 @@ def iir_filter_butterworth_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -933,6 +992,9 @@ def iir_filter_butterworth_bandpass(x, fs, fl, fh, order, *, out=None):
         return iir_filter_complex_butterworth_bandpass(x=x, fs=fs, fl=fl, fh=fh, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc16(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -961,7 +1023,7 @@ def iir_filter_butterworth_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -989,6 +1051,9 @@ def iir_filter_butterworth_bandstop(x, fs, fl, fh, order, *, out=None):
         return iir_filter_complex_butterworth_bandstop(x=x, fs=fs, fl=fl, fh=fh, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc17(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -1017,7 +1082,7 @@ def iir_filter_chebyshev_lowpass(x, fs, fc, ripple, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1046,6 +1111,9 @@ def iir_filter_chebyshev_lowpass(x, fs, fc, ripple, order, *, out=None):
         return iir_filter_complex_chebyshev_lowpass(x=x, fs=fs, fc=fc, ripple=ripple, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc27(rt.pointer(x), n, fs, fc, ripple, order, rt.pointer(y_))
@@ -1074,7 +1142,7 @@ def iir_filter_chebyshev_highpass(x, fs, fc, ripple, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1103,6 +1171,9 @@ def iir_filter_chebyshev_highpass(x, fs, fc, ripple, order, *, out=None):
         return iir_filter_complex_chebyshev_highpass(x=x, fs=fs, fc=fc, ripple=ripple, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc26(rt.pointer(x), n, fs, fc, ripple, order, rt.pointer(y_))
@@ -1133,7 +1204,7 @@ def iir_filter_chebyshev_bandpass(x, fs, fl, fh, ripple, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1162,6 +1233,10 @@ def iir_filter_chebyshev_bandpass(x, fs, fl, fh, ripple, order, *, out=None):
         return iir_filter_complex_chebyshev_bandpass(x=x, fs=fs, fl=fl, fh=fh, ripple=ripple, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc22(rt.pointer(x), n, fs, fl, fh, ripple, order, rt.pointer(y_))
@@ -1192,7 +1267,7 @@ def iir_filter_chebyshev_bandstop(x, fs, fl, fh, ripple, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1221,6 +1296,10 @@ def iir_filter_chebyshev_bandstop(x, fs, fl, fh, ripple, order, *, out=None):
         return iir_filter_complex_chebyshev_bandstop(x=x, fs=fs, fl=fl, fh=fh, ripple=ripple, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc23(rt.pointer(x), n, fs, fl, fh, ripple, order, rt.pointer(y_))
@@ -1250,7 +1329,7 @@ def iir_filter_inverse_chebyshev_lowpass(x, fs, fc, attenuation, order, *, out=N
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1280,6 +1359,9 @@ def iir_filter_inverse_chebyshev_lowpass(x, fs, fc, attenuation, order, *, out=N
                 out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc101(rt.pointer(x), n, fs, fc, attenuation, order, rt.pointer(y_))
@@ -1309,7 +1391,7 @@ def iir_filter_inverse_chebyshev_highpass(x, fs, fc, attenuation, order, *, out=
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1339,6 +1421,9 @@ def iir_filter_inverse_chebyshev_highpass(x, fs, fc, attenuation, order, *, out=
                 out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc100(rt.pointer(x), n, fs, fc, attenuation, order, rt.pointer(y_))
@@ -1370,7 +1455,7 @@ def iir_filter_inverse_chebyshev_bandpass(x, fs, fl, fh, attenuation, order, *, 
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1400,6 +1485,10 @@ def iir_filter_inverse_chebyshev_bandpass(x, fs, fl, fh, attenuation, order, *, 
                 order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc96(rt.pointer(x), n, fs, fl, fh, attenuation, order, rt.pointer(y_))
@@ -1431,7 +1520,7 @@ def iir_filter_inverse_chebyshev_bandstop(x, fs, fl, fh, attenuation, order, *, 
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1461,6 +1550,10 @@ def iir_filter_inverse_chebyshev_bandstop(x, fs, fl, fh, attenuation, order, *, 
                 order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc97(rt.pointer(x), n, fs, fl, fh, attenuation, order, rt.pointer(y_))
@@ -1491,7 +1584,7 @@ def iir_filter_elliptic_lowpass(x, fs, fc, ripple, attenuation, order, *, out=No
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1523,6 +1616,10 @@ def iir_filter_elliptic_lowpass(x, fs, fc, ripple, attenuation, order, *, out=No
                 order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc64(rt.pointer(x), n, fs, fc, ripple, attenuation, order, rt.pointer(y_))
@@ -1553,7 +1650,7 @@ def iir_filter_elliptic_highpass(x, fs, fc, ripple, attenuation, order, *, out=N
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1585,6 +1682,10 @@ def iir_filter_elliptic_highpass(x, fs, fc, ripple, attenuation, order, *, out=N
                 order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc63(rt.pointer(x), n, fs, fc, ripple, attenuation, order, rt.pointer(y_))
@@ -1617,7 +1718,7 @@ def iir_filter_elliptic_bandpass(x, fs, fl, fh, ripple, attenuation, order, *, o
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1649,6 +1750,11 @@ def iir_filter_elliptic_bandpass(x, fs, fl, fh, ripple, attenuation, order, *, o
                 order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc59(rt.pointer(x), n, fs, fl, fh, ripple, attenuation, order, rt.pointer(y_))
@@ -1681,7 +1787,7 @@ def iir_filter_elliptic_bandstop(x, fs, fl, fh, ripple, attenuation, order, *, o
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1713,6 +1819,11 @@ def iir_filter_elliptic_bandstop(x, fs, fl, fh, ripple, attenuation, order, *, o
                 order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc60(rt.pointer(x), n, fs, fl, fh, ripple, attenuation, order, rt.pointer(y_))
@@ -1737,7 +1848,7 @@ def iir_filter_bessel_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1768,6 +1879,8 @@ def iir_filter_bessel_lowpass(x, fs, fc, order, *, out=None):
         return iir_filter_complex_bessel_lowpass(x=x, fs=fs, fc=fc, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc399(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -1792,7 +1905,7 @@ def iir_filter_bessel_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1823,6 +1936,8 @@ def iir_filter_bessel_highpass(x, fs, fc, order, *, out=None):
         return iir_filter_complex_bessel_highpass(x=x, fs=fs, fc=fc, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc400(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -1849,7 +1964,7 @@ def iir_filter_bessel_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1881,6 +1996,9 @@ def iir_filter_bessel_bandpass(x, fs, fl, fh, order, *, out=None):
         return iir_filter_complex_bessel_bandpass(x=x, fs=fs, fl=fl, fh=fh, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc401(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -1907,7 +2025,7 @@ def iir_filter_bessel_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1939,6 +2057,9 @@ def iir_filter_bessel_bandstop(x, fs, fl, fh, order, *, out=None):
         return iir_filter_complex_bessel_bandstop(x=x, fs=fs, fl=fl, fh=fh, order=order, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc402(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -1964,7 +2085,7 @@ def iir_filter_complex_butterworth_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1989,6 +2110,8 @@ def iir_filter_complex_butterworth_lowpass(x, fs, fc, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc450(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -2014,7 +2137,7 @@ def iir_filter_complex_butterworth_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2039,6 +2162,8 @@ def iir_filter_complex_butterworth_highpass(x, fs, fc, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc451(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -2066,7 +2191,7 @@ def iir_filter_complex_butterworth_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2092,6 +2217,9 @@ def iir_filter_complex_butterworth_bandpass(x, fs, fl, fh, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc452(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -2119,7 +2247,7 @@ def iir_filter_complex_butterworth_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2145,6 +2273,9 @@ def iir_filter_complex_butterworth_bandstop(x, fs, fl, fh, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc453(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -2172,7 +2303,7 @@ def iir_filter_complex_chebyshev_lowpass(x, fs, fc, ripple, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2198,6 +2329,9 @@ def iir_filter_complex_chebyshev_lowpass(x, fs, fc, ripple, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc454(rt.pointer(x), n, fs, fc, ripple, order, rt.pointer(y_))
@@ -2225,7 +2359,7 @@ def iir_filter_complex_chebyshev_highpass(x, fs, fc, ripple, order, *, out=None)
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2251,6 +2385,9 @@ def iir_filter_complex_chebyshev_highpass(x, fs, fc, ripple, order, *, out=None)
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc455(rt.pointer(x), n, fs, fc, ripple, order, rt.pointer(y_))
@@ -2280,7 +2417,7 @@ def iir_filter_complex_chebyshev_bandpass(x, fs, fl, fh, ripple, order, *, out=N
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2307,6 +2444,10 @@ def iir_filter_complex_chebyshev_bandpass(x, fs, fl, fh, ripple, order, *, out=N
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc456(rt.pointer(x), n, fs, fl, fh, ripple, order, rt.pointer(y_))
@@ -2336,7 +2477,7 @@ def iir_filter_complex_chebyshev_bandstop(x, fs, fl, fh, ripple, order, *, out=N
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2363,6 +2504,10 @@ def iir_filter_complex_chebyshev_bandstop(x, fs, fl, fh, ripple, order, *, out=N
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc457(rt.pointer(x), n, fs, fl, fh, ripple, order, rt.pointer(y_))
@@ -2390,7 +2535,7 @@ def iir_filter_complex_inverse_chebyshev_lowpass(x, fs, fc, attenuation, order, 
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2416,6 +2561,9 @@ def iir_filter_complex_inverse_chebyshev_lowpass(x, fs, fc, attenuation, order, 
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc458(rt.pointer(x), n, fs, fc, attenuation, order, rt.pointer(y_))
@@ -2443,7 +2591,7 @@ def iir_filter_complex_inverse_chebyshev_highpass(x, fs, fc, attenuation, order,
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2469,6 +2617,9 @@ def iir_filter_complex_inverse_chebyshev_highpass(x, fs, fc, attenuation, order,
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc459(rt.pointer(x), n, fs, fc, attenuation, order, rt.pointer(y_))
@@ -2498,7 +2649,7 @@ def iir_filter_complex_inverse_chebyshev_bandpass(x, fs, fl, fh, attenuation, or
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2525,6 +2676,10 @@ def iir_filter_complex_inverse_chebyshev_bandpass(x, fs, fl, fh, attenuation, or
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc460(rt.pointer(x), n, fs, fl, fh, attenuation, order, rt.pointer(y_))
@@ -2554,7 +2709,7 @@ def iir_filter_complex_inverse_chebyshev_bandstop(x, fs, fl, fh, attenuation, or
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2581,6 +2736,10 @@ def iir_filter_complex_inverse_chebyshev_bandstop(x, fs, fl, fh, attenuation, or
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc461(rt.pointer(x), n, fs, fl, fh, attenuation, order, rt.pointer(y_))
@@ -2610,7 +2769,7 @@ def iir_filter_complex_elliptic_lowpass(x, fs, fc, ripple, attenuation, order, *
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2638,6 +2797,10 @@ def iir_filter_complex_elliptic_lowpass(x, fs, fc, ripple, attenuation, order, *
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc462(rt.pointer(x), n, fs, fc, ripple, attenuation, order, rt.pointer(y_))
@@ -2667,7 +2830,7 @@ def iir_filter_complex_elliptic_highpass(x, fs, fc, ripple, attenuation, order, 
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2695,6 +2858,10 @@ def iir_filter_complex_elliptic_highpass(x, fs, fc, ripple, attenuation, order, 
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc463(rt.pointer(x), n, fs, fc, ripple, attenuation, order, rt.pointer(y_))
@@ -2726,7 +2893,7 @@ def iir_filter_complex_elliptic_bandpass(x, fs, fl, fh, ripple, attenuation, ord
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2755,6 +2922,11 @@ def iir_filter_complex_elliptic_bandpass(x, fs, fl, fh, ripple, attenuation, ord
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc464(rt.pointer(x), n, fs, fl, fh, ripple, attenuation, order, rt.pointer(y_))
@@ -2786,7 +2958,7 @@ def iir_filter_complex_elliptic_bandstop(x, fs, fl, fh, ripple, attenuation, ord
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2815,6 +2987,11 @@ def iir_filter_complex_elliptic_bandstop(x, fs, fl, fh, ripple, attenuation, ord
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
+    ripple = rt.real(ripple, "ripple")
+    attenuation = rt.real(attenuation, "attenuation")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc465(rt.pointer(x), n, fs, fl, fh, ripple, attenuation, order, rt.pointer(y_))
@@ -2840,7 +3017,7 @@ def iir_filter_complex_bessel_lowpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2868,6 +3045,8 @@ def iir_filter_complex_bessel_lowpass(x, fs, fc, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc403(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -2893,7 +3072,7 @@ def iir_filter_complex_bessel_highpass(x, fs, fc, order, *, out=None):
     order : int
         order of the analog prototype
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2921,6 +3100,8 @@ def iir_filter_complex_bessel_highpass(x, fs, fc, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fc = rt.real(fc, "fc")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc404(rt.pointer(x), n, fs, fc, order, rt.pointer(y_))
@@ -2948,7 +3129,7 @@ def iir_filter_complex_bessel_bandpass(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -2977,6 +3158,9 @@ def iir_filter_complex_bessel_bandpass(x, fs, fl, fh, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc405(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))
@@ -3004,7 +3188,7 @@ def iir_filter_complex_bessel_bandstop(x, fs, fl, fh, order, *, out=None):
     order : int
         order of the analog prototype, half that of the filter
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -3033,6 +3217,9 @@ def iir_filter_complex_bessel_bandstop(x, fs, fl, fh, order, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    fs = rt.real(fs, "fs")
+    fl = rt.real(fl, "fl")
+    fh = rt.real(fh, "fh")
     order = rt.i32(order, "order")
     y_ = rt.result(out, (n,), rt.C16, (x,))
     status = _ZemFunc406(rt.pointer(x), n, fs, fl, fh, order, rt.pointer(y_))

@@ -1,8 +1,15 @@
-"""Integration of sampled data.
+r"""Integration of sampled data.
 
 The definite integral of equally spaced samples by a closed Newton-Cotes rule. Each rule takes as many whole
 panels as fit; the samples left over at the end go through the next lower rule that fits them, so that every
 sample counts.
+
+    0 trapezoid       dt / 2    (x0 + x1)                                 a panel of 1 interval
+    1 Simpson         dt / 3    (x0 + 4 x1 + x2)                          of 2
+    2 Simpson 3/8     3 dt / 8  (x0 + 3 x1 + 3 x2 + x3)                   of 3
+    3 Boole           2 dt / 45 (7 x0 + 32 x1 + 12 x2 + 32 x3 + 7 x4)     of 4
+
+dt is the distance of the samples; the result is in the unit of x times that of dt.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -59,6 +66,7 @@ def integrate_samples(x, dt=1.0, rule=QuadratureRule.TRAPEZOID):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
     rule = rt.choice(rule, QuadratureRule, "rule")
     result_ = ctypes.c_double()
     status = _ZemFunc230(rt.pointer(x), n, dt, rule, ctypes.byref(result_))

@@ -1,8 +1,15 @@
-"""Interpolation.
+r"""Interpolation.
 
 The value between samples: by the one polynomial or the one diagonal rational function through all of them, by
 a cubic spline in two stages (second derivatives once, then as many points as wanted), or by a smoothing
 spline, which weighs the fit of the samples against the curvature.
+
+    h = x[i + 1] - x[i],   A = (x[i + 1] - u) / h,   B = 1 - A
+    spline(u) = A y[i] + B y[i + 1] + ((A^3 - A) y"[i] + (B^3 - B) y"[i + 1]) h^2 / 6
+    smoothing: balance sum of w (y - s)^2 + (1 - balance) integral of lambda s"^2 is least
+
+Abscissas ascend in the splines. A balance of 1 goes through the samples, one of 0 gives the line of least
+squares.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -75,6 +82,7 @@ def interp_polynomial(x, y, point):
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")
     n = x.shape[0]
+    point = rt.real(point, "point")
     rt.fits(y, (n,), "y")
     result_ = ctypes.c_double()
     error_ = ctypes.c_double()
@@ -133,6 +141,7 @@ def interp_rational(x, y, point):
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")
     n = x.shape[0]
+    point = rt.real(point, "point")
     rt.fits(y, (n,), "y")
     result_ = ctypes.c_double()
     error_ = ctypes.c_double()
@@ -160,7 +169,7 @@ def interp_spline_second_derivatives(x, y, first=1e30, last=1e30, *, out=None):
     last : float, default 1e30
         the first derivative at the last sample; above 9.9e29: a natural end
     out : array or None
-        the array for `second`; an input, to work in place
+        the array for `second`; it may be an input, to work in place
 
     Returns
     -------
@@ -185,6 +194,8 @@ def interp_spline_second_derivatives(x, y, first=1e30, last=1e30, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")
     n = x.shape[0]
+    first = rt.real(first, "first")
+    last = rt.real(last, "last")
     rt.fits(y, (n,), "y")
     second_ = rt.result(out, (n,), rt.F8, (x, y))
     status = _ZemFunc164(rt.pointer(x), rt.pointer(y), n, first, last, rt.pointer(second_))
@@ -234,6 +245,7 @@ def interp_spline_evaluate(x, y, second, point):
     y = rt.array(y, rt.F8, 1, "y")
     second = rt.array(second, rt.F8, 1, "second")
     n = x.shape[0]
+    point = rt.real(point, "point")
     rt.fits(y, (n,), "y")
     rt.fits(second, (n,), "second")
     result_ = ctypes.c_double()
@@ -266,7 +278,7 @@ def interp_smoothing_spline(y, balance, x=None, weights=None, smoothness=None, *
     smoothness : array_like of float64, shape (n - 1,), default None
         the weights of the intervals' curvature, by magnitude
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -277,7 +289,7 @@ def interp_smoothing_spline(y, balance, x=None, weights=None, smoothness=None, *
     ------
     QuorvanError
         -20006: n is below 2
-        -20002: x is null
+        -20002: x is None
         -20049: the abscissas do not ascend strictly; with a balance of 1: two of three consecutive ones are equal
         -20141: a weight of a sample or of an interval is 0
         -20041: the system is singular (seven samples and more)
@@ -297,6 +309,7 @@ def interp_smoothing_spline(y, balance, x=None, weights=None, smoothness=None, *
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     smoothness = None if smoothness is None else rt.array(smoothness, rt.F8, 1, "smoothness")
     n = y.shape[0]
+    balance = rt.real(balance, "balance")
     rt.fits(x, (n,), "x")
     rt.fits(weights, (n,), "weights")
     rt.fits(smoothness, (n - 1,), "smoothness")

@@ -1,9 +1,17 @@
-"""Linear and polynomial fits.
+r"""Linear and polynomial fits.
 
 Least squares for models that are linear in their coefficients: any design matrix, and polynomials of which
-some coefficients may be fixed. A design has m rows and n columns, row major; row i holds the basis functions
-at observation i. Weights count by magnitude. The fitted curve and the error are produced together: of the
-general fit and of the polynomials without fixed coefficients one alone is not written.
+some coefficients may be fixed.
+
+    f[i] = sum over j of X[i, j] c[j],        minimises sum of ((y[i] - f[i]) / deviation[i])^2
+    polynomial: f[i] = c[0] + c[1] x[i] + ... + c[order] x[i]^order,    minimises sum of |w[i]| (y[i] - f[i])^2
+    error = sum of weight (y - f)^2 / n,      covariance = (X' W X)^-1
+
+A design has m rows and n columns, row-major; row i holds the basis functions at observation i. Coefficients
+of polynomials stand in ascending power. Weights count by magnitude, a deviation of 0 as a weight of 1.
+
+The fitted curve and the error are produced together: of the general fit and of the polynomials without fixed
+coefficients one alone is not written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -48,7 +56,7 @@ def fit_general_linear(design, y, selector=LinearAlgorithm.SINGULAR_VALUES, *, o
     selector : LinearAlgorithm, its name, or int, default LinearAlgorithm.SINGULAR_VALUES
         0 singular values; 1, 2, 3 QR; 4 LU, 5 Cholesky of the normal equations; 6 singular values truncated
     out : array or None
-        the array for `coefficients`; an input, to work in place
+        the array for `coefficients`; it may be an input, to work in place
 
     Returns
     -------
@@ -116,18 +124,19 @@ def fit_general_linear_ex(design, y, deviations=None, selector=LinearAlgorithm.S
     selector : LinearAlgorithm, its name, or int, default LinearAlgorithm.SINGULAR_VALUES
         as for `fit_general_linear`
     out : tuple or None
-        arrays for `fitted`, `coefficients`, `covariance`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, `covariance`, or None for one to be made; each may be an input, to
+        work in place
 
     Returns
     -------
     fitted : float64 array of shape (m,)
-        the fitted curve, X c; only together with the error
+        the fitted curve, X c
     coefficients : float64 array of shape (n,)
         the coefficients
     covariance : float64 array of shape (n, n)
         the covariance of the coefficients, (X' W X)^-1 with W the weights
     mean_squared_error : float
-        sum of w (y - f)^2 / m; only together with the curve
+        sum of w (y - f)^2 / m
 
     Raises
     ------
@@ -197,12 +206,12 @@ def fit_polynomial(x, y, order, *, out=None):
     order : int
         the degree of the polynomial
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; only together with the error
+        the fitted curve
     coefficients : float64 array of shape (order + 1,)
         the coefficients in ascending power
     mean_squared_error : float
@@ -279,12 +288,12 @@ def fit_polynomial_constrained(x, y, order, fixed_orders=None, fixed_values=None
     algorithm : PolynomialAlgorithm, its name, or int, default PolynomialAlgorithm.SINGULAR_VALUES
         0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     coefficients : float64 array of shape (order + 1,)
         the coefficients in ascending power
     mean_squared_error : float
@@ -328,6 +337,7 @@ def fit_polynomial_constrained(x, y, order, fixed_orders=None, fixed_values=None
     algorithm = rt.choice(algorithm, PolynomialAlgorithm, "algorithm")
     rt.fits(y, (n,), "y")
     rt.fits(fixed_values, (fixed_count,), "fixed_values")
+    rt.together(fixed_orders=fixed_orders, fixed_values=fixed_values)
     mean_squared_error_ = ctypes.c_double()
     fitted_ = rt.result(_out[0], (n,), rt.F8, (x, y, fixed_orders, fixed_values))
     coefficients_ = rt.result(_out[1], (order + 1,), rt.F8, (x, y, fixed_orders, fixed_values))
@@ -370,12 +380,12 @@ def fit_polynomial_weighted(x, y, order, weights=None, fixed_orders=None, fixed_
     algorithm : PolynomialAlgorithm, its name, or int, default PolynomialAlgorithm.SINGULAR_VALUES
         0 singular values, 1 QR, 2 LU and 3 Cholesky of the normal equations
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     coefficients : float64 array of shape (order + 1,)
         the coefficients in ascending power
     mean_squared_error : float
@@ -421,6 +431,7 @@ def fit_polynomial_weighted(x, y, order, weights=None, fixed_orders=None, fixed_
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     rt.fits(fixed_values, (fixed_count,), "fixed_values")
+    rt.together(fixed_orders=fixed_orders, fixed_values=fixed_values)
     mean_squared_error_ = ctypes.c_double()
     fitted_ = rt.result(_out[0], (n,), rt.F8, (x, y, weights, fixed_orders, fixed_values))
     coefficients_ = rt.result(_out[1], (order + 1,), rt.F8, (x, y, weights, fixed_orders, fixed_values))

@@ -1,10 +1,18 @@
-"""Solving, inversion and matrix operations.
+r"""Solving, inversion and matrix operations.
+
+Linear systems, inverses, determinants, norms and products of dense matrices.
+
+    A x = b,   A X = B;   a matrix that is not square: |A x - b| is least, and of those x the shortest
+    norms       two: s(0),  one: largest column sum,  Frobenius: sqrt(sum |a|^2),  infinity: largest row sum
+    condition   s(0) / s(last), or |A| |A^-1| in the other norms
+    pseudo-inverse A^+ = V diag(1 / s) U^H over the singular values s above the tolerance
 
 Matrices are row-major without gaps: element (i, j) of m by n stands at i n + j. Complex functions take pairs
-at the same places. The work is done by LAPACK and BLAS, with 32-bit integers. The kind of a matrix is 0
-general, 1 symmetric (Hermitian) positive definite, 2 lower triangular, 3 upper triangular; of kinds 1 to 3
-one triangle is read. Where a matrix is screened, an element that is NaN, infinite, the largest double, or
--1.7976931348623e308 or below gives -20068.
+at the same places. The work is done by LAPACK and BLAS, with 32-bit integers.
+
+The kind of a matrix is 0 general, 1 symmetric (Hermitian) positive definite, 2 lower triangular, 3 upper
+triangular; of kinds 1 to 3 one triangle is read. Where a matrix is screened, an element that is NaN,
+infinite, the largest double, or -1.7976931348623e308 or below gives -20068.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -82,7 +90,7 @@ def solve_many(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -150,7 +158,7 @@ def solve_many_complex(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -216,7 +224,7 @@ def solve_kind(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -243,12 +251,15 @@ def solve_kind(a, b, kind=MatrixKind.GENERAL, *, out=None):
 
     Notes
     -----
-    Complex arrays go to `solve_kind_complex`. The function ZemFunc197 (MatSolveKind) of the C library.
+    Complex arrays go to `solve_kind_complex`. A `b` of two dimensions goes to `solve_many`. The function
+    ZemFunc197 (MatSolveKind) of the C library.
 
     Example
     -------
     >>> x = qv.solve_kind(a, b)
     """
+    if rt.dimensions(b) == 2:
+        return solve_many(a=a, b=b, kind=kind, out=out)
     if rt.is_complex(a, b):
         return solve_kind_complex(a=a, b=b, kind=kind, out=out)
     a = rt.array(a, rt.F8, 2, "a")
@@ -283,7 +294,7 @@ def solve_kind_complex(a, b, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -310,12 +321,15 @@ def solve_kind_complex(a, b, kind=MatrixKind.GENERAL, *, out=None):
 
     Notes
     -----
-    The function ZemFunc218 (MatSolveKindComplex) of the C library.
+    A `b` of two dimensions goes to `solve_many_complex`. The function ZemFunc218 (MatSolveKindComplex) of the C
+    library.
 
     Example
     -------
     >>> x = qv.solve_kind_complex(a, b)
     """
+    if rt.dimensions(b) == 2:
+        return solve_many_complex(a=a, b=b, kind=kind, out=out)
     a = rt.array(a, rt.C16, 2, "a")
     b = rt.array(b, rt.C16, 1, "b")
     m = a.shape[0]
@@ -343,7 +357,7 @@ def solve(a, b, *, out=None):
     b : array_like of float64, shape (n,)
         the right-hand side
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -360,12 +374,15 @@ def solve(a, b, *, out=None):
 
     Notes
     -----
-    Complex arrays go to `solve_kind_complex`. The function ZemFunc114 (MatSolve) of the C library.
+    Complex arrays go to `solve_kind_complex`. A `b` of two dimensions goes to `solve_many`. The function
+    ZemFunc114 (MatSolve) of the C library.
 
     Example
     -------
     >>> x = qv.solve(a, b)
     """
+    if rt.dimensions(b) == 2:
+        return solve_many(a=a, b=b, out=out)
     if rt.is_complex(a, b):
         return solve_kind_complex(a=a, b=b, out=out)
     a = rt.array(a, rt.F8, 2, "a")
@@ -392,7 +409,7 @@ def solve_upper_triangular(r, b, *, out=None):
     b : array_like of float64, shape (n,)
         the right-hand side
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -442,7 +459,7 @@ def solve_unit_lower(l, b, pivots=None, *, out=None):
     pivots : array_like of int64, shape (n,), default None
         element i of b changes places with element pivots[i], for i from 0 on
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -491,7 +508,7 @@ def inverse(a, *, out=None):
     a : array_like of float64, shape (n, n)
         the matrix
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -541,7 +558,7 @@ def inverse_kind(a, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -595,7 +612,7 @@ def inverse_kind_complex(a, kind=MatrixKind.GENERAL, *, out=None):
     kind : MatrixKind, its name, or int, default MatrixKind.GENERAL
         0 general, 1 positive definite, 2 lower triangular, 3 upper triangular
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1096,6 +1113,7 @@ def matrix_rank(a, tolerance=-1.0):
     a = rt.array(a, rt.F8, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     rank_ = ctypes.c_int64()
     status = _ZemFunc207(rt.pointer(a), m, n, tolerance, ctypes.byref(rank_))
     rt.check(status, "matrix_rank")
@@ -1140,6 +1158,7 @@ def matrix_rank_complex(a, tolerance=-1.0):
     a = rt.array(a, rt.C16, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     rank_ = ctypes.c_int64()
     status = _ZemFunc215(rt.pointer(a), m, n, tolerance, ctypes.byref(rank_))
     rt.check(status, "matrix_rank_complex")
@@ -1161,7 +1180,7 @@ def pseudo_inverse(a, tolerance=-1.0, *, out=None):
     tolerance : float, default -1.0
         absolute; negative: max(m, n) s(0) 2.220446049250313e-16
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1190,6 +1209,7 @@ def pseudo_inverse(a, tolerance=-1.0, *, out=None):
     a = rt.array(a, rt.F8, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     out_ = rt.result(out, (n, m), rt.F8, (a,))
     status = _ZemFunc200(rt.pointer(a), m, n, tolerance, rt.pointer(out_))
     rt.check(status, "pseudo_inverse")
@@ -1211,7 +1231,7 @@ def pseudo_inverse_complex(a, tolerance=-1.0, *, out=None):
     tolerance : float, default -1.0
         absolute; negative: max(m, n) s(0) 2.220446049250313e-16
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1238,6 +1258,7 @@ def pseudo_inverse_complex(a, tolerance=-1.0, *, out=None):
     a = rt.array(a, rt.C16, 2, "a")
     m = a.shape[0]
     n = a.shape[1]
+    tolerance = rt.real(tolerance, "tolerance")
     out_ = rt.result(out, (n, m), rt.C16, (a,))
     status = _ZemFunc229(rt.pointer(a), m, n, tolerance, rt.pointer(out_))
     rt.check(status, "pseudo_inverse_complex")
@@ -1351,7 +1372,7 @@ def matrix_multiply(a, b, *, out=None):
     b : array_like of float64, shape (cols_a, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1401,7 +1422,7 @@ def matrix_multiply_complex(a, b, *, out=None):
     b : array_like of complex128, shape (cols_a, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1448,7 +1469,7 @@ def matrix_vector_multiply(a, x, *, out=None):
     x : array_like of float64, shape (n,)
         the vector
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1497,7 +1518,7 @@ def matrix_vector_multiply_complex(a, x, *, out=None):
     x : array_like of complex128, shape (n,)
         the vector
     out : array or None
-        the array for `y`; an input, to work in place
+        the array for `y`; it may be an input, to work in place
 
     Returns
     -------
@@ -1627,7 +1648,7 @@ def vector_outer_product(x, y, *, out=None):
     y : array_like of float64, shape (ny,)
         a vector
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1675,7 +1696,7 @@ def vector_outer_product_complex(x, y, *, out=None):
     y : array_like of complex128, shape (ny,)
         a vector
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1720,7 +1741,7 @@ def kronecker(a, b, *, out=None):
     b : array_like of float64, shape (rows_b, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1769,7 +1790,7 @@ def kronecker_complex(a, b, *, out=None):
     b : array_like of complex128, shape (rows_b, cols_b)
         the matrix B
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1814,7 +1835,7 @@ def transpose(a, *, out=None):
     a : array_like of float64, shape (m, n)
         the matrix
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1856,7 +1877,7 @@ def conjugate_transpose(a, *, out=None):
     a : array_like of complex128, shape (m, n)
         the matrix
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1909,7 +1930,7 @@ def special_matrix(type, order=0, first=None, second=None, *, out=None):
     second : array_like of float64, shape (second_length,), default None
         first row of the Toeplitz matrix; not read for other types
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1973,7 +1994,7 @@ def special_matrix_complex(type, order=0, first=None, second=None, *, out=None):
     second : array_like of complex128, shape (second_length,), default None
         first row of the Toeplitz matrix; not read for other types
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -2055,6 +2076,7 @@ def vector_norm(x, selector=VectorNorm.TWO, p=2.0):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     selector = rt.choice(selector, VectorNorm, "selector")
+    p = rt.real(p, "p")
     out_ = ctypes.c_double()
     status = _ZemFunc394(rt.pointer(x), n, selector, p, ctypes.byref(out_))
     rt.check(status, "vector_norm")
@@ -2101,6 +2123,7 @@ def vector_norm_complex(x, selector=VectorNorm.TWO, p=2.0):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     selector = rt.choice(selector, VectorNorm, "selector")
+    p = rt.real(p, "p")
     out_ = ctypes.c_double()
     status = _ZemFunc395(rt.pointer(x), n, selector, p, ctypes.byref(out_))
     rt.check(status, "vector_norm_complex")

@@ -1,8 +1,11 @@
-"""Release of memory.
+r"""Release of memory.
 
 A few operations hand out blocks that belong to the caller from then on: filter objects, delay lines of
 complex data, and arrays whose length only the operation knows. Each is one block of memory, and one entry,
 known under three numbers, gives any of them back. All other arrays are the caller's own from the start.
+
+Plans and narrowband filters are more than one block and have releases of their own, `fft_plan_release` and
+`fir_narrowband_release`. Each block goes back once; free of the C library is not the way.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,11 +1,22 @@
-"""Line, exponential, power, logarithm and Gaussian fits.
+r"""Line, exponential, power, logarithm and Gaussian fits.
 
-Five fixed models by three methods. Least squares: closed forms, Gauss-Newton steps, or steps up the gradient.
-Least absolute residuals: reweighted least squares, for a line weighted medians; the best of the last fit, the
-one before and the first is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations
-lose their weight; it ends when one of the coefficients changes by no more than the tolerance, relatively, and
-after 50 refits. On an error nothing is written. The fits are not made for NaN in x or y, which shows in the
-results.
+Five fixed models, each by three methods: for samples with ordinary noise, and for samples with outliers.
+
+    line         f = a x + b
+    exponential  f = a exp(b x)
+    power        f = a x^b
+    logarithm    f = a log(b x)
+    Gaussian     f = a exp(-((x - m) / s)^2 / 2)
+    0 least squares             sum of |w| (y - f)^2
+    1 least absolute residuals  sum of |w| |y - f|
+    2 bisquare                  least squares with the weights |w| max(1 - u^2, 0)^2,  u = r / (4.685 deviation)
+
+Least squares: closed forms, Gauss-Newton steps, or steps up the gradient. Least absolute residuals:
+reweighted least squares, for a line weighted medians; the best of the last fit, the one before and the first
+is kept. Bisquare (Beaton and Tukey, 1974): samples beyond 4.685 robust deviations lose their weight; it ends
+when one of the coefficients changes by no more than the tolerance, relatively, and after 50 refits.
+
+On an error nothing is written. The fits are not made for NaN in x or y, which shows in the results.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -60,12 +71,12 @@ def fit_line(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the ordinates
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     slope : float
         a of y = a x + b
     intercept : float
@@ -126,19 +137,19 @@ def fit_line_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toler
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
         the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     slope : float
         a of y = a x + b
     intercept : float
@@ -171,6 +182,7 @@ def fit_line_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toler
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     slope_ = ctypes.c_double()
@@ -207,12 +219,12 @@ def fit_exponential(x, y, *, out=None):
     y : array_like of float64, shape (n,)
         the ordinates
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the error with it
+        the fitted curve
     a : float
         a of y = a exp(b x)
     b : float
@@ -276,19 +288,19 @@ def fit_exponential_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
         the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     a : float
         a of y = a exp(b x)
     b : float
@@ -321,6 +333,7 @@ def fit_exponential_robust(x, y, weights=None, method=RobustMethod.LEAST_SQUARES
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_ = ctypes.c_double()
@@ -358,19 +371,19 @@ def fit_power(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, tolerance=0
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
         the relative change at which the iteration ends (0, 1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     a : float
         a of y = a x^b
     b : float
@@ -404,6 +417,7 @@ def fit_power(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, tolerance=0
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_ = ctypes.c_double()
@@ -440,7 +454,7 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     base : float, default 0.0
         the base; 2.71828, or at or below 0: the natural logarithm; 10: the common one
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
@@ -449,12 +463,12 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
         the relative change at which the iteration ends (1: of the error, 2: of a coefficient); at or below 0:
         0.0001
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     a : float
         a of y = a log(b x)
     b : float
@@ -486,7 +500,9 @@ def fit_logarithm(x, y, weights=None, base=0.0, method=RobustMethod.LEAST_SQUARE
     y = rt.array(y, rt.F8, 1, "y")
     weights = None if weights is None else rt.array(weights, rt.F8, 1, "weights")
     n = x.shape[0]
+    base = rt.real(base, "base")
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     a_ = ctypes.c_double()
@@ -526,7 +542,7 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     y : array_like of float64, shape (n,)
         the ordinates
     weights : array_like of float64, shape (n,), default None
-        the weights, by magnitude; all 0 or null: all 1
+        the weights, by magnitude; all 0 or None: all 1
     method : RobustMethod, its name, or int, default RobustMethod.LEAST_SQUARES
         0 least squares, 1 least absolute residuals, 2 bisquare
     tolerance : float, default 0.0
@@ -535,12 +551,12 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     guess : array_like of float64, shape (3,), default None
         amplitude, centre and width to start from; one that is not finite: none
     out : array or None
-        the array for `fitted`; an input, to work in place
+        the array for `fitted`; it may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the fitted curve; give the residue with it
+        the fitted curve
     amplitude : float
         a of y = a exp(-((x - m) / s)^2 / 2)
     centre : float
@@ -576,6 +592,7 @@ def fit_gaussian(x, y, weights=None, method=RobustMethod.LEAST_SQUARES, toleranc
     guess = None if guess is None else rt.array(guess, rt.F8, 1, "guess")
     n = x.shape[0]
     method = rt.choice(method, RobustMethod, "method")
+    tolerance = rt.real(tolerance, "tolerance")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     rt.fits(guess, (3,), "guess")

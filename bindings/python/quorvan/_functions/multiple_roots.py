@@ -1,5 +1,12 @@
-"""Multiple polynomial roots and lag products.
+r"""Multiple polynomial roots and lag products.
 
+The roots of complex polynomials whose multiple roots are to come back as such, and the normal matrices of
+linear prediction.
+
+    c[0] + c[1] z + ... + c[n - 1] z^(n - 1) = c[n - 1] product over the distinct roots of (z - z[k])^m[k]
+    R = X^H X,   row t of X: x[t], x[t - 1], ..., x[t - p]
+
+Coefficients stand in ascending power. A root of multiplicity m is listed m times.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -36,7 +43,7 @@ def poly_roots_multiple(c, *, out=None):
     c : array_like of complex128, shape (n,)
         the coefficients in ascending powers, the constant first
     out : array or None
-        the array for `roots`; an input, to work in place
+        the array for `roots`; it may be an input, to work in place
 
     Returns
     -------
@@ -91,7 +98,7 @@ def lag_product(x, p, method=LagMethod.AUTOCORRELATION, *, out=None):
     method : LagMethod, its name, or int, default LagMethod.AUTOCORRELATION
         0 autocorrelation, 1 prewindowed, 2 postwindowed, 3 covariance, 4 modified covariance
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -148,7 +155,7 @@ def lag_product_complex(x, p, method=LagMethod.AUTOCORRELATION, *, out=None):
     method : LagMethod, its name, or int, default LagMethod.AUTOCORRELATION
         0 autocorrelation, 1 prewindowed, 2 postwindowed, 3 covariance, 4 modified covariance
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -1,10 +1,15 @@
-"""Nonlinear fit.
+r"""Nonlinear fit.
 
 Levenberg-Marquardt fits of a model y = f(x; a) that the caller supplies as a function; the gradient is taken
-by central differences. The model runs on the caller's thread, in the order of the samples, coefficient by
-coefficient. While a derivative is taken one coefficient is moved in place; it is put back exactly. A model
-must return: one that leaves by longjmp or by an exception leaks the library's work memory, and that is its
-own fault.
+by central differences.
+
+    minimises chi^2 = sum of w (y - f(x; a))^2
+    step:  (J' W J + lambda diag(J' W J)) delta = J' W (y - f),     a + delta is taken where chi^2 falls
+
+The guess in the coefficients decides which minimum is found: begin within a factor of a few, and with the
+right signs. The model runs on the caller's thread, in the order of the samples, coefficient by coefficient.
+While a derivative is taken one coefficient is moved in place; it is put back exactly. A model must return:
+one that leaves by longjmp or by an exception leaks the library's work memory, and that is its own fault.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -60,18 +65,18 @@ def fit_nonlinear(x, y, model, coefficients, *, out=None):
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Raises
     ------
@@ -96,7 +101,7 @@ def fit_nonlinear(x, y, model, coefficients, *, out=None):
     coefficients = rt.array(coefficients, rt.F8, 1, "coefficients")
     n = x.shape[0]
     m = coefficients.shape[0]
-    model_ = rt.Model(model)
+    model_ = rt.Model(model, "model")
     rt.fits(y, (n,), "y")
     coefficients_ = rt.worked(coefficients, _out[1], (x, y))
     mean_squared_error_ = ctypes.c_double()
@@ -132,18 +137,18 @@ def fit_nonlinear_alias(x, y, model, coefficients, *, out=None):
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Notes
     -----
@@ -160,7 +165,7 @@ def fit_nonlinear_alias(x, y, model, coefficients, *, out=None):
     coefficients = rt.array(coefficients, rt.F8, 1, "coefficients")
     n = x.shape[0]
     m = coefficients.shape[0]
-    model_ = rt.Model(model)
+    model_ = rt.Model(model, "model")
     rt.fits(y, (n,), "y")
     coefficients_ = rt.worked(coefficients, _out[1], (x, y))
     mean_squared_error_ = ctypes.c_double()
@@ -198,20 +203,20 @@ def fit_nonlinear_limited(x, y, model, coefficients, limit=-1, *, out=None):
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Raises
     ------
@@ -238,7 +243,7 @@ def fit_nonlinear_limited(x, y, model, coefficients, limit=-1, *, out=None):
     n = x.shape[0]
     m = coefficients.shape[0]
     limit = rt.i32(limit, "limit")
-    model_ = rt.Model(model)
+    model_ = rt.Model(model, "model")
     rt.fits(y, (n,), "y")
     coefficients_ = rt.worked(coefficients, _out[1], (x, y))
     mean_squared_error_ = ctypes.c_double()
@@ -274,20 +279,20 @@ def fit_nonlinear_limited_alias(x, y, model, coefficients, limit=-1, *, out=None
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
     fitted : float64 array of shape (n,)
-        the model at x; written only together with mean_squared_error
+        the model at x
     coefficients : float64 array of shape (m,)
         the result
     mean_squared_error : float
-        the mean of (f - y)^2; written only together with fitted
+        the mean of (f - y)^2
 
     Notes
     -----
@@ -305,7 +310,7 @@ def fit_nonlinear_limited_alias(x, y, model, coefficients, limit=-1, *, out=None
     n = x.shape[0]
     m = coefficients.shape[0]
     limit = rt.i32(limit, "limit")
-    model_ = rt.Model(model)
+    model_ = rt.Model(model, "model")
     rt.fits(y, (n,), "y")
     coefficients_ = rt.worked(coefficients, _out[1], (x, y))
     mean_squared_error_ = ctypes.c_double()
@@ -345,13 +350,13 @@ def fit_nonlinear_weighted(x, y, model, coefficients, weights=None, limit=-1, *,
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     weights : array_like of float64, shape (n,), default None
         the weights, by magnitude; a sample of weight 0 is left out of the fit
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -390,7 +395,7 @@ def fit_nonlinear_weighted(x, y, model, coefficients, weights=None, limit=-1, *,
     n = x.shape[0]
     m = coefficients.shape[0]
     limit = rt.i32(limit, "limit")
-    model_ = rt.Model(model)
+    model_ = rt.Model(model, "model")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     coefficients_ = rt.worked(coefficients, _out[1], (x, y, weights))
@@ -430,13 +435,13 @@ def fit_nonlinear_weighted_alias(x, y, model, coefficients, weights=None, limit=
     model : callable (x, coefficients) -> float
         the model
     coefficients : array_like of float64, shape (m,)
-        in: the initial guess; out: the result
+        the initial guess
     weights : array_like of float64, shape (n,), default None
         the weights, by magnitude; a sample of weight 0 is left out of the fit
     limit : int, default -1
         the number of iterations at most; negative: no limit
     out : tuple or None
-        arrays for `fitted`, `coefficients`, each may be None; an input, to work in place
+        arrays for `fitted`, `coefficients`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -466,7 +471,7 @@ def fit_nonlinear_weighted_alias(x, y, model, coefficients, weights=None, limit=
     n = x.shape[0]
     m = coefficients.shape[0]
     limit = rt.i32(limit, "limit")
-    model_ = rt.Model(model)
+    model_ = rt.Model(model, "model")
     rt.fits(y, (n,), "y")
     rt.fits(weights, (n,), "weights")
     coefficients_ = rt.worked(coefficients, _out[1], (x, y, weights))

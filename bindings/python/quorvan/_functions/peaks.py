@@ -1,9 +1,15 @@
-"""Peak and level detection.
+r"""Peak and level detection.
 
 Two detectors that walk a signal: runs of samples at or above a level, and peaks or valleys of parabolas
-fitted to a sliding window. Both also take a signal in consecutive blocks: each thread has one stream of
-either, which needs no handle. Positions count from the start of the stream. Statuses are tested in the order
-in which they are listed.
+fitted to a sliding window.
+
+    window of width samples:  p(t) = c0 + c1 t + c2 t^2,  least squares
+    peak: slope c1 changes from + to -;  location t = -c1 / (2 c2),  amplitude p(t),  second derivative 2 c2
+
+Both also take a signal in consecutive blocks: each thread has one stream of either, which needs no handle.
+Positions are in samples and count from the start of the stream; those of peaks lie between samples.
+
+Statuses are tested in the order in which they are listed.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -41,7 +47,7 @@ def peak_threshold_runs(x, threshold, width, *, out=None):
     width : int
         least length of a run, below n; it must not be 0, which is not tested
     out : array or None
-        the array for `indices`; an input, to work in place
+        the array for `indices`; it may be an input, to work in place
 
     Returns
     -------
@@ -67,6 +73,7 @@ def peak_threshold_runs(x, threshold, width, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    threshold = rt.real(threshold, "threshold")
     width = rt.i64(width, "width")
     count_ = ctypes.c_int64()
     indices_ = rt.result(out, (rt.quotient(n, width) + 1,), rt.I8, (x,))
@@ -94,11 +101,11 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
     width : int
         least length of a run, 1 to 2^30
     reset : bool, default True
-        other than 0: the block is the first of a new stream
+        true: the block is the first of a new stream
     last : bool, default True
-        other than 0: the stream ends with this block
+        true: the stream ends with this block
     out : array or None
-        the array for `indices`; an input, to work in place
+        the array for `indices`; it may be an input, to work in place
 
     Returns
     -------
@@ -123,6 +130,7 @@ def peak_threshold_runs_stream(x, threshold, width, reset=True, last=True, *, ou
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    threshold = rt.real(threshold, "threshold")
     width = rt.i64(width, "width")
     reset = int(bool(reset))
     last = int(bool(last))
@@ -151,8 +159,7 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
     The apex must lie within the middle half of the window. Windows of 3 and 4 samples are judged by their
     curvature alone. Of peaks less than one sample apart the higher stands, of valleys the lower. This is not done
     across blocks. The last window of a block waits for the next one; call with last to have all, also to end a
-    stream. The three arrays belong to the caller, who releases each with `memory_release`; they are null where
-    nothing was found and after every failure, which also ends the stream.
+    stream.
 
     Parameters
     ----------
@@ -165,9 +172,9 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
     polarity : PeakPolarity, its name, or int, default PeakPolarity.PEAKS
         0 peaks, 1 valleys; others find nothing
     first : bool, default True
-        other than 0: the block begins a new stream
+        true: the block begins a new stream
     last : bool, default True
-        other than 0: the stream ends with this block
+        true: the stream ends with this block
 
     Returns
     -------
@@ -197,6 +204,7 @@ def peak_detect(x, threshold, width, polarity=PeakPolarity.PEAKS, first=True, la
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    threshold = rt.real(threshold, "threshold")
     width = rt.i64(width, "width")
     polarity = rt.choice(polarity, PeakPolarity, "polarity")
     first = int(bool(first))

@@ -1,9 +1,16 @@
-"""FFT plans.
+r"""FFT plans.
 
 A plan holds everything that transforms of one length need. All users of a length share one plan, and a plan
 lives as long as somebody holds it: a program that transforms one length again and again holds a plan and
 spares the building of its tables. Any length from 1 up has a plan; those whose prime factors are all small
-run fastest. A plan is never changed, so any number of threads may use it at once.
+run fastest.
+
+    FftPlan* plan = `fft_plan_create`(1024);
+    for (...) `real_fft`(frame, 1024, 0, plan, 0, spectrum);
+    `fft_plan_release`(plan);
+
+A plan is never changed, so any number of threads may use it at once. Where a function takes a plan, null
+makes one for the call; the results are the same.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,8 +1,12 @@
-"""Polynomial roots with their multiplicities.
+r"""Polynomial roots with their multiplicities.
 
 The roots of a real polynomial, found in a way that keeps multiple roots together: first the structure of
 multiplicities, through a chain of approximate greatest common divisors of the polynomial and its derivative,
 then the distinct roots as simple roots of a divisor. The method is for accuracy on low and moderate degrees.
+
+    c[0] + c[1] z + ... + c[n - 1] z^(n - 1) = c[n - 1] product over the distinct roots of (z - z[k])^m[k]
+
+Coefficients stand in ascending power. A root of multiplicity m is listed m times.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -35,7 +39,7 @@ def poly_roots_real(c, *, out=None):
     c : array_like of float64, shape (n,)
         the coefficients in ascending powers, the constant first
     out : array or None
-        the array for `roots`; an input, to work in place
+        the array for `roots`; it may be an input, to work in place
 
     Returns
     -------

@@ -1,8 +1,13 @@
-"""Complex polynomial zeros.
+r"""Complex polynomial zeros.
 
-All zeros of a polynomial, one after the other: a walk downhill on |p(z)| with limited and turned Newton
-steps, pure Newton steps near the zero, and deflation (K. Madsen, BIT 13, 1973). Plain and fast, without a
-notion of multiplicity.
+All zeros of a polynomial with real coefficients, one after the other.
+
+    c[0] z^(m - 1) + c[1] z^(m - 2) + ... + c[m - 1] = 0
+    z <- z - p(z) / p'(z),  shortened and turned while |p| does not fall
+
+A walk downhill on |p(z)| with limited and turned Newton steps, pure Newton steps near the zero, and deflation
+(K. Madsen, BIT 13, 1973). Plain and fast, without a notion of multiplicity: a zero of multiplicity m comes
+back as m neighbours, some eps^(1/m) apart. Coefficients stand in descending power, the highest first.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -35,7 +40,7 @@ def poly_zeros(c, *, out=None):
     c : array_like of float64, shape (m,)
         the coefficients, the highest power first
     out : array or None
-        the array for `z`; an input, to work in place
+        the array for `z`; it may be an input, to work in place
 
     Returns
     -------

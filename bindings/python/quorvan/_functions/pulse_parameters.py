@@ -1,5 +1,13 @@
-"""Shape of a single pulse.
+r"""Shape of a single pulse.
 
+The levels and the timing of the first pulse in a record, all by one call.
+
+    level p = lower + p/100 (upper - lower),      p = 10, 50, 90
+    delay: the first crossing of level 50,  width: from there to the next one
+    rise and fall: from level 10 to level 90 and back,  slew = 0.8 (top - base) / rise
+
+Times are in samples from the start of the record, cut to whole ones; slew is per sample. A pulse that goes
+down has its base above its top.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """

@@ -1,16 +1,28 @@
-"""Pulse and transition measurements.
+r"""Pulse and transition measurements.
 
-A waveform is taken as a signal between two states. Its state levels are found first; then references between
-them, the crossings of the references, and from these the timing of pulses and edges. Times are in samples
-from the start of the record, interpolated linearly between samples. Level methods: 0 histogram, the fullest
-bins of the lower and of the upper two fifths, of equally full ones the outermost; 1 peak, the extremes; 2
-autoselect, the modes of the histogram where each holds more than 5 percent of the samples, the extremes
-otherwise. A mode is given as the centre of its bin. References go in as high, mid, low, absolute or in
-percent of the amplitude above the low level. Percent are converted in place, and the absolute levels come out
-once more as low, mid, high, after every error but -20046, -20317 and -20001. The method is looked at only
-where levels are measured. Polarity: 0 falling, 1 rising. The warning 20021 tells of a mode with less than 5
-percent of the samples; it has no text in `status_message`. Statuses are tested in the order in which they are
-listed. Behind -20001, outputs that an error leaves without a value are 0; before it nothing is written.
+Pulse and transition measurements: a waveform is taken as a signal between two states. Its state levels are
+found first; then references between them, the crossings of the references, and from these the timing of
+pulses and edges.
+
+    reference   low + percent/100 (high - low)
+    crossing    i + (level - x[i]) / (x[i + 1] - x[i])
+    duty cycle  width / period
+    slew rate   (high reference - low reference) / duration
+
+Times are in samples from the start of the record, interpolated linearly between samples.
+
+Level methods: 0 histogram, the fullest bins of the lower and of the upper two fifths, of equally full ones
+the outermost; 1 peak, the extremes; 2 autoselect, the modes of the histogram where each holds more than 5
+percent of the samples, the extremes otherwise. A mode is given as the centre of its bin.
+
+References go in as high, mid, low, absolute or in percent of the amplitude above the low level. Percent are
+converted in place, and the absolute levels come out once more as low, mid, high, after every error but
+-20046, -20317 and -20001. The method is looked at only where levels are measured. Polarity: 0 falling, 1
+rising.
+
+The warning 20021 tells of a mode with less than 5 percent of the samples; it has no text in `status_message`.
+Statuses are tested in the order in which they are listed. Behind -20001, outputs that an error leaves without
+a value are 0; before it nothing is written.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -75,7 +87,7 @@ def pulse_state_levels(x, method=LevelMethod.AUTO, bins=256):
     QuorvanError
         -20317: bins is below 1
         -20001: memory is exhausted
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: the method is above 2
         -20309: all samples are equal; not with method 1
 
@@ -142,7 +154,7 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
     low : float, default 10.0
         lower reference
     percent : bool, default True
-        other than 0: the references are in percent
+        true: the references are in percent
     method : LevelMethod, its name, or int, default LevelMethod.AUTO
         of the state levels, for references in percent
     bins : int, default 256
@@ -172,7 +184,7 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
         -20317: bins is below 1
         -20001: memory is exhausted
         -20323: cycle is below 1
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: percent, and the method is above 2
         -20309: percent with method 0 or 2, and all samples are equal
         -20313: mid is above high or below low
@@ -196,9 +208,9 @@ def pulse_cycle_timing(x, polarity=EdgePolarity.RISING, cycle=1, high=90.0, mid=
     n = x.shape[0]
     polarity = rt.choice(polarity, EdgePolarity, "polarity")
     cycle = rt.i64(cycle, "cycle")
-    high_ = ctypes.c_double(high)
-    mid_ = ctypes.c_double(mid)
-    low_ = ctypes.c_double(low)
+    high_ = ctypes.c_double(rt.real(high, "high"))
+    mid_ = ctypes.c_double(rt.real(mid, "mid"))
+    low_ = ctypes.c_double(rt.real(low, "low"))
     percent = int(bool(percent))
     method = rt.choice(method, LevelMethod, "method")
     bins = rt.i64(bins, "bins")
@@ -252,7 +264,7 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
     low : float, default 10.0
         lower reference
     percent : bool, default True
-        other than 0: the references are in percent
+        true: the references are in percent
     method : LevelMethod, its name, or int, default LevelMethod.AUTO
         of the state levels, for references in percent
     bins : int, default 256
@@ -282,7 +294,7 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
         -20317: bins is below 1
         -20001: memory is exhausted
         -20323: cycle is below 1
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: percent, and the method is above 2
         -20309: percent with method 0 or 2, and all samples are equal
         -20313: mid is above high or below low
@@ -306,9 +318,9 @@ def pulse_cycle_average(x, cycle=1, high=90.0, mid=50.0, low=10.0, percent=True,
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     cycle = rt.i64(cycle, "cycle")
-    high_ = ctypes.c_double(high)
-    mid_ = ctypes.c_double(mid)
-    low_ = ctypes.c_double(low)
+    high_ = ctypes.c_double(rt.real(high, "high"))
+    mid_ = ctypes.c_double(rt.real(mid, "mid"))
+    low_ = ctypes.c_double(rt.real(low, "low"))
     percent = int(bool(percent))
     method = rt.choice(method, LevelMethod, "method")
     bins = rt.i64(bins, "bins")
@@ -368,7 +380,7 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
     low : float, default 10.0
         lower reference
     percent : bool, default True
-        other than 0: the references are in percent
+        true: the references are in percent
     method : LevelMethod, its name, or int, default LevelMethod.AUTO
         of the state levels
     bins : int, default 256
@@ -406,7 +418,7 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
         -20317: bins is below 1
         -20001: memory is exhausted
         -20323: edge is below 1
-        -20312: n is below 1, or x is null
+        -20312: n is below 1, or x is None
         -20316: the method is above 2
         -20309: all samples are equal; with method 1 after the first cause of -20313
         -20313: mid is above high or below low; or, after -20311, low is not below high
@@ -432,9 +444,9 @@ def pulse_transition(x, polarity=EdgePolarity.RISING, edge=1, high=90.0, mid=50.
     n = x.shape[0]
     polarity = rt.choice(polarity, EdgePolarity, "polarity")
     edge = rt.i64(edge, "edge")
-    high_ = ctypes.c_double(high)
-    mid_ = ctypes.c_double(mid)
-    low_ = ctypes.c_double(low)
+    high_ = ctypes.c_double(rt.real(high, "high"))
+    mid_ = ctypes.c_double(rt.real(mid, "mid"))
+    low_ = ctypes.c_double(rt.real(low, "low"))
     percent = int(bool(percent))
     method = rt.choice(method, LevelMethod, "method")
     bins = rt.i64(bins, "bins")

@@ -1,14 +1,28 @@
-"""Noise, low-discrepancy sequences and shuffles.
+r"""Noise, low-discrepancy sequences and shuffles.
+
+Noise of several distributions, sequences that fill the unit interval evenly, and shuffles.
+
+    core       u = frac(s1 / 30269 + s2 / 30307 + s3 / 30323),  s1 <- 171 s1 mod 30269,  s2 <- 172 s2,  s3 <- 170 s3
+    uniform    u in [0, 1)
+    white      (u - 1/2) 2 amplitude
+    Gaussian   deviation v sqrt(-2 ln q / q),   q = v^2 + w^2 < 1 from two uniforms in [-1, 1)
+    Halton     digits of 0, 1, 2, ... in the base, mirrored at the point
+    Weyl       frac(i step)
 
 Each generator keeps a stream of its own for each thread: kinds called in turn do not disturb each other, and
-two threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982). A
-seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
+two threads never share one. The core adds three congruential generators modulo 1 (Wichmann and Hill 1982).
+
+A seed alone: a positive one restarts the stream at every call, 0 goes on (at first from the fixed default), a
 negative one takes the clock on the thread's first call of that generator and goes on later. The seed is
-applied before n is tested. A seed with a reset: the first call of the thread and every call with a reset
-start the stream anew, from the seed if it is positive, else from the fixed default, also for negative seeds;
-any other call goes on whatever its seed. Seeding from the clock goes through srand and rand of the C library,
-whose state the process shares where the system has it so. Four seeds (multiples of 16384) make every draw 0;
-what could then never end refuses them with -20061.
+applied before n is tested.
+
+A seed with a reset: the first call of the thread and every call with a reset start the stream anew, from the
+seed if it is positive, else from the fixed default, also for negative seeds; any other call goes on whatever
+its seed.
+
+Seeding from the clock goes through srand and rand of the C library, whose state the process shares where the
+system has it so. Four seeds (multiples of 16384) make every draw 0; what could then never end refuses them
+with -20061.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -54,7 +68,7 @@ def uniform_noise(n, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -97,7 +111,7 @@ def white_noise(n, amplitude, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -118,6 +132,7 @@ def white_noise(n, amplitude, seed=0, *, out=None):
     >>> out = qv.white_noise(n, amplitude)
     """
     n = rt.i64(n, "n")
+    amplitude = rt.real(amplitude, "amplitude")
     seed = rt.i32(seed, "seed")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc185(n, amplitude, seed, rt.pointer(out_))
@@ -142,7 +157,7 @@ def gaussian_noise(n, deviation, seed=0, *, out=None):
     seed : int, default 0
         positive restarts and drops the waiting deviate, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -164,6 +179,7 @@ def gaussian_noise(n, deviation, seed=0, *, out=None):
     >>> out = qv.gaussian_noise(n, deviation)
     """
     n = rt.i64(n, "n")
+    deviation = rt.real(deviation, "deviation")
     seed = rt.i32(seed, "seed")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc84(n, deviation, seed, rt.pointer(out_))
@@ -187,7 +203,7 @@ def periodic_random_noise(n, amplitude, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -208,6 +224,7 @@ def periodic_random_noise(n, amplitude, seed=0, *, out=None):
     >>> out = qv.periodic_random_noise(n, amplitude)
     """
     n = rt.i64(n, "n")
+    amplitude = rt.real(amplitude, "amplitude")
     seed = rt.i32(seed, "seed")
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc387(n, amplitude, seed, rt.pointer(out_))
@@ -236,7 +253,7 @@ def shuffle_real(data, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : tuple or None
-        arrays for `data`, `perm`, each may be None; an input, to work in place
+        arrays for `data`, `perm`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -291,7 +308,7 @@ def shuffle_complex(data, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : tuple or None
-        arrays for `data`, `perm`, each may be None; an input, to work in place
+        arrays for `data`, `perm`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -344,7 +361,7 @@ def shuffle_int(data, seed=0, *, out=None):
     seed : int, default 0
         positive restarts, 0 goes on, negative takes the clock once
     out : tuple or None
-        arrays for `data`, `perm`, each may be None; an input, to work in place
+        arrays for `data`, `perm`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -394,9 +411,9 @@ def gamma_noise(n, order, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -444,9 +461,9 @@ def poisson_noise(n, mean, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -468,6 +485,7 @@ def poisson_noise(n, mean, seed=0, reset=False, *, out=None):
     >>> out = qv.poisson_noise(n, mean)
     """
     n = rt.i64(n, "n")
+    mean = rt.real(mean, "mean")
     seed = rt.i32(seed, "seed")
     reset = int(bool(reset))
     out_ = rt.result(out, (n,), rt.F8, ())
@@ -494,9 +512,9 @@ def binomial_noise(n, trials, probability, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -521,6 +539,7 @@ def binomial_noise(n, trials, probability, seed=0, reset=False, *, out=None):
     """
     n = rt.i64(n, "n")
     trials = rt.i32(trials, "trials")
+    probability = rt.real(probability, "probability")
     seed = rt.i32(seed, "seed")
     reset = int(bool(reset))
     out_ = rt.result(out, (n,), rt.I4, ())
@@ -544,9 +563,9 @@ def bernoulli_noise(n, probability, seed=0, reset=False, *, out=None):
     seed : int, default 0
         of a first or resetting call
     reset : bool, default False
-        not 0 starts the stream anew
+        true starts the stream anew
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -569,6 +588,7 @@ def bernoulli_noise(n, probability, seed=0, reset=False, *, out=None):
     >>> out = qv.bernoulli_noise(n, probability)
     """
     n = rt.i64(n, "n")
+    probability = rt.real(probability, "probability")
     seed = rt.i32(seed, "seed")
     reset = int(bool(reset))
     out_ = rt.result(out, (n,), rt.I4, ())
@@ -594,9 +614,9 @@ def halton_sequence(n, base, reset=False, *, out=None):
     base : int
         its absolute value counts; taken on the first or a resetting call
     reset : bool, default False
-        not 0 starts at 0 with this base
+        true starts at 0 with this base
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -642,9 +662,9 @@ def weyl_sequence(n, step, reset=False, *, out=None):
     step : float
         its absolute value counts; taken on the first or a resetting call
     reset : bool, default False
-        not 0 starts at 0 with this step
+        true starts at 0 with this step
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -666,6 +686,7 @@ def weyl_sequence(n, step, reset=False, *, out=None):
     >>> out = qv.weyl_sequence(n, step)
     """
     n = rt.i64(n, "n")
+    step = rt.real(step, "step")
     reset = int(bool(reset))
     out_ = rt.result(out, (n,), rt.F8, ())
     status = _ZemFunc413(n, step, reset, rt.pointer(out_))

@@ -1,11 +1,22 @@
-"""Spectrum measurements.
+r"""Spectrum measurements.
 
 From time records to spectra, and from spectra to numbers. Records have any length n, not only powers of two.
-Forward transforms are unscaled, X[k] = sum of x[j] exp(-2 pi i j k / n); inverses carry 1/n; power spectra
-carry 1/n^2. Two-sided spectra are split real arrays of n bins with zero frequency at 0. One-sided spectra
-hold the bins 0 to n/2 - 1, never the Nyquist bin, and bin 0 also for n = 1; their inner bins carry the power
-of both sides. The step between bins is df = 1 / (n dt), with dt the time between samples. Phases are in
-radians. Outputs may be the inputs. After an error the outputs are unspecified.
+
+    X[k] = sum over j of x[j] exp(-2 pi i j k / n),          x[j] = (1/n) sum over k of X[k] exp(2 pi i j k / n)
+    two-sided power   S[k] = |X[k]|^2 / n^2                  cross power  Sxy[k] = conj(X[k]) Y[k] / n^2
+    one-sided power   G[0] = S[0],  G[k] = 2 S[k]            a sine of amplitude A on a bin reads A^2 / 2
+    amplitude         sqrt(G[k])                             root mean square: A / sqrt(2)
+    transfer          H[k] = Y[k] / X[k],  over frames: sum Sxy / sum Sxx
+    coherence         |sum Sxy|^2 / (sum Sxx sum Syy)
+    frequency of bin k: k df,   df = 1 / (n dt)
+
+Two-sided spectra are split real arrays of n bins with zero frequency at 0. One-sided spectra hold the bins 0
+to n/2 - 1, never the Nyquist bin, and bin 0 also for n = 1. dt is the time between samples; powers are in the
+unit of x squared, phases in radians and those of a cosine. A window is divided out by its coherent gain where
+tones are read (`window_apply_scaled_plain` does it), by its noise bandwidth where powers of several bins are
+added.
+
+Outputs may be the inputs. After an error the outputs are unspecified.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -59,7 +70,7 @@ def spectrum_real_fft(x, *, out=None):
     x : array_like of float64
         the record
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -103,7 +114,7 @@ def spectrum_real_ifft(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the spectrum
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -144,7 +155,7 @@ def spectrum_complex_ifft(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the spectrum
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -185,7 +196,7 @@ def auto_power(x, *, out=None):
     x : array_like of float64, shape (n,)
         the record, then its power spectrum in the unit of x squared
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -228,7 +239,7 @@ def cross_power(x, y, *, out=None):
         the samples
     y : array_like of float64, shape (n,)
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -284,11 +295,11 @@ def amplitude_phase(x, unwrap=False, dt=1.0, *, out=None):
     x : array_like of float64, shape (n,)
         the samples
     unwrap : bool, default False
-        other than 0: the phases are unwrapped as by `unwrap_radians`
+        true: the phases are unwrapped as by `unwrap_radians`
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `amp`, `phase`, each may be None; an input, to work in place
+        arrays for `amp`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -317,6 +328,7 @@ def amplitude_phase(x, unwrap=False, dt=1.0, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     unwrap = int(bool(unwrap))
+    dt = rt.real(dt, "dt")
     df_ = ctypes.c_double()
     amp_ = rt.result(_out[0], (_max(rt.quotient(n, 2), 1),), rt.F8, (x,), overlapping=True)
     phase_ = rt.result(_out[1], (_max(rt.quotient(n, 2), 1),), rt.F8, (x,), overlapping=True)
@@ -345,7 +357,7 @@ def power_spectrum(x, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : array or None
-        the array for `power`; an input, to work in place
+        the array for `power`; it may be an input, to work in place
 
     Returns
     -------
@@ -370,6 +382,7 @@ def power_spectrum(x, dt=1.0, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
     df_ = ctypes.c_double()
     power_ = rt.result(out, (_max(rt.quotient(n, 2), 1),), rt.F8, (x,), overlapping=True)
     status = _ZemFunc10(rt.pointer(x), n, dt, rt.pointer(power_), ctypes.byref(df_))
@@ -399,7 +412,7 @@ def cross_power_polar(x, y, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `mag`, `phase`, each may be None; an input, to work in place
+        arrays for `mag`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -428,6 +441,7 @@ def cross_power_polar(x, y, dt=1.0, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     y = rt.array(y, rt.F8, 1, "y")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
     rt.fits(y, (n,), "y")
     df_ = ctypes.c_double()
     mag_ = rt.result(_out[0], (_max(rt.quotient(n, 2), 1),), rt.F8, (x, y), overlapping=True)
@@ -459,7 +473,7 @@ def transfer_function(stimulus, response, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `mag`, `phase`, each may be None; an input, to work in place
+        arrays for `mag`, `phase`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -488,6 +502,7 @@ def transfer_function(stimulus, response, dt=1.0, *, out=None):
     stimulus = rt.array(stimulus, rt.F8, 1, "stimulus")
     response = rt.array(response, rt.F8, 1, "response")
     n = stimulus.shape[0]
+    dt = rt.real(dt, "dt")
     rt.fits(response, (n,), "response")
     df_ = ctypes.c_double()
     mag_ = rt.result(_out[0], (_max(rt.quotient(n, 2), 1),), rt.F8, (stimulus, response), overlapping=True)
@@ -511,7 +526,7 @@ def spectrum_deconvolve(divisor, signal, *, out=None):
     divisor : array_like of float64, shape (n,)
     signal : array_like of float64, shape (n,)
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -573,8 +588,8 @@ def network_analysis(stimulus, response, dt=1.0, *, out=None):
     dt : float, default 1.0
         time between samples
     out : tuple or None
-        arrays for `cross_mag`, `cross_phase`, `transfer_mag`, `transfer_phase`, `coherence`, `impulse`, each may
-        be None; an input, to work in place
+        arrays for `cross_mag`, `cross_phase`, `transfer_mag`, `transfer_phase`, `coherence`, `impulse`, or None
+        for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -613,6 +628,7 @@ def network_analysis(stimulus, response, dt=1.0, *, out=None):
     response = rt.array(response, rt.F8, 2, "response")
     n = stimulus.shape[1]
     frames = stimulus.shape[0]
+    dt = rt.real(dt, "dt")
     rt.fits(response, (frames, n), "response")
     df_ = ctypes.c_double()
     cross_mag_ = rt.result(_out[0], (_max(rt.quotient(n, 2), 1),), rt.F8, (stimulus, response), overlapping=True)
@@ -666,7 +682,7 @@ def spectrum_unit_convert(spectrum, unit, kind=SpectrumKind.POWER, display=Displ
     window : (enbw, coherent_gain), default (1.0, 1.0)
         only the equivalent noise bandwidth is read
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -694,10 +710,11 @@ def spectrum_unit_convert(spectrum, unit, kind=SpectrumKind.POWER, display=Displ
     kind = rt.choice(kind, SpectrumKind, "kind")
     display = rt.choice(display, Display, "display")
     flags = rt.choice(flags, UnitFlags, "flags")
-    unit_ = rt.text_buffer(unit)
+    df = rt.real(df, "df")
+    unit_ = rt.text_buffer(unit, "unit")
     out_ = rt.result(out, (n,), rt.F8, (spectrum,), overlapping=True)
-    status = _ZemFunc162(rt.pointer(spectrum), n, kind, display, flags, df, ctypes.byref(rt.properties(window)),
-            rt.pointer(out_), unit_)
+    status = _ZemFunc162(rt.pointer(spectrum), n, kind, display, flags, df, ctypes.byref(rt.properties(window,
+            "window")), rt.pointer(out_), unit_)
     rt.check(status, "spectrum_unit_convert")
     return SpectrumUnitConvertResult(rt.deliver(out_, out), unit_.value.decode())
 
@@ -718,7 +735,7 @@ def unwrap_phase(phase, mode=PhaseMode.RADIANS, *, out=None):
     mode : PhaseMode, its name, or int, default PhaseMode.RADIANS
         0 radians; 1 radians to degrees; 2 degrees; 3 degrees to radians; any other is 0
     out : array or None
-        the array for `phase`; an input, to work in place
+        the array for `phase`; it may be an input, to work in place
 
     Returns
     -------
@@ -758,7 +775,7 @@ def unwrap_radians(phase, *, out=None):
     phase : array_like of float64, shape (n,)
         radians
     out : array or None
-        the array for `phase`; an input, to work in place
+        the array for `phase`; it may be an input, to work in place
 
     Returns
     -------
@@ -838,10 +855,12 @@ def peak_power_frequency(power, search=-1.0, window=(1.0, 1.0), df=1.0, span=7):
     """
     power = rt.array(power, rt.F8, 1, "power")
     n = power.shape[0]
+    search = rt.real(search, "search")
+    df = rt.real(df, "df")
     span = rt.i64(span, "span")
     frequency_ = ctypes.c_double()
     peak_power_ = ctypes.c_double()
-    status = _ZemFunc139(rt.pointer(power), n, search, ctypes.byref(rt.properties(window)), df, span,
+    status = _ZemFunc139(rt.pointer(power), n, search, ctypes.byref(rt.properties(window, "window")), df, span,
             ctypes.byref(frequency_), ctypes.byref(peak_power_))
     rt.check(status, "peak_power_frequency")
     return PeakPowerFrequencyResult(frequency_.value, peak_power_.value)

@@ -1,7 +1,13 @@
-"""Descriptive statistics.
+r"""Descriptive statistics.
 
-Summaries of a data array. The data are the whole population: variances, deviations and moments divide by n,
-never by n - 1. Sums are added in index order. NaN and infinities propagate where nothing else is said.
+Summaries of a data array: location, spread, shape, histogram and modes.
+
+    mean = sum x / n                      variance = sum (x - mean)^2 / n
+    rms = sqrt(sum x^2 / n)               moment k = sum (x - mean)^k / n
+    bin i of a histogram: base + i w <= x < base + (i + 1) w,   w = (top - base) / intervals
+
+The data are the whole population: variances, deviations and moments divide by n, never by n - 1. Sums are
+added in index order. NaN and infinities propagate where nothing else is said.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -351,7 +357,7 @@ def histogram(x, base, top, intervals, *, out=None):
         upper end of the last bin, in the unit of x
     intervals : int
     out : tuple or None
-        arrays for `counts`, `centres`, each may be None; an input, to work in place
+        arrays for `counts`, `centres`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------
@@ -378,6 +384,8 @@ def histogram(x, base, top, intervals, *, out=None):
     _out = rt.outs(out, 2, "histogram")
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    base = rt.real(base, "base")
+    top = rt.real(top, "top")
     intervals = rt.i64(intervals, "intervals")
     counts_ = rt.result(_out[0], (intervals,), rt.I8, (x,))
     centres_ = rt.result(_out[1], (intervals,), rt.F8, (x,))
@@ -426,6 +434,8 @@ def mode_of_histogram(x, base, top, intervals):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    base = rt.real(base, "base")
+    top = rt.real(top, "top")
     intervals = rt.i64(intervals, "intervals")
     mode_ = ctypes.c_double()
     status = _ZemFunc124(rt.pointer(x), n, base, top, intervals, ctypes.byref(mode_))
@@ -450,7 +460,7 @@ def modes(x, intervals=0, *, out=None):
         the samples
     intervals : int, default 0
     out : array or None
-        the array for `modes`; an input, to work in place
+        the array for `modes`; it may be an input, to work in place
 
     Returns
     -------

@@ -1,8 +1,12 @@
-"""Status codes.
+r"""Status codes.
 
-Nearly every function returns a status: 0 is success, a positive code a warning with results that are written
-and usable, a negative code an error. After an error the outputs hold whatever had been written so far. A
-message may name a limit a little different from the one that is tested; the documentation of each function
+What a call says of itself: 0 is success, a positive code a warning with results that are written and usable,
+a negative code an error. After an error the outputs hold whatever had been written so far.
+
+    Status status = `power_spectrum`(x, n, dt, power, &df);
+    if (status < 0) fprintf(stderr, "%s\n", `status_message`(status));
+
+A message may name a limit a little different from the one that is tested; the documentation of each function
 tells the test.
 
 Generated from exports/table by tools/python_binding.py; do not edit.

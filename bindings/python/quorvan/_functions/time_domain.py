@@ -1,8 +1,17 @@
-"""Time-domain operations.
+r"""Time-domain operations.
 
-Integration, differentiation, decimation and level crossings. The continuous forms take an endless signal
-block by block; where the blocks are cut makes no difference. They keep their state for each thread and
-operation, so that a thread runs one stream an operation; a first call on a thread starts as a reset does.
+Integration, differentiation, decimation and level crossings of sampled signals.
+
+    integral     out[i] = out[i - 1] + (x[i - 1] + 4 x[i] + x[i + 1]) dt / 6
+    derivative   out[i] = (x[i + 1] - x[i - 1]) / (2 dt)
+    decimation   out[i] = x[i factor],  or the mean of x[i factor] ... x[(i + 1) factor - 1]
+    crossing     rising: armed below level - |hysteresis|, found at or above level
+
+dt is the time between samples; the samples in front of the first and behind the last are arguments.
+
+The continuous forms take an endless signal block by block; where the blocks are cut makes no difference. They
+keep their state for each thread and operation, so that a thread runs one stream an operation; a first call on
+a thread starts as a reset does.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -47,7 +56,7 @@ def integrate_simpson(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     final : float, default 0.0
         the sample behind the last
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -70,6 +79,9 @@ def integrate_simpson(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
+    initial = rt.real(initial, "initial")
+    final = rt.real(final, "final")
     out_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc95(rt.pointer(x), n, dt, initial, final, rt.pointer(out_))
     rt.check(status, "integrate_simpson")
@@ -93,7 +105,7 @@ def differentiate(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     final : float, default 0.0
         the sample behind the last
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -116,6 +128,9 @@ def differentiate(x, dt=1.0, initial=0.0, final=0.0, *, out=None):
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    dt = rt.real(dt, "dt")
+    initial = rt.real(initial, "initial")
+    final = rt.real(final, "final")
     out_ = rt.result(out, (n,), rt.F8, (x,))
     status = _ZemFunc56(rt.pointer(x), n, dt, initial, final, rt.pointer(out_))
     rt.check(status, "differentiate")
@@ -144,7 +159,7 @@ def differentiate_method(x, initial, final, dt=1.0, method=Difference.CENTRAL2, 
     method : Difference, its name, or int, default Difference.CENTRAL2
         0 central of second order, 1 central of fourth order, 2 forward, 3 backward
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -173,6 +188,7 @@ def differentiate_method(x, initial, final, dt=1.0, method=Difference.CENTRAL2, 
     n = x.shape[0]
     n_initial = initial.shape[0]
     n_final = final.shape[0]
+    dt = rt.real(dt, "dt")
     method = rt.choice(method, Difference, "method")
     out_ = rt.result(out, (n,), rt.F8, (x, initial, final))
     status = _ZemFunc367(rt.pointer(x), n, dt, rt.pointer(initial), n_initial, rt.pointer(final), n_final, method,
@@ -194,9 +210,9 @@ def decimate(x, factor, average=False, *, out=None):
     factor : int
         samples that make one result
     average : bool, default False
-        0 takes the first sample of each block, anything else its mean
+        false takes the first sample of each block; true its mean
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -242,9 +258,9 @@ def decimate_complex(x, factor, average=False, *, out=None):
     factor : int
         samples that make one result
     average : bool, default False
-        0 takes the first sample of each block, anything else its mean
+        false takes the first sample of each block; true its mean
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -291,13 +307,13 @@ def decimate_continuous(x, factor, average=False, offset=0, reset=True, *, out=N
     factor : int
         samples that make one result; taken on the first or a resetting call
     average : bool, default False
-        0 takes the first sample of each group, anything else its mean
+        false takes the first sample of each group; true its mean
     offset : int, default 0
         samples to skip at the begin of the signal; taken on the first or a resetting call
     reset : bool, default True
-        not 0 starts a new signal
+        true starts a new signal
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -349,13 +365,13 @@ def decimate_continuous_complex(x, factor, average=False, offset=0, reset=True, 
     factor : int
         samples that make one result; taken on the first or a resetting call
     average : bool, default False
-        0 takes the first sample of each group, anything else its mean
+        false takes the first sample of each group; true its mean
     offset : int, default 0
         samples to skip at the begin of the signal; taken on the first or a resetting call
     reset : bool, default True
-        not 0 starts a new signal
+        true starts a new signal
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -420,7 +436,7 @@ def detect_level_crossing(x, level, hysteresis=0.0, slope=EdgePolarity.RISING, r
     slope : EdgePolarity, its name, or int, default EdgePolarity.RISING
         1 rising, 0 falling; any other finds nothing
     reset : bool, default True
-        not 0 starts a new signal
+        true starts a new signal
 
     Returns
     -------
@@ -445,6 +461,8 @@ def detect_level_crossing(x, level, hysteresis=0.0, slope=EdgePolarity.RISING, r
     """
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    level = rt.real(level, "level")
+    hysteresis = rt.real(hysteresis, "hysteresis")
     slope = rt.choice(slope, EdgePolarity, "slope")
     reset = int(bool(reset))
     index_ = ctypes.c_int64()
@@ -479,9 +497,9 @@ def detect_level_crossings(x, levels, hysteresis, slopes, reset=True, *, out=Non
     slopes : array_like of int32, shape (channels,)
         1 rising, 0 falling; any other finds nothing
     reset : bool, default True
-        not 0 starts new signals
+        true starts new signals
     out : tuple or None
-        arrays for `indices`, `found`, each may be None; an input, to work in place
+        arrays for `indices`, `found`, or None for one to be made; each may be an input, to work in place
 
     Returns
     -------

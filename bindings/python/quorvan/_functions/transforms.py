@@ -1,9 +1,20 @@
-"""Transforms.
+r"""Transforms.
 
 Fourier, cosine, sine, Hartley, Hilbert and chirp-Z transforms of any length, without a power-of-two rule.
-Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / N), unscaled; inverses carry 1/N. In shifted order of N
-bins X[0] stands at index N / 2 (integer division), X[k] at N / 2 + k, X[-k] at N / 2 - k; of an even N, index
-0 holds X[N / 2]. Outputs must not overlap inputs, except where a function says so.
+
+    Fourier    X[k] = sum over j of x[j] exp(-2 pi i j k / N)
+    inverse    x[j] = (1/N) sum over k of X[k] exp(2 pi i j k / N)
+    cosine     X[k] = c(k) sqrt(2/N) sum over j of x[j] cos(pi k (2j + 1) / (2N)),    c(0) = 1 / sqrt(2), else 1
+    sine       X[k - 1] = sum over j of x[j] sin(pi k (j + 1) / (N + 1)),  k = 1 to N,    inverse with 2 / (N + 1)
+    Hartley    X[k] = sum over j of x[j] (cos + sin)(2 pi j k / N),   inverse with 1/N
+    Hilbert    positive frequencies times -i, negative times i: cos becomes sin
+    chirp-Z    X[k] = sum over j of x[j] a^-j w^(j k)
+
+Forward Fourier transforms are unscaled; inverses carry 1/N. The frequency of bin k is k / (N dt), above N / 2
+read as (k - N) / (N dt). In shifted order of N bins X[0] stands at index N / 2 (integer division), X[k] at N
+/ 2 + k, X[-k] at N / 2 - k; of an even N, index 0 holds X[N / 2]. 2-D arrays are row-major.
+
+Outputs must not overlap inputs, except where a function says so.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -61,16 +72,16 @@ def real_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+        false: natural order, X[0] first; true: X[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : complex128 array of shape (fft_size if fft_size > 0 else n,)
-        the spectrum, one record for each bin; n records for an fft_size below 1
+        the spectrum, one record for each bin
 
     Raises
     ------
@@ -114,16 +125,16 @@ def complex_fft(x, fft_size=0, plan=None, shift=False, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle, at the length / 2
+        false: natural order, X[0] first; true: X[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : complex128 array of shape (fft_size if fft_size > 0 else n,)
-        the spectrum, one record for each bin; n records for an fft_size below 1
+        the spectrum, one record for each bin
 
     Raises
     ------
@@ -163,11 +174,11 @@ def real_ifft(x, plan=None, shift=False, *, out=None):
     x : array_like of complex128, shape (n,)
         the spectrum of real data
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle, at the length / 2
+        false: natural order, x[0] first; true: x[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -209,11 +220,11 @@ def complex_ifft(x, plan=None, shift=False, *, out=None):
     x : array_like of complex128, shape (n,)
         the spectrum
     plan : FftPlan, default None
-        a plan of the transform's length, or null to have one made for the call
+        a plan of the transform's length, or None to have one made for the call
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle, at the length / 2
+        false: natural order, x[0] first; true: x[0] in the middle, at the length / 2
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -261,9 +272,9 @@ def real_fft_2d(x, fft_rows=0, fft_cols=0, shift=False, *, out=None):
     fft_cols : int, default 0
         columns of the transform; below 1: cols
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+        false: natural order, X[0] first; true: X[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -316,9 +327,9 @@ def complex_fft_2d(x, fft_rows=0, fft_cols=0, shift=False, *, out=None):
     fft_cols : int, default 0
         columns of the transform; below 1: cols
     shift : bool, default False
-        0: natural order, X[0] first; otherwise X[0] in the middle of both dimensions
+        false: natural order, X[0] first; true: X[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -363,9 +374,9 @@ def real_ifft_2d(x, shift=False, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the spectrum, row-major
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle of both dimensions
+        false: natural order, x[0] first; true: x[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -408,9 +419,9 @@ def complex_ifft_2d(x, shift=False, *, out=None):
     x : array_like of complex128, shape (rows, cols)
         the spectrum, row-major
     shift : bool, default False
-        0: natural order, x[0] first; otherwise x[0] in the middle of both dimensions
+        false: natural order, x[0] first; true: x[0] in the middle of both dimensions
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -453,7 +464,7 @@ def split_fft(z, *, out=None):
     z : array_like of complex128, shape (n,)
         the complex numbers
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -497,12 +508,12 @@ def dct(x, fft_size=0, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1. It may be x where that has room
+        the transform
 
     Raises
     ------
@@ -539,12 +550,12 @@ def idct(x, *, out=None):
     x : array_like of float64, shape (n,)
         the transform
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (n,)
-        the samples; it may be x
+        the samples
 
     Raises
     ------
@@ -583,12 +594,12 @@ def dst(x, fft_size=0, *, out=None):
     fft_size : int, default 0
         the length of the transform; below 1: n. The input is padded with zeros, or cut
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (fft_size if fft_size > 0 else n,)
-        the transform; n elements for an fft_size below 1. It may be x where that has room
+        the transform
 
     Raises
     ------
@@ -625,12 +636,12 @@ def idst(x, *, out=None):
     x : array_like of float64, shape (n,)
         the transform
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (n,)
-        the samples; it may be x
+        the samples
 
     Raises
     ------
@@ -666,12 +677,12 @@ def dct_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -709,12 +720,12 @@ def idct_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -752,12 +763,12 @@ def dst_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -795,12 +806,12 @@ def idst_2d(x, *, out=None):
     x : array_like of float64, shape (rows, cols)
         the input, row-major
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : float64 array of shape (rows, cols)
-        the result; it may be x
+        the result
 
     Raises
     ------
@@ -840,7 +851,7 @@ def hartley(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -880,7 +891,7 @@ def inverse_hartley(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -922,7 +933,7 @@ def hilbert(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -962,7 +973,7 @@ def inverse_hilbert(x, *, out=None):
     x : array_like of float64, shape (n,)
         the data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1013,12 +1024,12 @@ def chirp_z_real(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     m : int, default 0
         how many points of the spiral; below 1: n
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the transform; n records for an m below 1
+        the transform
 
     Raises
     ------
@@ -1045,7 +1056,8 @@ def chirp_z_real(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     method = rt.choice(method, Method, "method")
     m = rt.i64(m, "m")
     out_ = rt.result(out, (m if m > 0 else n,), rt.C16, (x,))
-    status = _ZemFunc341(rt.pointer(x), n, rt.complex_value(a), rt.complex_value(w), method, m, rt.pointer(out_))
+    status = _ZemFunc341(rt.pointer(x), n, rt.complex_value(a, "a"), rt.complex_value(w, "w"), method, m,
+            rt.pointer(out_))
     rt.check(status, "chirp_z_real")
     return rt.deliver(out_, out)
 
@@ -1072,12 +1084,12 @@ def chirp_z_complex(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     m : int, default 0
         how many points of the spiral; below 1: n
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the transform; n records for an m below 1
+        the transform
 
     Raises
     ------
@@ -1102,7 +1114,8 @@ def chirp_z_complex(x, a, w, method=Method.TRANSFORM, m=0, *, out=None):
     method = rt.choice(method, Method, "method")
     m = rt.i64(m, "m")
     out_ = rt.result(out, (m if m > 0 else n,), rt.C16, (x,))
-    status = _ZemFunc342(rt.pointer(x), n, rt.complex_value(a), rt.complex_value(w), method, m, rt.pointer(out_))
+    status = _ZemFunc342(rt.pointer(x), n, rt.complex_value(a, "a"), rt.complex_value(w, "w"), method, m,
+            rt.pointer(out_))
     rt.check(status, "chirp_z_complex")
     return rt.deliver(out_, out)
 
@@ -1126,12 +1139,12 @@ def inverse_chirp_z(x, a, w, m=0, *, out=None):
     m : int, default 0
         how many samples; below 1: n
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
     out : complex128 array of shape (m if m > 0 else n,)
-        the samples; n records for an m below 1
+        the samples
 
     Raises
     ------
@@ -1156,7 +1169,7 @@ def inverse_chirp_z(x, a, w, m=0, *, out=None):
     n = x.shape[0]
     m = rt.i64(m, "m")
     out_ = rt.result(out, (m if m > 0 else n,), rt.C16, (x,))
-    status = _ZemFunc351(rt.pointer(x), n, rt.complex_value(a), rt.complex_value(w), rt.pointer(out_), m)
+    status = _ZemFunc351(rt.pointer(x), n, rt.complex_value(a, "a"), rt.complex_value(w, "w"), rt.pointer(out_), m)
     rt.check(status, "inverse_chirp_z")
     return rt.deliver(out_, out)
 
@@ -1172,7 +1185,7 @@ def auto_power_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         the samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------
@@ -1214,7 +1227,7 @@ def cross_power_complex(x, y, *, out=None):
     y : array_like of complex128, shape (n,)
         the second samples
     out : array or None
-        the array for `out`; an input, to work in place
+        the array for `out`; it may be an input, to work in place
 
     Returns
     -------

@@ -1,13 +1,22 @@
-"""Analysis of variance and contingency.
+r"""Analysis of variance and contingency.
 
-Analysis of variance with one, two and three factors, and the chi-square test of a contingency table. The
-level of an observation is any integer that fits 32 bits, not an index: levels are numbered as they are first
-seen. In the forms with two and three factors every cell holds the same number of observations, and the number
-of levels of a factor carries a sign: positive for a fixed factor, negative for a random one. A table holds
-rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that of the error;
-its F is never written. A significance is the probability of an F at least as large by chance. All sums are
-taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation has. Statuses
-stand in the order in which they are tested.
+Whether groups of observations differ by more than chance: analysis of variance with one, two and three
+factors, and the chi-square test of a contingency table.
+
+    one factor   ssA = sum over levels of n_i (mean_i - mean)^2,   ssError = sum of (y - mean_i)^2
+    F = (ssA / (levels - 1)) / (ssError / (n - levels))
+    contingency  chi^2 = sum of (count - expected)^2 / expected,   expected = row sum * column sum / total
+
+The level of an observation is any integer that fits 32 bits, not an index: levels are numbered as they are
+first seen. In the forms with two and three factors every cell holds the same number of observations, and the
+number of levels of a factor carries a sign: positive for a fixed factor, negative for a random one.
+
+A table holds rows of four numbers: sum of squares, degrees of freedom, mean square, F. The last row is that
+of the error; its F is never written. A significance is the probability of an F at least as large by chance.
+All sums are taken in one pass, so about as many digits are lost as the squared ratio of mean to deviation
+has.
+
+Statuses stand in the order in which they are tested.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -151,7 +160,7 @@ def anova_two_way(y, level_a, level_b, per_cell, levels_a, levels_b, *, out=None
     levels_b : int
         levels of B, negative for a random factor
     out : array or None
-        the array for `table`; an input, to work in place
+        the array for `table`; it may be an input, to work in place
 
     Returns
     -------
@@ -244,7 +253,7 @@ def anova_three_way(y, level_a, level_b, level_c, per_cell, levels_a, levels_b, 
     levels_c : int
         levels of C, negative for a random factor
     out : array or None
-        the array for `table`; an input, to work in place
+        the array for `table`; it may be an input, to work in place
 
     Returns
     -------

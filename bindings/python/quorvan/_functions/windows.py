@@ -1,9 +1,22 @@
-"""Window functions.
+r"""Window functions.
 
-Windows multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+Windows taper a record towards its ends, so that tones between the bins of its spectrum leak less. They
+multiply data in place, real arrays or complex ones, where one factor serves both parts of a sample.
+
+    cosine sums     w[i] = sum over k of (-1)^k a[k] cos(2 pi k i / n)
+    Hanning         0.5, 0.5                     Blackman-Harris, 3 terms   0.42323, 0.49755, 0.07922
+    Hamming         0.54, 0.46                   Blackman-Harris, 4 terms   0.35875, 0.48829, 0.14128, 0.01168
+    Blackman        0.42, 0.5, 0.08              Blackman-Nuttall  0.3635819, 0.4891775, 0.1365995, 0.0106411
+    exact Blackman  7938, 9240, 1430 / 18608
+    flat top        0.215578948, 0.41663158, 0.277263158, 0.083578947, 0.006947368
+    coherent gain = sum w / n,       equivalent noise bandwidth = n sum w^2 / (sum w)^2  in bins
+
 Most are periodic: w[k] = w[n - k], and w[0] would be the first sample of the next period. The symmetric form,
-for filter design, is `window_apply_symmetric`. Codes are those of `Window`. The cosine sums take one sine for
-each coefficient and a rotation for each pair of samples. After an error the data are unchanged.
+for filter design, is `window_apply_symmetric`. Codes are those of `Window`. The coherent gain is what a
+window makes of the amplitude of a tone on a bin; the scaled forms divide by it.
+
+The cosine sums take one sine for each coefficient and a rotation for each pair of samples. After an error the
+data are unchanged.
 
 Generated from exports/table by tools/python_binding.py; do not edit.
 """
@@ -81,7 +94,7 @@ def window_hanning(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -123,7 +136,7 @@ def window_hanning_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -163,7 +176,7 @@ def window_hamming(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -205,7 +218,7 @@ def window_hamming_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -246,7 +259,7 @@ def window_blackman_harris3(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -289,7 +302,7 @@ def window_blackman_harris3_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -330,7 +343,7 @@ def window_exact_blackman(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -373,7 +386,7 @@ def window_exact_blackman_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -413,7 +426,7 @@ def window_blackman(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -455,7 +468,7 @@ def window_blackman_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -496,7 +509,7 @@ def window_flat_top(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -538,7 +551,7 @@ def window_flat_top_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -579,7 +592,7 @@ def window_blackman_nuttall(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -622,7 +635,7 @@ def window_blackman_nuttall_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -665,7 +678,7 @@ def window_cosine_sum(x, a, *, out=None):
     a : array_like of float64, shape (count,)
         coefficients, all positive for the usual windows
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -711,7 +724,7 @@ def window_cosine_sum_complex(x, a, *, out=None):
     a : array_like of float64, shape (count,)
         coefficients, all positive for the usual windows
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -759,7 +772,7 @@ def window_cosine_taper(x, ratio, *, out=None):
     ratio : float
         share of the samples; from 1 on the Hanning window, up to 0 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -784,6 +797,7 @@ def window_cosine_taper(x, ratio, *, out=None):
         return window_cosine_taper_complex(x=x, ratio=ratio, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    ratio = rt.real(ratio, "ratio")
     x_ = rt.worked(x, out)
     status = _ZemFunc278(rt.pointer(x_), n, ratio)
     rt.check(status, "window_cosine_taper")
@@ -803,7 +817,7 @@ def window_cosine_taper_complex(x, ratio, *, out=None):
     ratio : float
         share of the samples; from 1 on the Hanning window, up to 0 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -826,6 +840,7 @@ def window_cosine_taper_complex(x, ratio, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    ratio = rt.real(ratio, "ratio")
     x_ = rt.worked(x, out)
     status = _ZemFunc438(rt.pointer(x_), n, ratio)
     rt.check(status, "window_cosine_taper_complex")
@@ -843,7 +858,7 @@ def window_cosine_taper20(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -882,7 +897,7 @@ def window_triangle(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -923,7 +938,7 @@ def window_triangle_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -963,7 +978,7 @@ def window_bartlett_hanning(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1006,7 +1021,7 @@ def window_bartlett_hanning_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1047,7 +1062,7 @@ def window_bohman(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1089,7 +1104,7 @@ def window_bohman_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1130,7 +1145,7 @@ def window_parzen(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1172,7 +1187,7 @@ def window_parzen_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1212,7 +1227,7 @@ def window_welch(x, *, out=None):
     x : array_like of float64, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1254,7 +1269,7 @@ def window_welch_complex(x, *, out=None):
     x : array_like of complex128, shape (n,)
         data
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1299,7 +1314,7 @@ def window_kaiser(x, beta, *, out=None):
     beta : float
         shape, not checked; about pi times half the main lobe in bins
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1323,6 +1338,7 @@ def window_kaiser(x, beta, *, out=None):
         return window_kaiser_complex(x=x, beta=beta, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    beta = rt.real(beta, "beta")
     x_ = rt.worked(x, out)
     status = _ZemFunc113(rt.pointer(x_), n, beta)
     rt.check(status, "window_kaiser")
@@ -1342,7 +1358,7 @@ def window_kaiser_complex(x, beta, *, out=None):
     beta : float
         shape, not checked; about pi times half the main lobe in bins
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1364,6 +1380,7 @@ def window_kaiser_complex(x, beta, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    beta = rt.real(beta, "beta")
     x_ = rt.worked(x, out)
     status = _ZemFunc440(rt.pointer(x_), n, beta)
     rt.check(status, "window_kaiser_complex")
@@ -1384,7 +1401,7 @@ def window_gaussian(x, sigma, *, out=None):
     sigma : float
         standard deviation as a share of the length; not positive means 0.2
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1408,6 +1425,7 @@ def window_gaussian(x, sigma, *, out=None):
         return window_gaussian_complex(x=x, sigma=sigma, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    sigma = rt.real(sigma, "sigma")
     x_ = rt.worked(x, out)
     status = _ZemFunc280(rt.pointer(x_), n, sigma)
     rt.check(status, "window_gaussian")
@@ -1427,7 +1445,7 @@ def window_gaussian_complex(x, sigma, *, out=None):
     sigma : float
         standard deviation as a share of the length; not positive means 0.2
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1449,6 +1467,7 @@ def window_gaussian_complex(x, sigma, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    sigma = rt.real(sigma, "sigma")
     x_ = rt.worked(x, out)
     status = _ZemFunc441(rt.pointer(x_), n, sigma)
     rt.check(status, "window_gaussian_complex")
@@ -1470,7 +1489,7 @@ def window_chebyshev(x, attenuation, *, out=None):
     attenuation : float
         dB, of the sidelobes below the main lobe; negative means 0
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1496,6 +1515,7 @@ def window_chebyshev(x, attenuation, *, out=None):
         return window_chebyshev_complex(x=x, attenuation=attenuation, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    attenuation = rt.real(attenuation, "attenuation")
     x_ = rt.worked(x, out)
     status = _ZemFunc279(rt.pointer(x_), n, attenuation)
     rt.check(status, "window_chebyshev")
@@ -1515,7 +1535,7 @@ def window_chebyshev_complex(x, attenuation, *, out=None):
     attenuation : float
         dB, of the sidelobes below the main lobe; negative means 0
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1539,6 +1559,7 @@ def window_chebyshev_complex(x, attenuation, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    attenuation = rt.real(attenuation, "attenuation")
     x_ = rt.worked(x, out)
     status = _ZemFunc442(rt.pointer(x_), n, attenuation)
     rt.check(status, "window_chebyshev_complex")
@@ -1558,7 +1579,7 @@ def window_exponential(x, final, *, out=None):
     final : float
         factor of the last sample
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1583,6 +1604,7 @@ def window_exponential(x, final, *, out=None):
         return window_exponential_complex(x=x, final=final, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    final = rt.real(final, "final")
     x_ = rt.worked(x, out)
     status = _ZemFunc74(rt.pointer(x_), n, final)
     rt.check(status, "window_exponential")
@@ -1602,7 +1624,7 @@ def window_exponential_complex(x, final, *, out=None):
     final : float
         factor of the last sample
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1625,6 +1647,7 @@ def window_exponential_complex(x, final, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    final = rt.real(final, "final")
     x_ = rt.worked(x, out)
     status = _ZemFunc444(rt.pointer(x_), n, final)
     rt.check(status, "window_exponential_complex")
@@ -1644,7 +1667,7 @@ def window_force(x, duty, *, out=None):
     duty : float
         percent; below 0 clears all, above 100 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1668,6 +1691,7 @@ def window_force(x, duty, *, out=None):
         return window_force_complex(x=x, duty=duty, out=out)
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
+    duty = rt.real(duty, "duty")
     x_ = rt.worked(x, out)
     status = _ZemFunc81(rt.pointer(x_), n, duty)
     rt.check(status, "window_force")
@@ -1687,7 +1711,7 @@ def window_force_complex(x, duty, *, out=None):
     duty : float
         percent; below 0 clears all, above 100 nothing
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1709,6 +1733,7 @@ def window_force_complex(x, duty, *, out=None):
     """
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
+    duty = rt.real(duty, "duty")
     x_ = rt.worked(x, out)
     status = _ZemFunc443(rt.pointer(x_), n, duty)
     rt.check(status, "window_force_complex")
@@ -1733,7 +1758,7 @@ def window_apply_symmetric(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1761,6 +1786,7 @@ def window_apply_symmetric(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     status = _ZemFunc281(rt.pointer(x_), n, window, parameter)
     rt.check(status, "window_apply_symmetric")
@@ -1782,7 +1808,7 @@ def window_apply_symmetric_complex(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1807,6 +1833,7 @@ def window_apply_symmetric_complex(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     status = _ZemFunc429(rt.pointer(x_), n, window, parameter)
     rt.check(status, "window_apply_symmetric_complex")
@@ -1840,7 +1867,7 @@ def window_apply_scaled(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1870,6 +1897,7 @@ def window_apply_scaled(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.F8, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     properties_ = rt.Properties()
     status = _ZemFunc337(rt.pointer(x_), n, window, parameter, ctypes.byref(properties_))
@@ -1900,7 +1928,7 @@ def window_apply_scaled_complex(x, window, parameter=0.0, *, out=None):
     parameter : float, default 0.0
         beta (Kaiser), attenuation in dB (Chebyshev), sigma (Gaussian); else not used
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -1928,6 +1956,7 @@ def window_apply_scaled_complex(x, window, parameter=0.0, *, out=None):
     x = rt.array(x, rt.C16, 1, "x")
     n = x.shape[0]
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     x_ = rt.worked(x, out)
     properties_ = rt.Properties()
     status = _ZemFunc428(rt.pointer(x_), n, window, parameter, ctypes.byref(properties_))
@@ -1956,7 +1985,7 @@ def window_apply_scaled_plain(x, window, *, out=None):
     window : Window, its name, or int
         a `Window`
     out : array or None
-        the array for `x`; an input, to work in place
+        the array for `x`; it may be an input, to work in place
 
     Returns
     -------
@@ -2032,6 +2061,7 @@ def window_properties(n, window, parameter=0.0):
     """
     n = rt.i64(n, "n")
     window = rt.choice(window, Window, "window")
+    parameter = rt.real(parameter, "parameter")
     properties_ = rt.Properties()
     status = _ZemFunc445(n, window, parameter, ctypes.byref(properties_))
     rt.check(status, "window_properties")
