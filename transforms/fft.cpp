@@ -14,15 +14,16 @@ struct ComplexRun {
     double *outRe, *outIm;
     Size inStride, outStride;
 
-    Status Leaves(Count first, Count count, Count leaves) const noexcept {
+    Status Leaves(const FftSchedule& schedule, Count first, Count count) const noexcept {
         const Count last = plan.factorCount - 1;
         const FftStage& stage = *plan.stages[last];
+        const Count* positions = schedule.leafPositions + first;
         const double *re = inRe + first * inStride, *im = inIm + first * inStride;
         if (plan.kinds[last] == kLargePrime)
-            return RaderComplexLeaf(re, im, outRe, outIm, inStride, outStride, count, leaves * inStride,
-                                    plan.leafPositions + first, stage, plan.factors[last]);
-        plan.leafKernels[last](re, im, outRe, outIm, inStride, outStride, count, leaves * inStride,
-                               plan.leafPositions + first, stage);
+            return RaderComplexLeaf(re, im, outRe, outIm, inStride, outStride, count, schedule.leaves * inStride,
+                                    positions, stage, plan.factors[last]);
+        const ComplexLeafKernel leaf = schedule.loneLeaf ? schedule.loneLeaf : plan.leafKernels[last];
+        leaf(re, im, outRe, outIm, inStride, outStride, count, schedule.leaves * inStride, positions, stage);
         return status::kSuccess;
     }
     Status Stage(Count level, Size position, Count m) const noexcept {
@@ -40,14 +41,15 @@ struct RealRun {
     double* out;
     Size inStride, outStride;
 
-    Status Leaves(Count first, Count count, Count leaves) const noexcept {
+    Status Leaves(const FftSchedule& schedule, Count first, Count count) const noexcept {
         const Count last = plan.factorCount - 1;
         const FftStage& stage = *plan.stages[last];
+        const Count* positions = schedule.leafPositions + first;
         if (plan.kinds[last] == kLargePrime)
-            return RaderRealLeaf(in + first * inStride, out, inStride, outStride, count, leaves * inStride,
-                                 plan.leafPositions + first, stage, plan.factors[last]);
-        plan.realLeafKernels[last](in + first * inStride, out, inStride, outStride, count, leaves * inStride,
-                                   plan.leafPositions + first, stage);
+            return RaderRealLeaf(in + first * inStride, out, inStride, outStride, count, schedule.leaves * inStride,
+                                 positions, stage, plan.factors[last]);
+        plan.realLeafKernels[last](in + first * inStride, out, inStride, outStride, count, schedule.leaves * inStride,
+                                   positions, stage);
         return status::kSuccess;
     }
     Status Stage(Count level, Size position, Count m) const noexcept {
@@ -64,20 +66,21 @@ struct RealRun {
 template <class Run>
 class Decimation {
 public:
-    explicit Decimation(const Run& run) noexcept : run_(run), plan_(run.plan) {}
+    Decimation(const Run& run, const FftSchedule& schedule) noexcept
+        : run_(run), plan_(run.plan), schedule_(schedule) {}
 
     // The first levels are taken breadth first, until they part the input into enough adjacent sub-transforms to fill
     // vectors; below them a group of adjacent ones goes depth first, so that its data stays in the cache.
     Status Transform() const noexcept {
-        const Count stride = plan_.groupStride;
-        const Count group = plan_.groupLevel == plan_.factorCount - 1 ? stride : kFftGroup;
+        const Count stride = schedule_.groupStride;
+        const Count group = schedule_.groupLevel == plan_.factorCount - 1 ? stride : kFftGroup;
         for (Count first = 0; first < stride; first += group) {
             const Count count = stride - first < group ? stride - first : group;
-            if (const Status status = Descend(plan_.groupLevel, first, count, stride); status < 0) return status;
+            if (const Status status = Descend(schedule_.groupLevel, first, count, stride); status < 0) return status;
         }
-        for (Count level = plan_.groupLevel; level-- > 0;) {
+        for (Count level = schedule_.groupLevel; level-- > schedule_.lastStage;) {
             const Count m = plan_.columns[level];
-            for (Size position = 0; position < plan_.size; position += Size(m) * plan_.factors[level])
+            for (Size position = 0; position < schedule_.size; position += Size(m) * plan_.factors[level])
                 if (const Status status = run_.Stage(level, position, m); status < 0) return status;
         }
         return status::kSuccess;
@@ -85,19 +88,20 @@ public:
 
 private:
     Status Descend(Count level, Count first, Count count, Count stride) const noexcept {
-        if (level == plan_.factorCount - 1) return run_.Leaves(first, count, plan_.leaves);
+        if (level == plan_.factorCount - 1) return run_.Leaves(schedule_, first, count);
         for (Count t = 0; t < plan_.factors[level]; ++t)
             if (const Status status = Descend(level + 1, first + stride * t, count, stride * plan_.factors[level]);
                 status < 0)
                 return status;
         for (Count c = first; c < first + count; ++c)
-            if (const Status status = run_.Stage(level, plan_.leafPositions[c], plan_.columns[level]); status < 0)
+            if (const Status status = run_.Stage(level, schedule_.leafPositions[c], plan_.columns[level]); status < 0)
                 return status;
         return status::kSuccess;
     }
 
     const Run& run_;
     const FftPlan& plan_;
+    const FftSchedule& schedule_;
 };
 
 }  // namespace
@@ -110,7 +114,8 @@ Status FftComplex(const FftPlan* plan, const double* inRe, const double* inIm, d
         *outIm = *inIm;
         return status::kSuccess;
     }
-    return Decimation<ComplexRun>(ComplexRun{*plan, inRe, inIm, outRe, outIm, inStride, outStride}).Transform();
+    return Decimation<ComplexRun>(ComplexRun{*plan, inRe, inIm, outRe, outIm, inStride, outStride}, plan->whole)
+        .Transform();
 }
 
 Status FftComplexInverse(const FftPlan* plan, const double* inRe, const double* inIm, double* outRe, double* outIm,
@@ -142,7 +147,23 @@ Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStrid
         *out = *in;
         return status::kSuccess;
     }
-    return Decimation<RealRun>(RealRun{*plan, in, out, inStride, outStride}).Transform();
+    return Decimation<RealRun>(RealRun{*plan, in, out, inStride, outStride}, plan->whole).Transform();
+}
+
+bool FftGivesSpectrum(const FftPlan* plan) noexcept { return plan->spectrumLeaf != nullptr; }
+
+// The output is the workspace: the transforms of the records stand in its first half until the last stage.
+Status FftSpectrum(const FftPlan* plan, const double* x, bool shift, double* out) noexcept {
+    const Count n = plan->size;
+    double *const low = shift ? out + n : out, *const high = shift ? out : out + n;
+    if (plan->factorCount == 1) {
+        plan->spectrumLeaf(x, low, high, *plan->stages[0]);
+        return status::kSuccess;
+    }
+    const ComplexRun records{*plan, x, x + 1, out, out + 1, 2, 2};
+    if (const Status status = Decimation<ComplexRun>(records, plan->half).Transform(); status < 0) return status;
+    plan->spectrumStage(out, low, high, plan->columns[0], *plan->stages[0]);
+    return status::kSuccess;
 }
 
 // By the Hartley transform, which is its own inverse: only forward kernels exist.

@@ -1,4 +1,4 @@
-// The four transform cores. All work from a plan, take no lock and change nothing but output and workspace.
+// The transform cores. All work from a plan, take no lock and change nothing but output and workspace.
 //
 // Forward: X[k] = sum over j of x[j] exp(-2 pi i j k / n), unscaled; the inverses carry 1/n. Strides count doubles:
 // an interleaved array p of records is (p, p + 1) with stride 2. The real result is HalfComplex: Re X[k] at k up to
@@ -21,6 +21,11 @@ Status FftComplexInverse(const FftPlan* plan, const double* inRe, const double* 
 
 // n reals into HalfComplex. Input and output must not overlap.
 Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStride, Count outStride, Count n) noexcept;
+
+// n reals into all n bins as records, in shifted order with X[0] at n / 2. For plans whose first factor is even: half
+// the work of a complex transform. The input may be the second half of the output.
+bool FftGivesSpectrum(const FftPlan* plan) noexcept;
+Status FftSpectrum(const FftPlan* plan, const double* x, bool shift, double* out) noexcept;
 
 // HalfComplex into n reals. The input is destroyed.
 Status FftRealInverse(const FftPlan* plan, double* in, double* out, Count inStride, Count outStride, Count n) noexcept;

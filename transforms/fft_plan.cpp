@@ -67,16 +67,29 @@ void Factorise(FftPlan& plan) noexcept {
             }
 }
 
+Count FactorOf(const FftPlan& plan, const FftSchedule& schedule, Count level) noexcept {
+    return level == 0 ? schedule.firstFactor : plan.factors[level];
+}
+
+FftSchedule ScheduleOf(const FftPlan& plan, Count size, Count firstFactor, Count lastStage) noexcept {
+    const Count last = plan.factorCount - 1;
+    FftSchedule schedule = {size, firstFactor, lastStage, size / plan.factors[last], nullptr, 0, 1, nullptr};
+    if (schedule.leaves == 1)
+        if (const FftKernel* kernel = kFftKernels().kernel(plan.factors[last])) schedule.loneLeaf = kernel->loneLeaf;
+    const auto wasteful = [](Count stride) {
+        return stride < kFftGroup || (stride % kFftGroup && stride < 4 * kFftGroup);
+    };
+    while (schedule.groupLevel < last && (schedule.groupLevel < lastStage || wasteful(schedule.groupStride)))
+        schedule.groupStride *= FactorOf(plan, schedule, schedule.groupLevel++);
+    return schedule;
+}
+
 void Schedule(FftPlan& plan) noexcept {
     const Count last = plan.factorCount - 1;
     if (last < 0) return;
     for (Count i = 0, m = plan.size; i <= last; ++i) plan.columns[i] = m /= plan.factors[i];
-    plan.leaves = plan.size / plan.factors[last];
-    plan.groupStride = 1;
-    const auto wasteful = [](Count stride) {
-        return stride < kFftGroup || (stride % kFftGroup && stride < 4 * kFftGroup);
-    };
-    while (plan.groupLevel < last && wasteful(plan.groupStride)) plan.groupStride *= plan.factors[plan.groupLevel++];
+    plan.whole = ScheduleOf(plan, plan.size, plan.factors[0], 0);
+    if (plan.spectrumStage && last > 0) plan.half = ScheduleOf(plan, plan.size / 2, plan.factors[0] / 2, 1);
 }
 
 void ChooseKernels(FftPlan& plan) noexcept {
@@ -87,6 +100,9 @@ void ChooseKernels(FftPlan& plan) noexcept {
         plan.realStageKernels[i] = kernel->realStage;
         plan.leafKernels[i] = kernel->leaf;
         plan.stageKernels[i] = kernel->stage;
+        if (i > 0) continue;
+        plan.spectrumLeaf = kernel->spectrumLeaf;
+        plan.spectrumStage = kernel->spectrumStage;
     }
 }
 
@@ -168,7 +184,8 @@ Status MakeTwiddles(FftPlan& plan) noexcept {
             else
                 stage.blockedTwiddles = layout.Take(BlockedLength(f, m));
         });
-        plan.leafPositions = reinterpret_cast<Count*>(layout.Take((Size(plan.leaves) + 1) / 2));
+        for (FftSchedule* schedule : {&plan.whole, &plan.half})
+            schedule->leafPositions = reinterpret_cast<Count*>(layout.Take((Size(schedule->leaves) + 1) / 2));
     });
     if (status < 0) return status;
     ForTurnedStages(plan, [](FftStage& stage, Count kind, Count f, Count m) {
@@ -309,15 +326,15 @@ Status MakeLargePrimes(FftPlan& plan) noexcept {
 
 // Input t = t0 + f0 t1 + f0 f1 t2 + ... starts the leaf that stands at t0 n1 + t1 n2 + t2 n3 + ...
 Status MakeLeafPositions(FftPlan& plan) noexcept {
-    const Count last = plan.factorCount - 1;
-    if (last < 0) return status::kSuccess;
-    plan.leafPositions[0] = 0;
-    Count length = plan.size, made = 1;
-    for (Count i = 0; i < last; ++i) {
-        length /= plan.factors[i];
-        for (Count t = made; t < made * plan.factors[i]; ++t)
-            plan.leafPositions[t] = plan.leafPositions[t % made] + t / made * length;
-        made *= plan.factors[i];
+    for (const FftSchedule* schedule : {&plan.whole, &plan.half}) {
+        if (schedule->size == 0) continue;
+        Count* positions = schedule->leafPositions;
+        positions[0] = 0;
+        for (Count i = 0, made = 1; i + 1 < plan.factorCount; ++i) {
+            const Count f = FactorOf(plan, *schedule, i);
+            for (Count t = made; t < made * f; ++t) positions[t] = positions[t - made] + plan.columns[i];
+            made *= f;
+        }
     }
     return status::kSuccess;
 }
@@ -362,8 +379,8 @@ FftPlan* CreateUnlocked(Count size) noexcept {
     *plan = {};
     plan->size = size;
     Factorise(*plan);
-    Schedule(*plan);
     ChooseKernels(*plan);
+    Schedule(*plan);
     if (Build(*plan) < 0) {
         Free(plan);
         return nullptr;

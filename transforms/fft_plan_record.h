@@ -44,6 +44,22 @@ inline constexpr Count kFftGroup = 8;
 
 enum FactorKind : Count { kKernelFactor = 0, kGenericPrime = 1, kLargePrime = 2 };
 
+// The way of a decimation in time through the factors of a plan.
+struct FftSchedule {
+    Count size;
+    // The number of sub-transforms at the level below the first, and the level whose stage comes last.
+    Count firstFactor;
+    Count lastStage;
+    // The number of leaf transforms, and the kernel for one that is alone, if there is one.
+    Count leaves;
+    ComplexLeafKernel loneLeaf;
+    // The levels that are taken breadth first, and the product of their factors.
+    Count groupLevel;
+    Count groupStride;
+    // Where the leaf transform that starts at input t stands in the output.
+    Count* leafPositions;
+};
+
 struct FftPlan {
     Count size;
     Count refCount;
@@ -57,14 +73,15 @@ struct FftPlan {
     ComplexStageKernel stageKernels[kMaxFactors];
     FftPlan* prev;
     FftPlan* next;
-    // The length of the blocks that a stage merges, and the number of leaf transforms.
+    // The length of the blocks that a stage merges.
     Count columns[kMaxFactors];
-    Count leaves;
-    // The levels that the decimation takes breadth first, and the product of their factors.
-    Count groupLevel;
-    Count groupStride;
-    // Where the leaf transform that starts at input t stands in the output.
-    Count* leafPositions;
+    // The transform itself; and, where the first of several factors is even, what comes before the stage of that factor
+    // when n reals are taken as n / 2 records: half as many sub-transforms, else the same. Otherwise of size 0.
+    FftSchedule whole;
+    FftSchedule half;
+    // For an even first factor.
+    SpectrumLeafKernel spectrumLeaf;
+    SpectrumStageKernel spectrumStage;
     // The block that the twiddles of the transforms and the leaf positions stand in, and that of the other order.
     double* tables;
     double* statedTables;

@@ -34,7 +34,7 @@ inline void RotateFromShifted(const ComplexRecord* shifted, Count length, Comple
 }
 
 // The full spectrum of `length` reals from n samples. The output is its own workspace: padded samples lie in its second
-// half, the packed result in its first.
+// half, what is made of them before the bins in its first.
 inline Status SpectrumOfReals(const FftPlan* plan, const double* x, Count n, Count length, bool shift,
                               ComplexRecord* out) noexcept {
     double* packed = &out->re;
@@ -42,6 +42,7 @@ inline Status SpectrumOfReals(const FftPlan* plan, const double* x, Count n, Cou
         CopyPadded(x, n, length, packed + length);
         x = packed + length;
     }
+    if (FftGivesSpectrum(plan)) return FftSpectrum(plan, x, shift, packed);
     if (const Status failure = FftReal(plan, x, packed, 1, 1, length)) return failure;
     (shift ? kSpectrumLoops().expandShifted : kSpectrumLoops().expand)(out, length);
     return 0;

@@ -184,7 +184,7 @@ TEST(FftEngine, APlanOfAnotherSizeIsRefusedByTheCores) {
 }
 
 TEST(FftEngine, EveryLayoutOfInputAndOutputGivesTheSameTransform) {
-    for (int n : {7, 16, 23, 46, 53, 60, 96, 106, 109, 227, 360, 1000}) {
+    for (int n : {7, 16, 23, 32, 46, 53, 60, 64, 96, 106, 109, 227, 360, 1000}) {
         const Records x = RandomRecords(n, n);
         const HeldPlan plan(n);
         const std::vector<Wide> spectrum = Dft(x);

@@ -34,7 +34,8 @@ TEST(RealFft, IsTheDefiningSumOfEveryLengthInBothOrdersOnEveryInstructionSet) {
 
 TEST(RealFft, IsHermitianToTheLastBitAndRealAtZeroAndHalf) {
     ForEachTarget([] {
-        for (int n : {1, 2, 3, 4, 5, 8, 9, 16, 17, 31, 32, 33, 34, 35, 36, 53, 64, 100, 101}) {
+        for (int n : {1,  2,  3,  4,  5,  8,  9,   10,  14,  16,  17,  18,  20,  31,  32,   33,   34,   35,
+                      36, 53, 56, 60, 64, 96, 100, 101, 106, 128, 252, 256, 360, 512, 1000, 1024, 2018, 4096}) {
             const Reals x = RandomReals(n, 3);
             Records natural = RecordOutput(n), shifted = RecordOutput(n);
             ASSERT_EQ(ZemFunc262(x, n, n, nullptr, 0, natural), 0);
@@ -80,6 +81,57 @@ TEST(RealFft, PadsWithZerosAndCuts) {
             ExpectSpectrum(ReferenceDft(x, length), out, shift != 0, Rounding(length, Norm(x)));
         }
     }
+}
+
+TEST(RealFft, OfPaddedSamplesIsThatOfWrittenZerosToTheLastBit) {
+    ForEachTarget([] {
+        for (int length : {8, 16, 21, 60, 64, 106, 128, 1000, 1024}) {
+            Reals x = RandomReals(5, length), padded(length);
+            std::copy(x.begin(), x.end(), padded.begin());
+            for (int shift : {0, 1}) {
+                Records out = RecordOutput(length), expected = RecordOutput(length);
+                ASSERT_EQ(ZemFunc262(x, 5, length, nullptr, shift, out), 0);
+                ASSERT_EQ(ZemFunc262(padded, length, 0, nullptr, shift, expected), 0);
+                for (int k = 0; k < length; ++k) {
+                    ASSERT_EQ(out[k].re, expected[k].re) << length;
+                    ASSERT_EQ(out[k].im, expected[k].im) << length;
+                }
+            }
+        }
+    });
+}
+
+TEST(RealFft, ReachesTheLargestValuesWithoutOverflow) {
+    // An impulse has bins of its own magnitude. Twice of it would be infinite; the square root of 2 times it, which the
+    // rotations of the kernels form, is not.
+    const double large = 1e308;
+    ForEachTarget([&] {
+        for (int n : {2, 8, 16, 60, 64, 100, 128, 256, 1000, 1024})
+            for (int at : {0, 1}) {
+                Reals x(n);
+                x[at] = large;
+                Records out = RecordOutput(n);
+                ASSERT_EQ(ZemFunc262(x, n, 0, nullptr, 0, out), 0);
+                for (int k = 0; k < n; ++k)
+                    EXPECT_LE(Distance(std::conj(Root(k * at, n)), {out[k].re / large, out[k].im / large}),
+                              Rounding(n, 1))
+                        << n << " bin " << k;
+            }
+    });
+}
+
+TEST(RealFft, HasNoImaginaryPartAtZeroAndHalfEvenOfInfinities) {
+    ForEachTarget([] {
+        for (int n : {2, 10, 16, 32, 60, 64, 96, 100, 1024}) {
+            Reals x = RandomReals(n, 8);
+            x[n / 3] = HUGE_VAL;
+            x[n - 1] = -HUGE_VAL;
+            Records out = RecordOutput(n);
+            ASSERT_EQ(ZemFunc262(x, n, 0, nullptr, 0, out), 0);
+            EXPECT_EQ(out[0].im, 0) << n;
+            EXPECT_EQ(out[n / 2].im, 0) << n;
+        }
+    });
 }
 
 TEST(RealFft, LengthBelowOneMeansTheInputsLength) {

@@ -1,4 +1,4 @@
-// The four entries of a kernel size, written once over the cores of a size and the widths of the instruction set.
+// The entries of a kernel size, written once over the cores of a size and the widths of the instruction set.
 //
 // A leaf runs over adjacent transforms, a stage over adjacent columns: a block of them fills the lanes of one vector
 // per element. Whole blocks in the usual layouts go from memory through the registers to memory; all other blocks
@@ -8,12 +8,11 @@
 #include "transforms/fft_plan_record.h"
 #include "transforms/kernels/kernels.h"
 #include "transforms/kernels/lanes.h"
+#include "transforms/kernels/lone_leaf.h"
+#include "transforms/kernels/spectrum.h"
 
 namespace quorvan::QV_TARGET {
 namespace {
-
-// Records: adjacent elements are adjacent (re, im) pairs. Packed: adjacent doubles.
-QV_INLINE bool AreRecords(const double* re, const double* im, Size stride) { return im == re + 1 && stride == 2; }
 
 template <class D, int W>
 struct BlockOf {
@@ -150,15 +149,6 @@ struct BlockOf {
 
     // --- stages -----------------------------------------------------------------------------------------------------
 
-    // (re, im) times the twiddle of row k, from the block's table.
-    QV_INLINE static void Twiddle(const double* table, int k, V& re, V& im) {
-        if (k == 0) return;
-        const V c = L::Load(table + 2 * W * (k - 1)), s = L::Load(table + 2 * W * (k - 1) + W);
-        const V turned = re * c - im * s;
-        im = re * s + im * c;
-        re = turned;
-    }
-
     QV_INLINE static void ComplexStage(double* re, double* im, Size stride, Size m, int count, const double* table,
                                        const FftStage& stage) {
         const bool records = AreRecords(re, im, stride);
@@ -167,25 +157,26 @@ struct BlockOf {
                 stage,
                 [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
                     L::LoadRecords(re + k * 2 * m, x, y);
-                    Twiddle(table, k, x, y);
+                    if (k > 0) Twiddle<W>(table, k, x, y);
                 },
                 [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, x, y); });
             return;
         }
+        const typename L::Records columns = L::RecordsIn({0, count});
         if (kDirect && records && W > 2) {
             D::template Complex<V>(
                 stage,
                 [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
-                    L::LoadRecords(re + k * 2 * m, count, x, y);
-                    Twiddle(table, k, x, y);
+                    L::LoadRecords(re + k * 2 * m, columns, x, y);
+                    if (k > 0) Twiddle<W>(table, k, x, y);
                 },
-                [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, count, x, y); });
+                [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, columns, x, y); });
             return;
         }
         Buffer in, out;
         for (int k = 0; k < f; ++k) {
             if (records) {
-                L::LoadRecords(re + k * 2 * m, count, in.re[k], in.im[k]);
+                L::LoadRecords(re + k * 2 * m, columns, in.re[k], in.im[k]);
             } else {
                 in.re[k] = in.im[k] = V{};
                 for (int lane = 0; lane < W; ++lane) {
@@ -195,12 +186,12 @@ struct BlockOf {
                     in.ImLanes(k)[lane] = im[(k * m + column) * stride];
                 }
             }
-            Twiddle(table, k, in.re[k], in.im[k]);
+            if (k > 0) Twiddle<W>(table, k, in.re[k], in.im[k]);
         }
         ComplexBuffered(stage, in, out);
         for (int k = 0; k < f; ++k) {
             if (records) {
-                L::StoreRecords(re + k * 2 * m, count, out.re[k], out.im[k]);
+                L::StoreRecords(re + k * 2 * m, columns, out.re[k], out.im[k]);
                 continue;
             }
             for (int lane = 0; lane < W; ++lane) {
@@ -221,7 +212,7 @@ struct BlockOf {
             [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
                 re = L::ToLanes(L::Load(data + k * m + j));
                 im = L::ToLanesReversed(L::Load(data + (k + 1) * m - j - (W - 1)));
-                Twiddle(table, k, re, im);
+                if (k > 0) Twiddle<W>(table, k, re, im);
             },
             [&](int k, V re, V im) QV_INLINE_LAMBDA {
                 L::Store(data + k * m + j, L::FromLanes(k < kHalf ? re : -im));
@@ -249,7 +240,7 @@ struct BlockOf {
                 [&](int k, V& re, V& im) QV_INLINE_LAMBDA {
                     re = L::ToLanes(L::Load(data + (k * m + j), all));
                     im = L::ToLanesReversed(L::Load(data + ((k + 1) * m - j - (W - 1)), paired.Mirror(W)));
-                    Twiddle(table, k, re, im);
+                    if (k > 0) Twiddle<W>(table, k, re, im);
                 },
                 [&](int k, V re, V im) QV_INLINE_LAMBDA {
                     L::Store(data + (k * m + j), rising(k), L::FromLanes(k < kHalf ? re : -im));
@@ -266,7 +257,7 @@ struct BlockOf {
                 if (all.Has(column)) in.ReLanes(k)[lane] = data[(k * m + j + column) * stride];
                 if (paired.Has(column)) in.ImLanes(k)[lane] = data[((k + 1) * m - j - column) * stride];
             }
-            Twiddle(table, k, in.re[k], in.im[k]);
+            if (k > 0) Twiddle<W>(table, k, in.re[k], in.im[k]);
         }
         ComplexBuffered(stage, in, out);
         for (int k = 0; k < f; ++k) {
@@ -306,6 +297,13 @@ struct PairsOf {
         if (BlockOf<D, W>::kDirect && count == kGroup) {
             D::template Real<V>(
                 stage, [&](int k) QV_INLINE_LAMBDA { return L::Load(in + k * elementStride); }, take);
+        } else if (BlockOf<D, W>::kDirect && W > 2 && f < 32) {
+            D::template Real<V>(
+                stage,
+                [&](int k) QV_INLINE_LAMBDA {
+                    return L::Load(in + k * elementStride, {0, 2 * count});
+                },
+                take);
         } else {
             V x[f];
             typename BlockOf<D, W>::Buffer spectrum;
@@ -428,7 +426,17 @@ void RealStage(double* data, Size stride, Count m, const FftStage& stage) {
 }
 
 template <class D>
-inline constexpr FftKernel kEntries = {ComplexLeaf<D>, ComplexStage<D>, RealLeaf<D>, RealStage<D>};
+constexpr FftKernel EntriesOf() {
+    FftKernel kernel = {ComplexLeaf<D>, ComplexStage<D>, RealLeaf<D>, RealStage<D>, nullptr, nullptr, nullptr};
+    if constexpr (kMaxWidth == 8 && D::kSize == 32) kernel.loneLeaf = LoneLeafOf32;
+    if constexpr (D::kSize % 2 == 0) {
+        kernel.spectrumLeaf = SpectrumLeaf<D>;
+        kernel.spectrumStage = SpectrumStage<D>;
+    }
+    return kernel;
+}
+template <class D>
+inline constexpr FftKernel kEntries = EntriesOf<D>();
 
 }  // namespace
 }  // namespace quorvan::QV_TARGET

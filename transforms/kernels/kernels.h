@@ -22,11 +22,21 @@ using RealLeafKernel = void (*)(const double* in, double* out, Size inStride, Si
                                 Size elementStride, const Count* positions, const FftStage& stage);
 using RealStageKernel = void (*)(double* data, Size stride, Count m, const FftStage& stage);
 
+// Reals into all n bins, as records: the first n / 2 of them from `low` on, the others from `high`. A transform of one
+// factor at once; one of more as the last stage, from the transforms of length m of the n / 2 records of adjacent
+// reals, which may stand where one of the halves goes to. Null for odd factors.
+using SpectrumLeafKernel = void (*)(const double* x, double* low, double* high, const FftStage& stage);
+using SpectrumStageKernel = void (*)(const double* z, double* low, double* high, Count m, const FftStage& stage);
+
 struct FftKernel {
     ComplexLeafKernel leaf;
     ComplexStageKernel stage;
     RealLeafKernel realLeaf;
     RealStageKernel realStage;
+    // A leaf for the plans that have one leaf transform only, at position 0; null where there is no better one.
+    ComplexLeafKernel loneLeaf;
+    SpectrumLeafKernel spectrumLeaf;
+    SpectrumStageKernel spectrumStage;
 };
 
 // The kernels of one instruction set.

@@ -4,7 +4,8 @@
 // order that a single unpack leaves, column (lane % 2) * W/2 + lane / 2, so that taking records apart and putting them
 // together costs one shuffle a vector. Split and real data, which stand in natural order, pay one permutation instead.
 //
-// Operations on a range of lanes touch no memory outside it.
+// Operations on a range of lanes, or on the Records of a range of columns, touch no memory outside it. Backwards: the
+// last record in memory belongs to column 0.
 #pragma once
 
 #include "frame/targets.h"
@@ -18,6 +19,9 @@
 
 namespace quorvan::QV_TARGET {
 namespace {
+
+// Adjacent elements are adjacent (re, im) pairs.
+QV_INLINE bool AreRecords(const double* re, const double* im, Size stride) { return im == re + 1 && stride == 2; }
 
 template <int W>
 struct Lanes;
@@ -35,10 +39,27 @@ template <>
 struct Lanes<1> {
     using V = double;
 
+    using Records = bool;
+    QV_INLINE static Records RecordsIn(LaneRange r) { return r.Has(0); }
+
     QV_INLINE static void LoadRecords(const double* p, V& re, V& im) { re = p[0], im = p[1]; }
-    QV_INLINE static void LoadRecords(const double* p, int, V& re, V& im) { re = p[0], im = p[1]; }
+    QV_INLINE static void LoadRecords(const double* p, Records records, V& re, V& im) {
+        re = im = 0;
+        if (records) LoadRecords(p, re, im);
+    }
+    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) { LoadRecords(p, re, im); }
+    QV_INLINE static void LoadBackwards(const double* p, Records records, V& re, V& im) {
+        LoadRecords(p, records, re, im);
+    }
     QV_INLINE static void StoreRecords(double* p, V re, V im) { p[0] = re, p[1] = im; }
-    QV_INLINE static void StoreRecords(double* p, int, V re, V im) { p[0] = re, p[1] = im; }
+    QV_INLINE static void StoreRecords(double* p, Records records, V re, V im) {
+        if (records) StoreRecords(p, re, im);
+    }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, V re, V im) { StoreRecords(p, re, -im); }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, Records records, V re, V im) {
+        StoreRecords(p, records, re, -im);
+    }
+    QV_INLINE static V WithFirstOf(V, V first) { return first; }
     QV_INLINE static V Load(const double* p) { return *p; }
     QV_INLINE static V Load(const double* p, LaneRange r) { return r.first < r.last ? *p : 0.0; }
     QV_INLINE static void Store(double* p, V v) { *p = v; }
@@ -58,24 +79,49 @@ template <>
 struct Lanes<2> {
     using V = __m128d;
 
+    struct Records {
+        bool first, second;
+    };
+    QV_INLINE static Records RecordsIn(LaneRange r) { return {r.Has(0), r.Has(1)}; }
+
     QV_INLINE static void LoadRecords(const double* p, V& re, V& im) {
         const V a = _mm_loadu_pd(p), b = _mm_loadu_pd(p + 2);
         re = _mm_unpacklo_pd(a, b);
         im = _mm_unpackhi_pd(a, b);
     }
-    QV_INLINE static void LoadRecords(const double* p, int count, V& re, V& im) {
-        const V a = _mm_loadu_pd(p), b = count > 1 ? _mm_loadu_pd(p + 2) : V{};
+    QV_INLINE static void LoadRecords(const double* p, Records r, V& re, V& im) {
+        const V a = r.first ? _mm_loadu_pd(p) : V{}, b = r.second ? _mm_loadu_pd(p + 2) : V{};
         re = _mm_unpacklo_pd(a, b);
         im = _mm_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) {
+        const V a = _mm_loadu_pd(p), b = _mm_loadu_pd(p + 2);
+        re = _mm_unpacklo_pd(b, a);
+        im = _mm_unpackhi_pd(b, a);
+    }
+    QV_INLINE static void LoadBackwards(const double* p, Records r, V& re, V& im) {
+        const V a = r.second ? _mm_loadu_pd(p) : V{}, b = r.first ? _mm_loadu_pd(p + 2) : V{};
+        re = _mm_unpacklo_pd(b, a);
+        im = _mm_unpackhi_pd(b, a);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) {
         _mm_storeu_pd(p, _mm_unpacklo_pd(re, im));
         _mm_storeu_pd(p + 2, _mm_unpackhi_pd(re, im));
     }
-    QV_INLINE static void StoreRecords(double* p, int count, V re, V im) {
-        _mm_storeu_pd(p, _mm_unpacklo_pd(re, im));
-        if (count > 1) _mm_storeu_pd(p + 2, _mm_unpackhi_pd(re, im));
+    QV_INLINE static void StoreRecords(double* p, Records r, V re, V im) {
+        if (r.first) _mm_storeu_pd(p, _mm_unpacklo_pd(re, im));
+        if (r.second) _mm_storeu_pd(p + 2, _mm_unpackhi_pd(re, im));
     }
+    QV_INLINE static V Conjugate(V record) { return _mm_xor_pd(record, _mm_set_pd(-0.0, 0.0)); }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, V re, V im) {
+        _mm_storeu_pd(p, Conjugate(_mm_unpackhi_pd(re, im)));
+        _mm_storeu_pd(p + 2, Conjugate(_mm_unpacklo_pd(re, im)));
+    }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, Records r, V re, V im) {
+        if (r.second) _mm_storeu_pd(p, Conjugate(_mm_unpackhi_pd(re, im)));
+        if (r.first) _mm_storeu_pd(p + 2, Conjugate(_mm_unpacklo_pd(re, im)));
+    }
+    QV_INLINE static V WithFirstOf(V v, V first) { return _mm_move_sd(v, first); }
     QV_INLINE static V Load(const double* p) { return _mm_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) {
         return _mm_set_pd(r.last > 1 ? p[1] : 0.0, r.first < 1 ? p[0] : 0.0);
@@ -120,19 +166,51 @@ struct Lanes<4> {
         re = _mm256_unpacklo_pd(a, b);
         im = _mm256_unpackhi_pd(a, b);
     }
-    QV_INLINE static void LoadRecords(const double* p, int count, V& re, V& im) {
-        const V a = _mm256_maskload_pd(p, Mask(0, 2 * count)), b = _mm256_maskload_pd(p + 4, Mask(0, 2 * count - 4));
+    struct Records {
+        __m256i a, b, backA, backB;
+    };
+    QV_INLINE static Records RecordsIn(LaneRange r) {
+        const LaneRange back = r.Mirror(4);
+        return {Mask(2 * r.first, 2 * r.last), Mask(2 * r.first - 4, 2 * r.last - 4),
+                Mask(2 * back.first, 2 * back.last), Mask(2 * back.first - 4, 2 * back.last - 4)};
+    }
+    QV_INLINE static void LoadRecords(const double* p, Records records, V& re, V& im) {
+        const V a = _mm256_maskload_pd(p, records.a), b = _mm256_maskload_pd(p + 4, records.b);
         re = _mm256_unpacklo_pd(a, b);
         im = _mm256_unpackhi_pd(a, b);
+    }
+    QV_INLINE static V ReversedRecords(V v) { return _mm256_permute2f128_pd(v, v, 0x01); }
+    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) {
+        const V a = ReversedRecords(_mm256_loadu_pd(p)), b = ReversedRecords(_mm256_loadu_pd(p + 4));
+        re = _mm256_unpacklo_pd(b, a);
+        im = _mm256_unpackhi_pd(b, a);
+    }
+    QV_INLINE static void LoadBackwards(const double* p, Records records, V& re, V& im) {
+        const V a = ReversedRecords(_mm256_maskload_pd(p, records.backA));
+        const V b = ReversedRecords(_mm256_maskload_pd(p + 4, records.backB));
+        re = _mm256_unpacklo_pd(b, a);
+        im = _mm256_unpackhi_pd(b, a);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) {
         _mm256_storeu_pd(p, _mm256_unpacklo_pd(re, im));
         _mm256_storeu_pd(p + 4, _mm256_unpackhi_pd(re, im));
     }
-    QV_INLINE static void StoreRecords(double* p, int count, V re, V im) {
-        _mm256_maskstore_pd(p, Mask(0, 2 * count), _mm256_unpacklo_pd(re, im));
-        _mm256_maskstore_pd(p + 4, Mask(0, 2 * count - 4), _mm256_unpackhi_pd(re, im));
+    QV_INLINE static void StoreRecords(double* p, Records records, V re, V im) {
+        _mm256_maskstore_pd(p, records.a, _mm256_unpacklo_pd(re, im));
+        _mm256_maskstore_pd(p + 4, records.b, _mm256_unpackhi_pd(re, im));
     }
+    QV_INLINE static V ConjugatesBackwards(V v) {
+        return _mm256_xor_pd(ReversedRecords(v), _mm256_set_pd(-0.0, 0.0, -0.0, 0.0));
+    }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, V re, V im) {
+        _mm256_storeu_pd(p, ConjugatesBackwards(_mm256_unpackhi_pd(re, im)));
+        _mm256_storeu_pd(p + 4, ConjugatesBackwards(_mm256_unpacklo_pd(re, im)));
+    }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, Records records, V re, V im) {
+        _mm256_maskstore_pd(p, records.backA, ConjugatesBackwards(_mm256_unpackhi_pd(re, im)));
+        _mm256_maskstore_pd(p + 4, records.backB, ConjugatesBackwards(_mm256_unpacklo_pd(re, im)));
+    }
+    QV_INLINE static V WithFirstOf(V v, V first) { return _mm256_blend_pd(v, first, 1); }
     QV_INLINE static V Load(const double* p) { return _mm256_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) { return _mm256_maskload_pd(p, Mask(r.first, r.last)); }
     QV_INLINE static void Store(double* p, V v) { _mm256_storeu_pd(p, v); }
@@ -175,25 +253,57 @@ struct Lanes<8> {
         const unsigned below = last <= 0 ? 0u : last >= 8 ? 0xFFu : (1u << last) - 1;
         return static_cast<__mmask8>(below & (0xFFu << first));
     }
+    struct Records {
+        __mmask8 a, b, backA, backB;
+    };
+    QV_INLINE static Records RecordsIn(LaneRange r) {
+        const auto lanes = [](LaneRange r) QV_INLINE_LAMBDA { return (1u << 2 * r.last) - (1u << 2 * r.first); };
+        const unsigned up = lanes(r), back = lanes(r.Mirror(8));
+        return {static_cast<__mmask8>(up), static_cast<__mmask8>(up >> 8), static_cast<__mmask8>(back),
+                static_cast<__mmask8>(back >> 8)};
+    }
     QV_INLINE static void LoadRecords(const double* p, V& re, V& im) {
         const V a = _mm512_loadu_pd(p), b = _mm512_loadu_pd(p + 8);
         re = _mm512_unpacklo_pd(a, b);
         im = _mm512_unpackhi_pd(a, b);
     }
-    QV_INLINE static void LoadRecords(const double* p, int count, V& re, V& im) {
-        const V a = _mm512_maskz_loadu_pd(Mask(0, 2 * count), p);
-        const V b = _mm512_maskz_loadu_pd(Mask(0, 2 * count - 8), p + 8);
+    QV_INLINE static void LoadRecords(const double* p, Records records, V& re, V& im) {
+        const V a = _mm512_maskz_loadu_pd(records.a, p), b = _mm512_maskz_loadu_pd(records.b, p + 8);
         re = _mm512_unpacklo_pd(a, b);
         im = _mm512_unpackhi_pd(a, b);
+    }
+    QV_INLINE static V ReversedRecords(V v) { return _mm512_shuffle_f64x2(v, v, 0b00'01'10'11); }
+    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) {
+        const V a = ReversedRecords(_mm512_loadu_pd(p)), b = ReversedRecords(_mm512_loadu_pd(p + 8));
+        re = _mm512_unpacklo_pd(b, a);
+        im = _mm512_unpackhi_pd(b, a);
+    }
+    QV_INLINE static void LoadBackwards(const double* p, Records records, V& re, V& im) {
+        const V a = ReversedRecords(_mm512_maskz_loadu_pd(records.backA, p));
+        const V b = ReversedRecords(_mm512_maskz_loadu_pd(records.backB, p + 8));
+        re = _mm512_unpacklo_pd(b, a);
+        im = _mm512_unpackhi_pd(b, a);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) {
         _mm512_storeu_pd(p, _mm512_unpacklo_pd(re, im));
         _mm512_storeu_pd(p + 8, _mm512_unpackhi_pd(re, im));
     }
-    QV_INLINE static void StoreRecords(double* p, int count, V re, V im) {
-        _mm512_mask_storeu_pd(p, Mask(0, 2 * count), _mm512_unpacklo_pd(re, im));
-        _mm512_mask_storeu_pd(p + 8, Mask(0, 2 * count - 8), _mm512_unpackhi_pd(re, im));
+    QV_INLINE static void StoreRecords(double* p, Records records, V re, V im) {
+        _mm512_mask_storeu_pd(p, records.a, _mm512_unpacklo_pd(re, im));
+        _mm512_mask_storeu_pd(p + 8, records.b, _mm512_unpackhi_pd(re, im));
     }
+    QV_INLINE static V ConjugatesBackwards(V v) {
+        return _mm512_xor_pd(ReversedRecords(v), _mm512_set_pd(-0.0, 0.0, -0.0, 0.0, -0.0, 0.0, -0.0, 0.0));
+    }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, V re, V im) {
+        _mm512_storeu_pd(p, ConjugatesBackwards(_mm512_unpackhi_pd(re, im)));
+        _mm512_storeu_pd(p + 8, ConjugatesBackwards(_mm512_unpacklo_pd(re, im)));
+    }
+    QV_INLINE static void StoreConjugatesBackwards(double* p, Records records, V re, V im) {
+        _mm512_mask_storeu_pd(p, records.backA, ConjugatesBackwards(_mm512_unpackhi_pd(re, im)));
+        _mm512_mask_storeu_pd(p + 8, records.backB, ConjugatesBackwards(_mm512_unpacklo_pd(re, im)));
+    }
+    QV_INLINE static V WithFirstOf(V v, V first) { return _mm512_mask_mov_pd(v, 1, first); }
     QV_INLINE static V Load(const double* p) { return _mm512_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) { return _mm512_maskz_loadu_pd(Mask(r.first, r.last), p); }
     QV_INLINE static void Store(double* p, V v) { _mm512_storeu_pd(p, v); }
@@ -251,6 +361,16 @@ constexpr Count BlockWidth(Count left) {
     if (kMaxWidth == 8 && left > 4) return 8;
     if (kMaxWidth >= 4 && left > 2) return 4;
     return kMaxWidth >= 2 && left > 1 ? 2 : 1;
+}
+
+// (re, im) times the twiddle of row k > 0, from the table of a block of W columns.
+template <int W>
+QV_INLINE void Twiddle(const double* table, int k, typename Lanes<W>::V& re, typename Lanes<W>::V& im) {
+    using L = Lanes<W>;
+    const auto c = L::Load(table + 2 * W * (k - 1)), s = L::Load(table + 2 * W * (k - 1) + W);
+    const auto turned = re * c - im * s;
+    im = re * s + im * c;
+    re = turned;
 }
 
 // Calls body.template operator()<W>() with the W that BlockWidth gives.
