@@ -65,8 +65,8 @@ def bands(qv, model, x, y, w, kind, level, c, base):
     f, rows = np.array(f), np.array(rows)
     u = np.ones(n) if w is None else np.abs(w)
     signed = model == "line" and kind == 0 and w is not None
-    inverse = np.zeros((p, p))
-    assert qv.ZemFunc200(np.ascontiguousarray(rows.T @ (rows * (w if signed else u)[:, None])), p, p, -1.0, inverse) == 0
+    information, inverse = rows.T @ (rows * (w if signed else u)[:, None]), np.zeros((p, p))
+    assert qv.ZemFunc200(np.ascontiguousarray(information), p, p, -1.0, inverse) == 0
     variance = np.sum(u * (f - y) ** 2) / (n - p)
     t = np.zeros(1)
     assert qv.ZemFunc107(1 - (1 - level) / 2, n - p, t) == 0
@@ -86,7 +86,7 @@ def call(qv, model, x, y, w, n, base, kind, level, c, upper, lower, half):
 @pytest.mark.parametrize("model", NUMBERS)
 def test_faults_of_bounds_in_their_order(qv, model):
     rng, seen = np.random.default_rng(1), set()
-    for round in range(3000):
+    for round in range(1500):
         n = int(rng.choice([3, 4, 6]))
         x, y, c = rng.uniform(0.3, 4, n), rng.standard_normal(n), list(COEFFICIENTS[model])
         w = rng.uniform(0.3, 3, n) if rng.random() < 0.5 else None
@@ -144,9 +144,10 @@ def test_bands(qv, model, kind, n):
         up, low, wide, f = bands(qv, model, x, y, w, kind, level, c, base)
         # Sums in another order, inverted: condition below 1e4 save for signs that cancel, where an entry is compared
         # beside the largest one.
-        scale = 1 + max((np.abs(v[np.isfinite(v)]).max(initial=0) for v in (up, low)), default=0)
-        assert np.array_equal(np.isnan(upper.array), np.isnan(up)) and np.array_equal(np.isinf(upper.array), np.isinf(up))
         sound = np.isfinite(up)
+        scale = 1 + max(np.abs(up[sound]).max(initial=0), np.abs(low[sound]).max(initial=0))
+        assert np.array_equal(np.isnan(upper.array), np.isnan(up))
+        assert np.array_equal(np.isinf(upper.array), np.isinf(up))
         assert np.abs(upper.array[sound] - up[sound]).max(initial=0) <= 1e-8 * scale
         assert np.abs(lower.array[sound] - low[sound]).max(initial=0) <= 1e-8 * scale
         assert np.all(lower.array[np.isinf(up)] == -math.inf)
@@ -179,7 +180,7 @@ def test_of_a_perfect_fit_both_bands_are_the_curve_to_the_last_bit(qv, model, ki
 @pytest.mark.parametrize("kind", [0, 1])
 def test_an_information_matrix_that_is_not_finite_is_refused(qv, model, kind):
     rng, seen = np.random.default_rng(4), set()
-    for round in range(600):
+    for round in range(400):
         n, c = 6, COEFFICIENTS[model]
         x = rng.uniform(0.3, 4, n)
         x[rng.integers(n)] = rng.choice(SPECIAL)
@@ -286,13 +287,14 @@ def out_of_range(x, y, n, mode, limits, count, capacity):
 @pytest.mark.parametrize("seed", range(6))
 def test_removal_out_of_range(qv, seed):
     rng, seen = np.random.default_rng(seed), set()
-    for round in range(600):
+    for round in range(400):
         n = int(rng.choice([1, 2, 5, 20]))
         x, y, w = (Guarded(numbers(rng, n, rng.choice(KINDS))) for _ in range(3))
         limits = rng.choice([-3.0, 3.0, -1.0, 1.0, 0.0, -0.0, -math.inf, math.inf, -4.0, 4.0], 5)
         if rng.random() < 0.2:
             limits[rng.integers(5)] = math.nan
-        mode, count = int(rng.choice([0, 0, 1, 1, 2, 2, 3, 2**32 - 1])), int(rng.choice([-1, 0, 1, 2, 3, 4, 4, 5, 5, 5]))
+        mode = int(rng.choice([0, 0, 1, 1, 2, 2, 3, 2**32 - 1]))
+        count = int(rng.choice([-1, 0, 1, 2, 3, 4, 4, 5, 5, 5]))
         size = n if rng.random() < 0.9 else int(rng.choice([0, -1, -5, -2**31]))
         capacity = int(rng.choice([n, n, n, n // 2, 0, -1, -2**31]))
         weighted = rng.random() < 0.7
@@ -356,7 +358,8 @@ def test_removal_by_index(qv, seed):
                 status = -20046
         seen.add(status)
         word, places = Guarded(np.array([size]), np.int64), Guarded(indices, np.int64)
-        assert qv.ZemFunc296(x.array, y.array, w.array if weighted else None, word.array, places.array, count) == status
+        weights = w.array if weighted else None
+        assert qv.ZemFunc296(x.array, y.array, weights, word.array, places.array, count) == status
         places.untouched()
         if status:
             [a.untouched() for a in (x, y, w, word)]
