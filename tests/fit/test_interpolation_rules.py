@@ -238,14 +238,15 @@ def test_smoothing_spline(qv, n, seed):
         place, out = Guarded(y), unwritten(n)
         assert qv.ZemFunc285(x, place.array, w, n, p, smoothness, out.array) == status
         place.untouched()
+        given = Guarded(y)
+        assert qv.ZemFunc285(x, given.array, w, n, p, smoothness, given.array) == status
         assert qv.ZemFunc285(x, place.array, w, n, p, smoothness, None) == status
-        place.kept()
         if expected is None:
-            out.untouched()
-            place.untouched()
+            [a.untouched() for a in (out, place, given)]
             continue
-        out.kept()
+        [a.kept() for a in (out, place, given)]
         equal_numbers(place.array, out.array)
+        equal_numbers(given.array, out.array)
         if p == 1:
             equal_numbers(out.array, y)
         else:
