@@ -173,3 +173,41 @@ def test_crossings_of_several_channels(qv, seed):
         assert qv.ZemFunc420(x, channels, n, *rest, reset, indices, found) == 0
         assert list(zip(indices, found)) == expected
         reset = int(rng.random() < 0.1)
+
+
+def stays_inside(model, n, average):
+    """Whether the samples that the next step names lie in the block, and no more are pending than make a block: after a
+    change of mode neither need hold."""
+    if model.pending > model.factor:
+        return False
+    if not average or not model.pending:
+        return True
+    c = (model.pending + n) // model.factor
+    return c < 1 or model.offset + (c - 1) * model.factor <= n
+
+
+@pytest.mark.parametrize("number,dtype", [(417, float), (418, complex)])
+@pytest.mark.parametrize("seed", range(8))
+def test_decimation_by_blocks_while_the_mode_changes(qv, number, dtype, seed):
+    rng, export = np.random.default_rng((9, seed)), getattr(qv, f"ZemFunc{number}")
+    model, switched, average = Decimation(1 if dtype is float else 2), 0, 0
+    for call in range(600):
+        n = int(rng.choice([1, 2, 3, 5, 8, 20, 60]))
+        before, average = average, int(rng.integers(2))
+        reset = int(call == 0 or rng.random() < 0.03 or model.offset < 0 or not stays_inside(model, n, average))
+        # The greatest factors and offsets that fit: what stays in the state must not wrap.
+        factor = int(rng.choice([1, 2, 3, 4, 7, 30, 2**31 - 1, 2**31 - 61]))
+        offset = int(rng.choice([0, 0, 1, 2, 6, 31, 2**31 - 1, -2**31]))
+        switched += not reset and average != before
+        x = rng.standard_normal(n).astype(dtype)
+        if dtype is complex:
+            x += 1j * rng.standard_normal(n)
+        x[rng.random(n) < 0.02] = rng.choice([-0.0, 1e308, -1e308, 5e-324])
+        kept, count = x.copy(), np.array([-7], np.int64)
+        status, c, out = model.block(parts_of(x), factor, average, offset, reset)
+        assert export(x, n, factor, average, offset, reset, count) == status
+        assert count[0] == c
+        written = max(c, 0) if status == 0 else 0
+        assert parts_of(x)[:written] == out[:written]
+        assert np.array_equal(x[written:], kept[written:])
+    assert switched > 100
