@@ -485,3 +485,109 @@ def test_definiteness_compares_before_it_screens(qv, dtype):
         a.flat[place] = NAN
         call = Call(qv, number, a, 3, Out("flag", 2, np.uint32))
         assert call.status == 0 and call.outputs["flag"].array[0] == 0
+
+
+@TWINS
+def test_elements_next_to_the_limits_of_the_screen_are_accepted(qv, dtype):
+    for value in ACCEPTED:
+        for part in [value] + ([complex(0, value)] if dtype is complex else []):
+            a = np.array([part], dtype)
+            for kind in (0, 2, 3):
+                call = Call(qv, of(dtype, 204, 220), a, 1, kind, Out("determinant", 4, dtype))
+                assert call.status == 0 and call.outputs["determinant"].array[0] == part
+            for selector in (1, 3):
+                call = Call(qv, of(dtype, 206, 223), a, 1, 1, selector, Out("norm"))
+                assert call.status == 0
+                assert call.outputs["norm"].array[0] == (abs(value) if dtype is float else INF)  # |z| squares its parts
+            call = Call(qv, of(dtype, 118, 213), a.copy(), 1, None, Out("parity", 8, np.uint32))
+            assert call.status == 0
+
+
+@TWINS
+def test_singular_values_alone_take_any_mode(qv, dtype):
+    number, rng = of(dtype, 246, 247), np.random.default_rng(1)
+    for m, n in [(1, 1), (2, 3), (4, 2)]:
+        a = rng.standard_normal((m, n)).astype(dtype)
+        alone = Call(qv, of(dtype, 195, 216), a, m, n, Out("s", 64, dtype))
+        assert alone.status == 0
+        for mode in (-2**31, -1, 0, 1, 2, 2**31 - 1):
+            for u, v in [(None, None), (Out("u", 64, dtype), None), (None, Out("v", 64, dtype))]:
+                call = Call(qv, number, a, m, n, mode, u, Out("s", 64, dtype), v)
+                assert call.status == 0
+                call.wrote("s")
+                assert np.array_equal(call.outputs["s"].words, alone.outputs["s"].words)
+                call = Call(qv, number, a, 0, n, mode, u, Out("s", 64, dtype), v)
+                assert call.status == -20003
+                call.wrote()
+                call = Call(qv, number, matrix(n, dtype, NAN, m), m, n, mode, u, Out("s", 64, dtype), v)
+                assert call.status == -20068
+                call.wrote()
+
+
+@TWINS
+def test_factors_that_would_be_too_large_are_refused_where_they_are_wanted(qv, dtype):
+    m = 46341  # the least with more than 2^31 - 1 elements in its square
+    a, r = np.ones(m, dtype), np.zeros(m, dtype)
+    s, one = np.zeros(1, dtype), np.zeros(1, dtype)
+    u, q = Out("u", 64, dtype), Out("q", 64, dtype)
+    svd, pivot = of(dtype, 246, 247), of(dtype, 243, 245)
+    call = Call(qv, svd, a, m, 1, 0, u, Out("s", 64, dtype), Out("v", 64, dtype))
+    assert call.status == -20046
+    call.wrote()
+    call = Call(qv, svd, a, 1, m, 0, u, Out("s", 64, dtype), Out("v", 64, dtype))
+    assert call.status == -20046
+    call.wrote()
+    wide = np.zeros(m, dtype)
+    assert Call(qv, svd, a, m, 1, 1, wide, s, one).status == 0
+    assert Call(qv, svd, a, m, 1, 0, None, s, None).status == 0
+    for mode in (0, 1, 2):
+        call = Call(qv, pivot, a, m, 1, mode, 0, Out("p", 4, np.int64), q, Out("r", 64, dtype))
+        assert call.status == -20046
+        call.wrote()
+        assert Call(qv, pivot, a, m, 1, mode, 0, None, None, r).status == 0
+        assert Call(qv, pivot, a, m, 1, mode, 1, None, wide, r).status == 0
+    numbers = [(192, [k]) for k in range(3)] if dtype is float else [(228, [])]
+    for number, selection in numbers:
+        call = Call(qv, number, a, m, 1, *selection, q, Out("r", 64, dtype))
+        assert call.status == -20046
+        call.wrote()
+        assert Call(qv, number, a, m, 1, *selection, None, r).status == 0
+    call = Call(qv, pivot, a, 1, m, 2, 0, Out("p", 4, np.int64), q, Out("r", 64, dtype))
+    assert call.status == -20046
+    call.wrote()
+
+
+@TWINS
+def test_sizes_of_vector_products(qv, dtype):
+    a = np.ones(16, dtype)
+    outer, kronecker = of(dtype, 203, 224), of(dtype, 358, 359)
+    cases = [((x, y), -20003) for x in BELOW + [2] for y in BELOW + [2] if min(x, y) < 1]
+    cases += [(s, -20046) for n in TOO_LARGE for s in [(n, 0), (0, n), (2, n), (n, 2)]]
+    cases += [((65536, 32768), -20046), ((2**31 - 1, 2**31 - 1), -20046)]
+    for (x, y), status in cases:
+        call = Call(qv, outer, a, x, a, y, Out("out", 64, dtype))
+        assert call.status == status, (x, y)
+        call.wrote()
+        for sizes in [(x, 1, y, 1), (1, x, y, 1), (1, x, 1, y), (x, y, 1, 1), (1, 1, x, y), (x, y, 1, 2)]:
+            call = Call(qv, kronecker, a, a, *sizes, Out("out", 64, dtype))
+            assert call.status == status, sizes
+            call.wrote()
+    for sizes in [(256,) * 4, (2**15, 1, 2**15, 2), (1, 2**16, 1, 2**16), (2**31 - 1,) * 4, (2**16, 2**14, 2**16, 2**14)]:
+        call = Call(qv, kronecker, a, a, *sizes, Out("out", 64, dtype))
+        assert call.status == -20046, sizes
+        call.wrote()
+    for sizes in [(0, 2**31 - 1, 2**31 - 1, 2**31 - 1), (2**16, 2**16, -1, 1)]:
+        call = Call(qv, kronecker, a, a, *sizes, Out("out", 64, dtype))
+        assert call.status == -20003, sizes
+        call.wrote()
+    for n, status in [(k, -20003) for k in BELOW] + [(k, -20046) for k in TOO_LARGE]:
+        call = Call(qv, of(dtype, 191, 221), a, a, n, Out("dot", 4, dtype))
+        assert call.status == status
+        call.wrote()
+    for n, status in [((x, y), s) for (x, y), s in cases]:
+        for out in (Out("out", 64, dtype), None):
+            b = Guarded(np.ones(16, dtype), dtype)
+            call = Call(qv, of(dtype, 177, 217), b.array, *n, out)
+            assert call.status == status, n
+            call.wrote()
+            b.untouched()
