@@ -324,6 +324,12 @@ def test_solving_refuses_shape_size_kind_and_content_in_this_order(qv, dtype):
                             one = Call(qv, of(dtype, 197, 218), a, m, n, b, kind, Out("x", 64, dtype))
                             assert one.status == call.status, (m, n, kind, bad_a, bad_b)
                             one.wrote(*(["x"] if expected is None else []))
+    a, x = PLACE.astype(dtype), Out("x", 64, dtype)
+    for (m, n, count), status in [((65536, 32768, 0), -20003), ((-1, 65536, 32768), -20003), ((65536, 0, 32768), -20003),
+                                  ((65536, 32768, 1), -20046), ((1, 65536, 32768), -20046), ((65536, 1, 32768), -20046)]:
+        call = Call(qv, of(dtype, 241, 242), a, m, n, 0, a, count, x)
+        assert call.status == status, (m, n, count)
+        call.wrote()
     for n in TOO_LARGE:
         for kind in (0, 1, 2, 3, 4):
             a, x = PLACE.astype(dtype), Out("x", 64, dtype)
@@ -394,6 +400,14 @@ def test_products_refuse_in_this_order(qv, dtype):
         assert np.array_equal(out.array[:count], np.full(count, sizes[1], dtype)), sizes
         written = count * np.dtype(dtype).itemsize // 8
         assert np.array_equal(out.words[written:], out.first[written:])
+    for sizes in [(-1, 65536, 32768), (65536, -1, 32768), (65536, 32768, -1)]:
+        call = Call(qv, of(dtype, 119, 214), a, a, *sizes, Out("out", 64, dtype))
+        assert call.status == -20004, sizes
+        call.wrote()
+    for sizes in [(2, 65536, 32768), (65536, 2, 32768), (65536, 32768, 2), (0, 65536, 32768), (65536, 0, 32768)]:
+        call = Call(qv, of(dtype, 119, 214), a, a, *sizes, Out("out", 64, dtype))
+        assert call.status == -20046, sizes
+        call.wrote()
     for n in TOO_LARGE:
         for sizes in [(n, -1, 2), (-1, n, 2), (-1, 0, n), (0, 0, n), (n, 0, 0), (0, n, 0)]:
             call = Call(qv, of(dtype, 119, 214), a, a, *sizes, Out("out", 64, dtype))
