@@ -85,7 +85,6 @@ def of(dtype, real, cplx):
 # Rectangular ones: number, arguments between the sizes and the outputs, what is written before the checks.
 def rectangular(dtype):
     d = dtype
-    flag = {"int": np.int64}
     yield of(d, 195, 216), [], [Out("s", 64, d)], []
     yield of(d, 193, 219), [], [Out("u", 64, d), Out("s", 64, d), Out("v", 64, d)], []
     for mode in (0, 1):
@@ -94,11 +93,11 @@ def rectangular(dtype):
         yield of(d, 206, 223), [selector], [Out("norm")], ["norm"]
         yield of(d, 205, 222), [selector], [Out("condition")], ["condition"]
     for tolerance in (-1.0, 0.0, NAN):
-        yield of(d, 207, 215), [tolerance], [Out("rank", 64, flag["int"])], ["rank"]
+        yield of(d, 207, 215), [tolerance], [Out("rank", 64, np.int64)], ["rank"]
         yield of(d, 200, 229), [tolerance], [Out("pseudo", 64, d)], []
     for mode in (0, 1, 2):
         for economy in (0, 1):
-            yield (of(d, 243, 245), [mode, economy], [Out("p", 64, flag["int"]), Out("q", 64, d), Out("r", 64, d)], [])
+            yield (of(d, 243, 245), [mode, economy], [Out("p", 64, np.int64), Out("q", 64, d), Out("r", 64, d)], [])
     if d is float:
         for method in (0, 1, 2):
             yield 192, [method], [Out("q"), Out("r")], []
