@@ -1,4 +1,4 @@
-"""Substitution, quotients of pencils and the closed forms of short polynomials, in scalar arithmetic to the last bit."""
+"""Substitution, quotients of pencils and closed forms of short polynomials, in scalar arithmetic to the last bit."""
 
 import itertools
 import math
