@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "frame/entry.h"
+#include "linalg/matrix.h"
 #include "quorvan/quorvan.h"
 
 using namespace quorvan;
@@ -46,6 +47,7 @@ template <class T>
 Status QrPivot(T* a, Size m, Size n, std::uint32_t mode, std::uint32_t economy, Size* p, T* q, T* r) {
     return narrowed(m, n, [&](Count m, Count n) {
         if (m < 1 || n < 1) return status::kSamplesNotPositive;
+        if (p && mode == kOrderAsMatrix && !ElementsFit(n, n)) return status::kOverflow;
         const Block<Count> order(static_cast<std::size_t>(n));
         if (!order) return status::kOutOfMemory;
         const Status status = MatQrPivot(a, m, n, mode, economy != 0, order, q, r);

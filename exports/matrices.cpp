@@ -1,4 +1,6 @@
 // Entries of solving, inversion and the other operations on matrices.
+#include <algorithm>
+
 #include "frame/entry.h"
 #include "linalg/definiteness.h"
 #include "linalg/determinant.h"
@@ -24,10 +26,17 @@ Status WithSquare(Size n, const Body& body) {
     return WithMatrix(n, n, [&](Count n, Count) { return body(n); });
 }
 
+// Among several sizes one below the least that is allowed comes before an element count that does not fit.
+template <class... Counts>
+constexpr Count LeastOf(Counts... counts) {
+    return std::min({counts...});
+}
+
 template <class T>
 Status SolveMany(const T* a, Size m, Size n, std::uint32_t kind, const T* b, Size rhsCount, T* x) {
     return narrowed(m, n, rhsCount, [&](Count m, Count n, Count rhsCount) {
-        if (!ElementsFit(m, n) || !ElementsFit(m, rhsCount) || !ElementsFit(n, rhsCount)) return status::kOverflow;
+        const bool fits = ElementsFit(m, n) && ElementsFit(m, rhsCount) && ElementsFit(n, rhsCount);
+        if (!fits && LeastOf(m, n, rhsCount) >= 1) return status::kOverflow;
         return MatSolveMany(a, m, n, kind, b, rhsCount, x);
     });
 }
@@ -45,8 +54,8 @@ Status Rank(const T* a, Size m, Size n, double tolerance, Size* rank) {
 template <class T>
 Status Multiply(const T* a, const T* b, Size rowsA, Size colsA, Size colsB, T* out) {
     return narrowed(rowsA, colsA, colsB, [&](Count rowsA, Count colsA, Count colsB) {
-        if (!ElementsFit(rowsA, colsA) || !ElementsFit(colsA, colsB) || !ElementsFit(rowsA, colsB))
-            return status::kOverflow;
+        const bool fits = ElementsFit(rowsA, colsA) && ElementsFit(colsA, colsB) && ElementsFit(rowsA, colsB);
+        if (!fits && LeastOf(rowsA, colsA, colsB) >= 0) return status::kOverflow;
         const auto multiply = out == a || out == b ? MatMultiplyCopied<T> : MatMultiply<T>;
         return multiply(a, b, rowsA, colsA, colsB, out);
     });
@@ -57,7 +66,8 @@ Status Kronecker(const T* a, const T* b, Size rowsA, Size colsA, Size rowsB, Siz
     return narrowed(rowsA, colsA, rowsB, colsB, [&](Count rowsA, Count colsA, Count rowsB, Count colsB) {
         const bool fits = ElementsFit(rowsA, colsA) && ElementsFit(rowsB, colsB) &&
                           Elements(rowsA, colsA) * Elements(rowsB, colsB) <= INT32_MAX;
-        return fits ? MatKronecker(a, b, rowsA, colsA, rowsB, colsB, out) : status::kOverflow;
+        if (!fits && LeastOf(rowsA, colsA, rowsB, colsB) >= 1) return status::kOverflow;
+        return MatKronecker(a, b, rowsA, colsA, rowsB, colsB, out);
     });
 }
 

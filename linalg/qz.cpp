@@ -264,6 +264,7 @@ template <class T>
 Status MatEigenGeneralised(const T* a, const T* b, Count n, ComplexRecord* values, ComplexRecord* right,
                            ComplexRecord* left) noexcept {
     if (n < 1) return status::kSamplesNotPositive;
+    if (!ElementsFit(n, n)) return status::kOverflow;
     const Block<T> beta(static_cast<std::size_t>(n));
     if (!beta) return status::kOutOfMemory;
     const QzResults<T> results{nullptr, nullptr, nullptr, nullptr, values, beta, right, left};
