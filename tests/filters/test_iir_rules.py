@@ -103,7 +103,7 @@ def cascade(x, a, b, state, w):
 @pytest.mark.parametrize("w", [2, 4])
 def test_the_cascade_takes_its_steps_to_the_last_bit(qv, kind, w):
     rng = np.random.default_rng((KINDS.index(kind), w))
-    for _ in range(120):
+    for _ in range(70):
         S, n = int(rng.integers(1, 9)), int(rng.integers(1, 40))
         order = 2 * S - int(rng.integers(2))
         coefficients = rng.choice(["plain", kind])
@@ -141,7 +141,7 @@ def test_the_cascade_takes_its_steps_to_the_last_bit(qv, kind, w):
 def test_applying_checks_the_size_the_counts_and_the_samples_in_this_order(qv):
     rng = np.random.default_rng(1)
     seen = set()
-    for _ in range(4000):
+    for _ in range(2000):
         order = int(rng.integers(1, 8))
         S, w = (order + 1) >> 1, int(rng.choice([2, 4]))
         counts = [S * w, S * (w + 1), S * w]
@@ -331,7 +331,7 @@ def direct_form(a, b, w, L):
 
 def test_the_direct_form_checks_in_its_order_and_multiplies_in_the_order_of_the_stages(qv):
     rng, seen = np.random.default_rng(2), set()
-    for _ in range(3000):
+    for _ in range(1500):
         kind = int(rng.choice([0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3, 4, -1]))
         order = int(rng.choice([*range(1, 12), *range(1, 12), 0, -1, 2**31 - 1, -2**31]))
         S, w = (min(max(order, 1), 12) + 1) >> 1, width(kind % 4)
@@ -440,7 +440,7 @@ def one_shot(family, kind, order, design, levels, x):
 def test_real_one_shots_check_in_their_order_and_take_the_documented_steps(qv, family, kind):
     rng, seen = np.random.default_rng(kind), set()
     function = getattr(qv, f"ZemFunc{ONE_SHOTS[family][0][kind]}")
-    for _ in range(200):
+    for _ in range(120):
         order = int(rng.choice([*range(1, 9), *range(1, 9), 0, -1, -2**31]))
         n = int(rng.choice([*SIZES, *range(1, 40)]))
         if n > 40 and fits(n):
@@ -473,7 +473,7 @@ def test_one_shots_that_build_an_object_check_as_the_design_and_run_the_cascade(
     rng, seen = np.random.default_rng(kind + 9), set()
     for number, parts in ((ONE_SHOTS[family][1][kind], 2), *([(ONE_SHOTS[family][0][kind], 1)] * (family == "bessel"))):
         function, dtype = getattr(qv, f"ZemFunc{number}"), complex if parts == 2 else float
-        for _ in range(150):
+        for _ in range(120):
             order = int(rng.choice([*range(1, 9), *range(1, 9), 0, -1, -2**31]))
             n = int(rng.choice([*SIZES, *range(1, 40)]))
             if n > 40 and fits(n):
