@@ -3,7 +3,6 @@ sample by the documented steps in scalar arithmetic, over numbers of every kind.
 
 import ctypes
 import math
-from math import pi, tan
 
 import numpy as np
 import pytest
@@ -11,6 +10,7 @@ import pytest
 import test_iir_stages as stages
 from exact import KINDS, SIZES, Guarded, equal_bits, equal_numbers, exports_of, fits, numbers, unwritten
 from test_iir import BAND, FAMILIES, HIGH, LOW, ONE_SHOTS, STOP, Record
+from test_iir_stages import pi, tan
 
 LEAST = 2.2250738585072014e-308
 LEVELS = {"chebyshev": ("ripple",), "inverse_chebyshev": ("attenuation",), "elliptic": ("ripple", "attenuation")}
@@ -53,6 +53,32 @@ def width(kind):
     return 2 if kind < BAND else 4
 
 
+def test_an_object_is_one_block_with_its_delay_lines_at_zero(qv):
+    for order in (-2**31, -1, 0, *range(1, 12), 100, 999, 1000, 2**31 - 1):
+        for kind in (0, 1, 2, 3, 4, 5, 2**31, 2**32 - 1):
+            handle, other = qv.ZemFunc233(kind, order), qv.ZemFunc469(kind, order)
+            # 2^31 - 1 asks for 2^30 stages, of which no count of elements is an int32.
+            if order < 1 or kind > 3 or order == 2**31 - 1:
+                assert handle is None and other is None, (kind, order)
+                continue
+            S, w = (order + 1) >> 1, width(kind)
+            record = ctypes.cast(handle, ctypes.POINTER(Record)).contents
+            counts = [S * w, S * (w + 1), S * w]
+            assert [record.type, record.order, record.reset] == [kind, order, 0]
+            assert [record.a_count, record.b_count, record.state_count] == counts
+            a, b, state = (ctypes.addressof(p.contents) for p in (record.a, record.b, record.state))
+            assert a >= handle + ctypes.sizeof(Record) and b >= a + 8 * counts[0] and state >= b + 8 * counts[1]
+            equal_bits(np.array(record.state[:counts[2]]), np.zeros(counts[2]))
+            lines = ctypes.cast(other, ctypes.POINTER(ComplexState)).contents
+            assert lines.count == counts[2] and lines.values >= other + ctypes.sizeof(ComplexState)
+            values = (ctypes.c_double * (2 * counts[2])).from_address(lines.values)
+            equal_bits(np.array(values), np.zeros(2 * counts[2]))
+            qv.ZemFunc235(handle)
+            assert record.reset == 1
+            qv.ZemFunc470(handle)
+            qv.ZemFunc238(other)
+
+
 # Applying.
 
 def cascade(x, a, b, state, w):
@@ -77,7 +103,7 @@ def cascade(x, a, b, state, w):
 @pytest.mark.parametrize("w", [2, 4])
 def test_the_cascade_takes_its_steps_to_the_last_bit(qv, kind, w):
     rng = np.random.default_rng((KINDS.index(kind), w))
-    for _ in range(120):
+    for _ in range(70):
         S, n = int(rng.integers(1, 9)), int(rng.integers(1, 40))
         order = 2 * S - int(rng.integers(2))
         coefficients = rng.choice(["plain", kind])
@@ -115,7 +141,7 @@ def test_the_cascade_takes_its_steps_to_the_last_bit(qv, kind, w):
 def test_applying_checks_the_size_the_counts_and_the_samples_in_this_order(qv):
     rng = np.random.default_rng(1)
     seen = set()
-    for _ in range(4000):
+    for _ in range(2000):
         order = int(rng.integers(1, 8))
         S, w = (order + 1) >> 1, int(rng.choice([2, 4]))
         counts = [S * w, S * (w + 1), S * w]
@@ -221,7 +247,8 @@ def one_shot_status(family, kind, n, order, fs, fl, fh, levels):
 
 
 def stage_coefficients(family, kind, order, fs, fl, fh, levels):
-    """a and b as the stages stand in the object; for levels and frequencies that are ordinary."""
+    """a and b as the stages stand in the object, NaN and infinities among them where the arguments are odd."""
+    fs, fl, fh, *levels = (np.float64(v) for v in (fs, fl, fh, *levels))
     low, high = tan(pi * fl / fs), tan(pi * fh / fs) if kind >= BAND else 0.0
     made = [stages.band(kind, s, high - low, high * low) if kind >= BAND else stages.low_or_high(kind, s, low)
             for s in getattr(stages, family)(order, kind, *levels)]
@@ -233,8 +260,8 @@ def frequencies(rng):
     fs = float(rng.choice([1.0, 1000.0, 44100.0]))
     values = [fs, *sorted(fs * rng.uniform(0.01, 0.49, 2))]
     for _ in range(int(rng.choice([0, 0, 0, 1, 2]))):
-        values[rng.integers(3)] = rng.choice([0.0, -0.0, -fs, fs / 2, np.nextafter(fs / 2, fs), fs / 4, fs, np.nan, np.inf,
-                                              -np.inf, 5e-324, values[1], values[2]])
+        values[rng.integers(3)] = rng.choice([0.0, -0.0, -fs, fs / 2, np.nextafter(fs / 2, fs), fs / 4, fs, np.nan,
+                                              np.inf, -np.inf, 5e-324, values[1], values[2]])
     return [float(v) for v in values]
 
 
@@ -246,16 +273,11 @@ def level_values(rng, family):
     return [float(values[name]) for name in LEVELS.get(family, ())]
 
 
-def ordinary(fs, fl, fh, levels, kind):
-    used = (fs, fl, *((fh,) if kind >= BAND else ()), *levels)
-    return all(math.isfinite(v) and 1e-3 < v for v in used) and (kind < BAND or fh < fs / 2)
-
-
 @pytest.mark.parametrize("family", FAMILIES)
 def test_designs_check_in_their_order_and_write_the_coefficients_or_nothing(qv, family):
     rng, seen = np.random.default_rng(len(family)), set()
     function = getattr(qv, f"ZemFunc{FAMILIES[family][0]}")
-    for _ in range(1200):
+    for _ in range(600):
         kind = int(rng.choice([0, 1, 2, 3, 0, 1, 2, 3, 4, -1, 2**31 - 1, -2**31]))
         order = int(rng.choice([1, 2, 3, 4, 5, 8, 1, 2, 3, 0, -1, -2**31, 2**31 - 1, 2**31 - 2, 2**30]))
         S = (max(min(order, 9), 1) + 1) >> 1
@@ -269,10 +291,7 @@ def test_designs_check_in_their_order_and_write_the_coefficients_or_nothing(qv, 
         seen.add(status)
         record.same_record()
         record.state.untouched()
-        if family == "bessel" and wanted == 0:
-            assert status == 0 or not math.isfinite(sum(design)) or design[1] == 5e-324, design
-        else:
-            assert status == wanted, (kind, order, design, levels, sizes)
+        assert status == wanted, (kind, order, design, levels, sizes)
         if status:
             record.a.untouched()
             record.b.untouched()
@@ -283,10 +302,9 @@ def test_designs_check_in_their_order_and_write_the_coefficients_or_nothing(qv, 
         used = S * width(kind), S * (width(kind) + 1)
         assert np.array_equal(record.a.words[used[0]:], record.a.first[used[0]:])
         assert np.array_equal(record.b.words[used[1]:], record.b.first[used[1]:])
-        if family != "bessel" and ordinary(*design, levels, kind):
-            a, b = stage_coefficients(family, kind, order, *design, levels)
-            assert record.a.array[:used[0]].tolist() == a
-            assert record.b.array[:used[1]].tolist() == b
+        if family != "bessel":
+            for got, expected in zip((record.a, record.b), stage_coefficients(family, kind, order, *design, levels)):
+                equal_numbers(got.array[:len(expected)] + 0.0, np.array(expected) + 0.0)  # zeros of either sign
     assert {0, -20020, -20021, -20023, -20061, -20066} <= seen
 
 
@@ -313,7 +331,7 @@ def direct_form(a, b, w, L):
 
 def test_the_direct_form_checks_in_its_order_and_multiplies_in_the_order_of_the_stages(qv):
     rng, seen = np.random.default_rng(2), set()
-    for _ in range(3000):
+    for _ in range(1500):
         kind = int(rng.choice([0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3, 4, -1]))
         order = int(rng.choice([*range(1, 12), *range(1, 12), 0, -1, 2**31 - 1, -2**31]))
         S, w = (min(max(order, 1), 12) + 1) >> 1, width(kind % 4)
@@ -356,7 +374,7 @@ def test_the_direct_form_checks_in_its_order_and_multiplies_in_the_order_of_the_
 def test_designs_into_arrays_are_the_design_and_then_its_direct_form(qv, family):
     rng, seen = np.random.default_rng(3 + len(family)), set()
     function = getattr(qv, f"ZemFunc{FAMILIES[family][1]}")
-    for _ in range(600):
+    for _ in range(300):
         kind = int(rng.choice([0, 1, 2, 3, 0, 1, 2, 3, 4, -1, -2**31]))
         order = int(rng.choice([*range(1, 10), *range(1, 10), 0, -1, -2**31]))
         design, levels = frequencies(rng), level_values(rng, family)
@@ -375,10 +393,9 @@ def test_designs_into_arrays_are_the_design_and_then_its_direct_form(qv, family)
         for output in outputs:
             output.kept()
             assert np.array_equal(output.words[L:], output.first[L:])
-        if ordinary(*design, levels, kind):
-            wanted = direct_form(*stage_coefficients(family, kind, order, *design, levels), width(kind), L)
-            for output, product in zip(outputs, wanted):
-                assert output.array[:L].tolist() == product.tolist(), (kind, order, design, levels)
+        wanted = direct_form(*stage_coefficients(family, kind, order, *design, levels), width(kind), L)
+        for output, product in zip(outputs, wanted):
+            equal_numbers(output.array[:L] + 0.0, product + 0.0)
     assert {0, -20001, -20020, -20023, -20066} <= seen
 
 
@@ -423,7 +440,7 @@ def one_shot(family, kind, order, design, levels, x):
 def test_real_one_shots_check_in_their_order_and_take_the_documented_steps(qv, family, kind):
     rng, seen = np.random.default_rng(kind), set()
     function = getattr(qv, f"ZemFunc{ONE_SHOTS[family][0][kind]}")
-    for _ in range(500):
+    for _ in range(120):
         order = int(rng.choice([*range(1, 9), *range(1, 9), 0, -1, -2**31]))
         n = int(rng.choice([*SIZES, *range(1, 40)]))
         if n > 40 and fits(n):
@@ -445,9 +462,8 @@ def test_real_one_shots_check_in_their_order_and_take_the_documented_steps(qv, f
         y.kept()
         if out is y.array:
             given.untouched()
-        if ordinary(*design, levels, kind):
-            equal_numbers((y if out is y.array else given).array + 0.0,
-                          one_shot(family, kind, order, design, levels, x) + 0.0)
+        equal_numbers((y if out is y.array else given).array + 0.0,
+                      one_shot(family, kind, order, design, levels, x) + 0.0)
     assert {0, -20003, -20020, -20021, -20023, -20046} <= seen
 
 
@@ -457,7 +473,7 @@ def test_one_shots_that_build_an_object_check_as_the_design_and_run_the_cascade(
     rng, seen = np.random.default_rng(kind + 9), set()
     for number, parts in ((ONE_SHOTS[family][1][kind], 2), *([(ONE_SHOTS[family][0][kind], 1)] * (family == "bessel"))):
         function, dtype = getattr(qv, f"ZemFunc{number}"), complex if parts == 2 else float
-        for _ in range(300):
+        for _ in range(120):
             order = int(rng.choice([*range(1, 9), *range(1, 9), 0, -1, -2**31]))
             n = int(rng.choice([*SIZES, *range(1, 40)]))
             if n > 40 and fits(n):
@@ -470,8 +486,6 @@ def test_one_shots_that_build_an_object_check_as_the_design_and_run_the_cascade(
             status = function(given.array.view(dtype), n, design[0], *edges, *levels, order, out)
             wanted = (-20046 if not fits(n) else design_status(family, kind, order, *design, levels) or
                       (-20003 if n < 1 else 0))
-            if family == "bessel" and wanted in (0, -20003) and not ordinary(*design, levels, kind):
-                continue
             assert status == wanted, (number, n, order, design, levels)
             seen.add(status)
             if status:
@@ -485,8 +499,6 @@ def test_one_shots_that_build_an_object_check_as_the_design_and_run_the_cascade(
                 result = y.array
             else:
                 result = given.array
-            if not ordinary(*design, levels, kind):
-                continue
             if family == "bessel":
                 handle = qv.ZemFunc233(kind, order)
                 assert qv.ZemFunc471(*design, handle) == 0

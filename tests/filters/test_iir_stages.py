@@ -2,15 +2,24 @@
 
 Responses do not tell a stage that is written the other way round from one that is right, nor a sum that is added in
 another order. Python does the same operations on the same doubles with the same C library, so that nothing is left to
-a tolerance.
+a tolerance. The doubles are NumPy's, for which a division by zero is no error.
 """
 
 import math
-from math import cos, pi, sin, sqrt, tan
 
 import numpy as np
 import pytest
+from exact import libm
 from test_iir import BAND, HIGH, LOW, STOP, Cascade
+
+
+def ieee(name):
+    function = libm(name)
+    return lambda x: np.float64(function(x))
+
+
+atan, cos, exp, sin, sqrt, tan = map(ieee, ("atan", "cos", "exp", "sin", "sqrt", "tan"))
+pi = np.float64(math.pi)
 
 
 def elliptic_k(kc):
@@ -54,11 +63,11 @@ def arc_sc(x, kc):
         turns = (turns if near else 2 * turns) + (y < 0)
         if near:
             break
-    return (math.atan(a / y) + turns * pi) / a
+    return (atan(a / y) + turns * pi) / a
 
 
 def nome_modulus(v):
-    nome = math.exp(-pi * v)
+    nome = exp(-pi * v)
     theta2, theta3, term, power = 1.0, 1.0, 1.0, nome
     for _ in range(25):
         theta3 = theta3 + 2 * term * power
@@ -83,7 +92,7 @@ def axes(x, n):
     return (A - 1 / A) / 2, (A + 1 / A) / 2
 
 
-# A real pole is (rho,), a pair (sigma, q, square of zeta or None, h).
+# A real pole is (rho,) or (rho, h), a pair (sigma, q, square of zeta or None, h).
 
 def even_pole(n, kind):
     pairs = [1 - (2 * k + 1) / n for k in range(n >> 1)]
@@ -137,10 +146,11 @@ def elliptic(n, kind, ripple, attenuation):
 
 
 def low_or_high(kind, section, w):
-    if len(section) == 1:
-        x = section[0] * w if kind == LOW else 1 / section[0] * w
+    if len(section) <= 2:
+        rho, h = (*section, 1.0)[:2]
+        x = rho * w if kind == LOW else 1 / rho * w
         a1 = -(1 - x) / (1 + x)
-        b0 = (x if kind == LOW else 1) / (1 + x)
+        b0 = (h * x if kind == LOW else h) / (1 + x)
         return [a1, 0], [b0, b0 if kind == LOW else -b0, 0]
     sigma, q, square, h = section
     if kind == HIGH:
@@ -158,12 +168,13 @@ def low_or_high(kind, section, w):
 
 
 def band(kind, section, B, P):
-    if len(section) == 1:
-        x = section[0] * B if kind == BAND else B / section[0]
+    if len(section) <= 2:
+        rho, h = (*section, 1.0)[:2]
+        x = rho * B if kind == BAND else B / rho
         D = 1 + x + P
         a = [-2 * (1 - P) / D, (1 - x + P) / D, 0, 0]
-        b0 = (x if kind == BAND else 1 + P) / D
-        return a, [b0, 0, -b0, 0, 0] if kind == BAND else [b0, a[0], b0, 0, 0]
+        b0 = h * (x if kind == BAND else 1 + P) / D
+        return a, [b0, 0, -b0, 0, 0] if kind == BAND else [b0, h * a[0], b0, 0, 0]
     sigma, q, square, h = section
     g = h * q / square if kind == BAND and square else h
     if kind == STOP:
@@ -199,3 +210,82 @@ def test_stages_are_their_closed_forms_to_the_last_bit(qv, family, levels, kind)
         for section, a, b in zip(sections, designed.a, designed.b):
             wanted = band(kind, section, high - low, high * low) if kind >= BAND else low_or_high(kind, section, low)
             assert [*a[1:], *b] == wanted[0] + wanted[1], (order, fs, fl, fh, level)
+
+
+def bessel_poles(qv, n):
+    """The poles and the factor of the cutoff, with the eigenvalues and the zeros of the library."""
+    c = [1.0]
+    for j in range(n):
+        c[0] *= n - j / 2
+    for k in range(1, n):
+        c.append(c[k - 1] * 2 * (n - k + 1) / (2 * n - k + 1) / k)
+    v = c[0] ** (1 / n)
+    c = [1.0] + [c[k] / v ** (n - k) for k in range(1, n)] + [1.0]
+
+    squares = np.zeros(2 * n + 1)
+    for parity in (0, 1):
+        part = [(-1.0) ** (k // 2) * c[k] if k % 2 == parity else 0.0 for k in range(n + 1)]
+        square = np.zeros(2 * n + 1)
+        for i in range(n + 1):
+            for j in range(n + 1):
+                square[i + j] += part[i] * part[j]
+        squares += square
+    squares[0] -= 2.0
+    zeros = np.zeros(2 * n, complex)
+    assert qv.ZemFunc231(squares, 2 * n + 1, zeros) == 0
+    f = float(max(z.real if abs(z.imag) < 1e-8 else 0.0 for z in zeros))
+
+    M = np.zeros((n, n))
+    M[0, 0] = -1
+    for i in range(n - 1):
+        M[i, i + 1] = 1 / (2 * i + 1)
+        M[i + 1, i] = -1 / (2 * i + 3)
+    values, poles = np.zeros(n, complex), []
+    assert qv.ZemFunc201(M, n, 0, values, None) == 0
+    for z in values:
+        re, im = v * float(z.real), v * float(z.imag)
+        m = re * re + im * im
+        poles.append((re / m * f, -(im / m) * f))
+    return poles, f
+
+
+def multiplied(u, v):
+    product = [0.0] * (2 * len(u) - 1)
+    for i, left in enumerate(u):
+        for j, right in enumerate(v):
+            product[i + j] += left * right
+    return product[:len(u)]
+
+
+def bessel(qv, n, made):
+    """The stages; `made` makes one of a section. A section of two real poles has its gain in the first of them."""
+    poles, f = bessel_poles(qv, n)
+    real = [-re for re, im in poles if abs(im) < 1e-8]
+    pairs = [pole for pole in poles if abs(pole[1]) >= 1e-8]
+    result = []
+    if len(real) % 2:
+        first = real.pop(0)
+        result.append(made((first, f / first)))
+    for one, other in zip(real[::2], real[1::2]):
+        (a, b), (c, d) = made((one, (f / one) * (f / other))), made((other, 1.0))
+        result.append((multiplied([1.0, *a], [1.0, *c])[1:], multiplied(b, d)))
+    for re, im in pairs[::2]:
+        q = re * re + im * im
+        result.append(made((-re, q, None, f * f / q)))
+    return result
+
+
+@pytest.mark.parametrize("kind", range(4))
+def test_stages_of_bessel_are_made_of_its_eigenvalues_to_the_last_bit(qv, kind):
+    rng = np.random.default_rng(kind)
+    for order in (*range(1, 24), 32, 38, 59):  # from 32 on rounding makes some pairs real
+        fs = float(rng.choice([1.0, 1000.0, 44100.0]))
+        fl = fs * float(rng.uniform(0.01, 0.3))
+        fh = fl + fs * float(rng.uniform(0.01, 0.19))
+        designed = Cascade(qv, "bessel", kind, order, fs, fl, fh, [])
+        low, high = tan(pi * fl / fs), tan(pi * fh / fs)
+        wanted = bessel(qv, order, lambda section: band(kind, section, high - low, high * low) if kind >= BAND
+                        else low_or_high(kind, section, low))
+        assert len(wanted) == len(designed.a) == (order + 1) // 2
+        for stage, a, b in zip(wanted, designed.a, designed.b):
+            assert [*a[1:], *b] == stage[0] + stage[1], (order, fs, fl, fh)
