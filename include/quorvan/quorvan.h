@@ -6532,7 +6532,7 @@ QV_API QvStatus ZemFunc416(const QvComplex* x, int64_t n, int64_t p, uint32_t me
 /**
  * FitNonlinear.
  * Fits the coefficients of a model to samples, without a limit to the iterations.
- * The fit ends at the second small change of chi-square in a row, with small below 0.001 or below 1e-5 of it; scale data
+ * The fit ends at the second small change of chi-square since a rejected step, below 0.001 or 1e-5 of it; scale data
  * whose chi-square is that small. A model that becomes NaN or infinite ends the fit quietly with what was accepted.
  * K. Levenberg, Quart. Appl. Math. 2 (1944); D. W. Marquardt, SIAM J. 11 (1963).
  * @param x read, [n]: the abscissas
