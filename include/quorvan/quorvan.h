@@ -1758,7 +1758,7 @@ QV_API QvStatus ZemFunc385(const double* x, int64_t n, const double* a, int32_t 
  * @retval -20037 2 side + 1 is not above the order
  * @retval -20046 2 side + 1 exceeds 2^31 - 1
  * @retval -20068 a weight is not finite, or a power of a position overflows
- * @retval -20041 too few samples have a weight
+ * @retval -20041 the normal equations are singular, as with too few samples of any weight
  * @retval -20001 memory is exhausted
  */
 QV_API QvStatus ZemFunc355(int32_t order, int32_t side, const double* weights, int32_t wantDerivatives, double* smoother, double* derivatives);
@@ -1778,7 +1778,7 @@ QV_API QvStatus ZemFunc355(int32_t order, int32_t side, const double* weights, i
  * @retval -20037 2 side + 1 is not above the order
  * @retval -20008 n is below 2 side + 1
  * @retval -20068 a weight is not finite, or a power of a position overflows
- * @retval -20041 too few samples have a weight
+ * @retval -20041 the normal equations are singular, as with too few samples of any weight
  * @retval -20001 memory is exhausted
  */
 QV_API QvStatus ZemFunc356(const double* x, int64_t n, int32_t order, int32_t side, const double* weights, double* y);
@@ -1798,7 +1798,7 @@ QV_API QvStatus ZemFunc356(const double* x, int64_t n, int32_t order, int32_t si
  * @retval -20037 2 side + 1 is not above the order
  * @retval -20008 n is below 2 side + 1
  * @retval -20068 a weight is not finite, or a power of a position overflows
- * @retval -20041 too few samples have a weight
+ * @retval -20041 the normal equations are singular, as with too few samples of any weight
  * @retval -20001 memory is exhausted
  */
 QV_API QvStatus ZemFunc357(const QvComplex* x, int64_t n, int32_t order, int32_t side, const double* weights, QvComplex* y);

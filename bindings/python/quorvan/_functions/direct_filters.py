@@ -393,7 +393,7 @@ def savitzky_golay_design(order, side, weights=None, want_derivatives=True, *, o
         -20037: 2 side + 1 is not above the order
         -20046: 2 side + 1 exceeds 2^31 - 1
         -20068: a weight is not finite, or a power of a position overflows
-        -20041: too few samples have a weight
+        -20041: the normal equations are singular, as with too few samples of any weight
         -20001: memory is exhausted
 
     Notes
@@ -453,7 +453,7 @@ def savitzky_golay_filter(x, order, side, weights=None, *, out=None):
         -20037: 2 side + 1 is not above the order
         -20008: n is below 2 side + 1
         -20068: a weight is not finite, or a power of a position overflows
-        -20041: too few samples have a weight
+        -20041: the normal equations are singular, as with too few samples of any weight
         -20001: memory is exhausted
 
     Notes
@@ -513,7 +513,7 @@ def savitzky_golay_filter_complex(x, order, side, weights=None, *, out=None):
         -20037: 2 side + 1 is not above the order
         -20008: n is below 2 side + 1
         -20068: a weight is not finite, or a power of a position overflows
-        -20041: too few samples have a weight
+        -20041: the normal equations are singular, as with too few samples of any weight
         -20001: memory is exhausted
 
     Notes
