@@ -111,8 +111,8 @@ def single(x, dt, search):
     return units(record, *record.fit(*record.around(max(peak - 1, 0))), dt)
 
 
-def multi(x, dt, sort, threshold, most):
-    record = Record(x)
+def peaks(record, threshold, most):
+    """First bins and largest magnitudes."""
     m, least, held, i = record.magnitudes + [0.0], threshold / 2.2627416997969525, [], 0
     while i <= len(m) - 3:
         a, b, c = m[i:i + 3]
@@ -128,7 +128,12 @@ def multi(x, dt, sort, threshold, most):
                     taken = smallest
                     held[smallest] = tone
         i += 1 if taken is None else 2
+    return held
 
+
+def multi(x, dt, sort, threshold, most):
+    record = Record(x)
+    held = peaks(record, threshold, most)
     places, known = [record.around(i) for i, _ in held], [(0.0, 0.0, 0.0)] * len(held)
     settled = [False] * len(held)
     for _ in range(10):
@@ -221,3 +226,23 @@ def test_several_tones_in_noise(qv, real):
         for j, tone in enumerate(expected):
             assert near([v[j] for v in out], tone, len(x), dt), (j, [v[j] for v in out], tone, case)
     assert seen[1] > 30 and seen[2] > 30 and seen[3] > 10, seen
+
+
+@pytest.mark.parametrize("real", [True, False])
+def test_without_threshold_every_peak_counts(qv, real):
+    rng, ends = np.random.default_rng(20 + real), collections.Counter()
+    function = qv.ZemFunc379 if real else qv.ZemFunc383
+    for _ in range(1500):
+        # Half the rate lies between the bins of odd real records: tones there are not a number, and dropped.
+        n, most = int(rng.integers(2, 15)) * 2 if real else int(rng.integers(3, 30)), int(rng.choice([1, 2, 4, 100]))
+        x = np.cumsum(rng.standard_normal(n)) if rng.random() < 0.5 else rng.standard_normal(n)
+        if not real:
+            x = x * np.exp(2j * np.pi * rng.uniform() * np.arange(n)) + 0.1 * rng.standard_normal(n)
+        record, count = Record(x), np.full(1, -7, np.int32)
+        assert function(x, n, 1.0, 0, 0.0, most, count, *(np.empty(most) for _ in range(3))) == 0
+        held = peaks(record, 0.0, most)
+        assert count[0] == len(held), (x.tolist(), most)
+        m = record.magnitudes + [0.0]
+        # The first bin is taken with its neighbours, a peak of which counts no more.
+        ends[m[0] > max(m[1:3]) and len(m) > 4 and m[2] > max(m[1], m[3])] += 1
+    assert ends[True] > 10, ends
