@@ -246,3 +246,56 @@ def test_without_threshold_every_peak_counts(qv, real):
         # The first bin is taken with its neighbours, a peak of which counts no more.
         ends[m[0] > max(m[1:3]) and len(m) > 4 and m[2] > max(m[1], m[3])] += 1
     assert ends[True] > 10, ends
+
+
+@pytest.mark.parametrize("real", [True, False])
+@pytest.mark.parametrize("several", [True, False])
+def test_signals_of_every_mode(qv, real, several):
+    """The tones are those of the plain forms; what is made of them, the sum of their waves in the order of the output."""
+    rng = np.random.default_rng(30)
+    plain, extended = ((qv.ZemFunc379, qv.ZemFunc380) if several else (qv.ZemFunc377, qv.ZemFunc378)) if real else (
+        (qv.ZemFunc383, qv.ZemFunc384) if several else (qv.ZemFunc381, qv.ZemFunc382))
+    for _ in range(200):
+        x, dt, mode = record_of(rng, real), float(rng.choice([1.0, 0.3, 1e-3])), int(rng.integers(0, 4))
+        n, room = len(x), 3 if several else 1
+        sort, threshold = int(rng.integers(0, 2)), float(rng.choice([0, 0.3, 9]))
+        middle, tail = ([sort], [threshold, room]) if several else ([None], [])
+        outputs = []
+        for function, modes in ((plain, []), (extended, [mode])):
+            count = [np.full(1, -7, np.int32)] if several else []
+            arrays = [np.full(room, -7.0) for _ in range(3)]
+            dt_out, f0, df = np.full((3, 1), -7.0)
+            out, spectrum = np.full(n, -7, x.dtype), np.full((n + 1) // 2 if real else n, -7.0)
+            given = [None if rng.random() < 0.2 else v for v in (out, spectrum)]
+            signal = [given[0], dt_out, given[1], f0, df] if modes else []
+            assert function(x, n, dt, *middle, *modes, *tail, *count, *arrays, *signal) == 0
+            outputs.append([*count, *arrays])
+        for found, expected in zip(outputs[1], outputs[0]):
+            assert np.array_equal(found, expected, equal_nan=True)
+        found = int(outputs[0][0][0]) if several else 1
+        step = 1 / (n * dt)
+        assert dt_out[0] == dt and df[0] == step and f0[0] == (0 if real else -(n // 2) * step)
+        waves = np.zeros(n, x.dtype)
+        for k in range(found):
+            freq, amp, phase = (v[k] for v in outputs[0][-3:])
+            if real:
+                wave = np.empty(n)
+                assert qv.ZemFunc158(n, amp, phase, n * dt * freq, wave) == 0
+            else:
+                wave = amp / 2 * np.exp(1j * (2 * np.pi * freq * dt * np.arange(n) + np.radians(phase)))
+            waves = waves + wave
+        expected = {0: None, 1: x, 2: waves, 3: x - waves}[mode]
+        if given[0] is not None:
+            if expected is None:
+                assert np.all(out == -7)
+            elif real or mode == 1:
+                assert np.array_equal(out, expected, equal_nan=True)
+            else:
+                assert np.allclose(out, expected, rtol=0, atol=1e-12 * (1 + np.abs(waves).max()), equal_nan=True)
+        else:
+            assert np.all(out == -7)
+        if given[1] is None or expected is None:
+            assert np.all(spectrum == -7)
+        elif np.all(np.isfinite(expected)):
+            rounding = 1e-14 * (np.abs(x).max() + np.abs(waves).max())
+            assert np.allclose(10 ** (spectrum / 20), Record(expected).magnitudes, rtol=1e-10, atol=rounding)
