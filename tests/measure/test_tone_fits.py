@@ -1,8 +1,8 @@
-"""Extraction of tones beside its documented rules, written down plainly: peaks, fits, joint refinement, choice and order.
+"""Extraction of tones beside its documented rules, written down plainly: peaks, fits, joint refinement, choice, order.
 
-The records are noise with some tones: most peaks are no tones, and lie close to each other. Where tone and image fall into
-one, at 0 and at half the rate, and where a fit leaves its bins or barely converges, the last rounding decides; such records
-are left to other tests.
+The records are noise with some tones: most peaks are no tones, and lie close to each other. Where tone and image fall
+into one, at 0 and at half the rate, and where a fit leaves its bins or barely converges, the last rounding decides; such
+records are left to other tests.
 """
 
 import cmath
@@ -251,10 +251,10 @@ def test_without_threshold_every_peak_counts(qv, real):
 @pytest.mark.parametrize("real", [True, False])
 @pytest.mark.parametrize("several", [True, False])
 def test_signals_of_every_mode(qv, real, several):
-    """The tones are those of the plain forms; what is made of them, the sum of their waves in the order of the output."""
+    """The tones are those of the plain forms, and their waves are added in the order of the output."""
     rng = np.random.default_rng(30)
-    plain, extended = ((qv.ZemFunc379, qv.ZemFunc380) if several else (qv.ZemFunc377, qv.ZemFunc378)) if real else (
-        (qv.ZemFunc383, qv.ZemFunc384) if several else (qv.ZemFunc381, qv.ZemFunc382))
+    number = 377 + 2 * several + 4 * (not real)
+    plain, extended = getattr(qv, f"ZemFunc{number}"), getattr(qv, f"ZemFunc{number + 1}")
     for _ in range(200):
         x, dt, mode = record_of(rng, real), float(rng.choice([1.0, 0.3, 1e-3])), int(rng.integers(0, 4))
         n, room = len(x), 3 if several else 1
