@@ -3,7 +3,7 @@
 import numpy as np
 import pytest
 
-from exact import TOO_LARGE
+from exact import TOO_LARGE, every_size, fits
 
 
 class Runs:
@@ -94,3 +94,29 @@ def test_runs_of_one_array(qv, seed):
         expected = Runs().block(x.tolist(), 1.0, width, 1, 1)[1]
         assert status == 0 and count[0] == len(expected) and list(indices[:len(expected)]) == expected
         assert np.all(indices[len(expected):] == -7)
+
+
+def test_runs_of_every_size_and_width(qv):
+    x = np.array([0.0, 1, 1, 0, 1])
+    for n, width in every_size(2):
+        if width == 0 or n > len(x) and 0 < width < n < 2**31:
+            continue  # a division by zero, or samples that are not there
+        room = abs(n) // abs(width) * (1 if (n < 0) == (width < 0) else -1) + 1
+        indices, count = np.full(5, -7, np.int64), np.full(1, -7, np.int64)
+        told = []
+        if not fits(n, width):
+            expected = -20046, -7
+        elif room < 1:
+            expected = -20003, -7
+        elif n < 1:
+            expected = -20003, 0
+        elif not 0 < width < n:
+            expected = -20013, 0
+        else:
+            told = Runs().block(x[:n].tolist(), 0.5, width, 1, 1)[1]
+            expected = 0, len(told)
+        # Room for the indices is asked before the samples are looked at.
+        for given in (indices, None) if room < 2**20 else (None,):
+            assert (qv.ZemFunc237(x, n, 0.5, width, given, count), count[0]) == expected, (n, width)
+            count[0] = -7
+        assert list(indices) == (told + [-7] * 5)[:5]

@@ -9,6 +9,8 @@ import itertools
 import numpy as np
 import pytest
 
+from exact import KINDS, numbers
+
 THIN = 20021
 
 
@@ -128,11 +130,12 @@ def cycle_average(x, c, references, percent, method, bins):
     period, duration, _, centre, status = cycle_timing(x, -1, c, references, percent, method, bins)
     start = centre - duration / 2
     end = start + period
-    p, s = int(period + 0.5), int(start + 0.5)
-    if p == 0:
+    # Products that vanish, and samples that are no numbers, put crossings outside the record and in any order.
+    p, s = np.trunc(period + 0.5), np.trunc(start + 0.5)
+    if not p >= 1:
         raise Refused(-20319, [0.0, 0.0, start, end])
-    if s + p > len(x):
-        s = len(x) - p
+    p = int(min(p, len(x)))
+    s = int(max(s, 0)) if s <= len(x) - p else len(x) - p
     total = squares = 0.0
     for v in x[s:s + p]:
         total += v
@@ -246,9 +249,9 @@ def pulse_parameters(x):
         centres.append(centres[-1] + width)
     factor = 101 / (largest - least)
     for v in x:
-        k = int(np.floor((v - least) * factor))
+        k = np.floor((v - least) * factor)
         if 0 <= k < 101:
-            counts[k] += 1
+            counts[int(k)] += 1
         elif v == largest:
             counts[100] += 1
     base, top = max(range(50), key=lambda k: (counts[k], -k)), max(range(50, 101), key=lambda k: (counts[k], k))
@@ -405,3 +408,59 @@ def test_every_short_pulse_of_four_values_follows_the_rules(qv):
 def test_pulses_with_ringing_and_noise_follow_the_rules(qv, seed):
     statuses = collections.Counter(check_shape(qv, x) for _, x in signals(100 + seed, 1000))
     assert statuses[0] > 500, statuses
+
+
+@pytest.mark.parametrize("seed", range(2))
+def test_noisy_trains_of_any_size_follow_the_rules(qv, seed):
+    """Where no sum and no product is exact, and the order of each tells."""
+    rng, statuses = np.random.default_rng(seed), collections.Counter()
+    for _ in range(300):
+        n = int(rng.integers(1, 150))
+        x = np.sin(2 * np.pi * np.arange(n) / rng.uniform(4, 60) + rng.uniform(0, 6)) * rng.uniform(0.5, 8)
+        x = np.tanh(x) + rng.standard_normal(n) * rng.choice([0, 0.01, 0.1, 0.5]) + rng.choice([0, 0, 5.5, -100])
+        x = x * rng.choice([1.0, 3.3, 1e-150, 1e150, 1e300, 1e-305])
+        percent, method = int(rng.choice([0, 1, -5])), int(rng.choice([0, 1, 2, 2**32 - 1]))
+        references = np.sort(rng.uniform(-10, 110, 3) if percent else rng.uniform(x.min(), x.max(), 3))[::-1]
+        bins = int(rng.choice([1, 2, 3, 5, 7, 10, 33, 100, 256, 1000]))
+        rest = {"percent": percent, "method": method, "bins": bins}
+        number, polarity, x = int(rng.integers(1, 5)), int(rng.integers(-1, 3)), x.tolist()
+        for export, outputs, rule, leading in ((364, 7, cycle_timing, (polarity, number)),
+                                               (365, 7, cycle_average, (number,)),
+                                               (366, 11, transition, (polarity, number))):
+            absolutes = references.tolist()
+            with np.errstate(all="ignore"):
+                wanted, results = expected(rule, x, *leading, references=absolutes, **rest)
+            status, found, levels = call(getattr(qv, f"ZemFunc{export}"), outputs, x, *leading,
+                                         references=references.tolist(), **rest)
+            case = export, x, leading, references, rest
+            assert status == wanted, case
+            assert same(levels, absolutes) and same(found[4:7], absolutes[::-1]), case
+            assert same(found[:4] + found[7:], results), (case, found, results)
+            statuses[export, status] += 1
+    assert all(statuses[export, 0] > 10 for export in (364, 365, 366)), statuses
+
+
+@pytest.mark.parametrize("kind", KINDS + ["rare"])
+def test_samples_that_are_no_numbers_follow_the_rules(qv, kind):
+    rng = np.random.default_rng(len(kind))
+    for _ in range(300):
+        n = int(rng.choice([1, 2, 3, 4, 6, 10, 30]))
+        if kind == "rare":
+            x = np.where(rng.random(n) < 0.1, rng.choice([np.nan, np.inf]), np.sin(np.arange(n) / rng.uniform(1, 5)))
+        else:
+            x = numbers(rng, n, kind)
+        x = x.tolist()
+        with np.errstate(all="ignore"):
+            check_shape(qv, x)
+        references = np.sort(rng.choice([-1.0, -0.5, 0.0, 0.25, 0.5, 1.0, 1.5, np.inf, 1e308, 5e-324], 3))[::-1]
+        if rng.random() < 0.1:
+            references[rng.integers(3)] = np.nan
+        number, rest = int(rng.choice([1, 1, 2, 3])), {"percent": 0, "method": 7, "bins": 1}
+        for export, rule, leading in ((364, cycle_timing, (int(rng.integers(-2, 3)), number)),
+                                      (365, cycle_average, (number,))):
+            with np.errstate(all="ignore"):
+                wanted, results = expected(rule, x, *leading, references=references.tolist(), **rest)
+            status, found, _ = call(getattr(qv, f"ZemFunc{export}"), 7, x, *leading,
+                                    references=references.tolist(), **rest)
+            assert status == wanted and same(found[:4], results), (export, x, leading, references, found, results)
+            assert same(found[4:], references[::-1])
