@@ -19,7 +19,8 @@ negative frequency, and several tones are refined together. Without noise the fr
 right to 1e-9 of the rate, up to 1e7 samples; in noise its deviation is 1.7 to 3 times the Cramer-Rao bound.
 Less than half a bin below half the rate, or above minus half of it, a tone of a complex record can read up to
 half a bin off. Less than 0.8 bins below half the rate a tone of a real record of odd length can read a bin or
-more off, by its phase; of an even length it reads right up to there.
+more off, by its phase; of an even length it reads right up to there. Where noise draws the fit of a real
+record onto 0 or half the rate, amplitude and phase have no meaning, and can be NaN.
 
 Tones of complex records have frequencies from -1/(2 dt) on. A mode of the extended forms tells what they give
 besides: 0 nothing, 1 the input, 2 the synthesised tones, 3 the input without the tones; and the spectrum of
