@@ -160,6 +160,11 @@ Status FftSpectrum(const FftPlan* plan, const double* x, bool shift, double* out
         plan->spectrumLeaf(x, low, high, *plan->stages[0]);
         return status::kSuccess;
     }
+    if (const FftSpectrumSplit& split = plan->split; split.leaf) {
+        split.leaf(x, x + 1, out, out + 1, 2, 2, split.leaves, 2 * Size(split.leaves), split.positions, split.turns);
+        split.stage(out, low, high, split.columns, split.turns);
+        return status::kSuccess;
+    }
     const ComplexRun records{*plan, x, x + 1, out, out + 1, 2, 2};
     if (const Status status = Decimation<ComplexRun>(records, plan->half).Transform(); status < 0) return status;
     plan->spectrumStage(out, low, high, plan->columns[0], *plan->stages[0]);

@@ -106,6 +106,18 @@ void ChooseKernels(FftPlan& plan) noexcept {
     }
 }
 
+// A few leaves of 32 records leave lanes of a vector empty and cost as much as a full one. Twice as many leaves of half
+// the length fill it, and the last stage merges with twice the factor.
+void ChooseSplit(FftPlan& plan) noexcept {
+    constexpr Count kLongLeaf = 32;
+    const Count first = plan.factors[0], leaf = kLongLeaf / 2;
+    if (plan.factorCount != 2 || plan.factors[1] != kLongLeaf || first % 2 ||
+        first >= kFftKernels().blockWidth(INT32_MAX))
+        return;
+    plan.split = {
+        kFftKernels().kernel(leaf)->leaf, kFftKernels().kernel(2 * first)->spectrumStage, first, leaf, nullptr, {}};
+}
+
 Status MakeStages(FftPlan& plan) noexcept {
     for (Count i = 0; i < plan.factorCount; ++i) {
         if (!Allocate(plan.stages[i], 1)) return status::kOutOfMemory;
@@ -177,7 +189,8 @@ void FillStated(FftStage& stage, Count f, Count m) noexcept {
 
 // What the transforms read: the twiddles of each stage in the one order that its routine takes them in.
 Status MakeTwiddles(FftPlan& plan) noexcept {
-    const Status status = AllocateTables(plan.tables, RoomyLength, [&plan](TableLayout& layout) {
+    FftSpectrumSplit& split = plan.split;
+    const Status status = AllocateTables(plan.tables, RoomyLength, [&plan, &split](TableLayout& layout) {
         ForTurnedStages(plan, [&](FftStage& stage, Count kind, Count f, Count m) {
             if (kind == kLargePrime)
                 PlaceStated(layout, stage, f, m);
@@ -186,6 +199,9 @@ Status MakeTwiddles(FftPlan& plan) noexcept {
         });
         for (FftSchedule* schedule : {&plan.whole, &plan.half})
             schedule->leafPositions = reinterpret_cast<Count*>(layout.Take((Size(schedule->leaves) + 1) / 2));
+        if (!split.leaf) return;
+        split.turns.blockedTwiddles = layout.Take(BlockedLength(2 * split.leaves, split.columns));
+        split.positions = reinterpret_cast<Count*>(layout.Take((Size(split.leaves) + 1) / 2));
     });
     if (status < 0) return status;
     ForTurnedStages(plan, [](FftStage& stage, Count kind, Count f, Count m) {
@@ -194,6 +210,9 @@ Status MakeTwiddles(FftPlan& plan) noexcept {
         else
             BlockedTwiddles(kTwoPi / (Size(f) * m), f, m, stage.blockedTwiddles);
     });
+    if (!split.leaf) return status::kSuccess;
+    BlockedTwiddles(kTwoPi / plan.size, 2 * split.leaves, split.columns, split.turns.blockedTwiddles);
+    for (Count t = 0; t < split.leaves; ++t) split.positions[t] = t * split.columns;
     return status::kSuccess;
 }
 
@@ -380,6 +399,7 @@ FftPlan* CreateUnlocked(Count size) noexcept {
     plan->size = size;
     Factorise(*plan);
     ChooseKernels(*plan);
+    ChooseSplit(*plan);
     Schedule(*plan);
     if (Build(*plan) < 0) {
         Free(plan);

@@ -60,6 +60,16 @@ struct FftSchedule {
     Count* leafPositions;
 };
 
+// All bins of reals by other factors than those of the plan: one pass of leaves over the records, and the last stage.
+struct FftSpectrumSplit {
+    ComplexLeafKernel leaf;  // null where the factors of the plan serve
+    SpectrumStageKernel stage;
+    Count leaves;
+    Count columns;
+    Count* positions;
+    FftStage turns;  // blocked twiddles only
+};
+
 struct FftPlan {
     Count size;
     Count refCount;
@@ -82,6 +92,7 @@ struct FftPlan {
     // For an even first factor.
     SpectrumLeafKernel spectrumLeaf;
     SpectrumStageKernel spectrumStage;
+    FftSpectrumSplit split;
     // The block that the twiddles of the transforms and the leaf positions stand in, and that of the other order.
     double* tables;
     double* statedTables;

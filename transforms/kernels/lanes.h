@@ -4,8 +4,11 @@
 // order that a single unpack leaves, column (lane % 2) * W/2 + lane / 2, so that taking records apart and putting them
 // together costs one shuffle a vector. Split and real data, which stand in natural order, pay one permutation instead.
 //
-// Operations on a range of lanes, or on the Records of a range of columns, touch no memory outside it. Backwards: the
-// last record in memory belongs to column 0.
+// Operations on a range of lanes, or on the Records of a range of columns, touch no memory outside it. Stored
+// backwards, the last record in memory belongs to column 0. Loaded backwards, column 0 is the record at `first`, column
+// c the c-th before `end`: W records are read there, or those of columns 1 to c for the Records of {0, c}. In rows of
+// whole vectors such a load begins where a store began: of data that is still on its way to memory, a load can have
+// what one store wrote, but not parts of two.
 #pragma once
 
 #include "frame/targets.h"
@@ -47,9 +50,11 @@ struct Lanes<1> {
         re = im = 0;
         if (records) LoadRecords(p, re, im);
     }
-    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) { LoadRecords(p, re, im); }
-    QV_INLINE static void LoadBackwards(const double* p, Records records, V& re, V& im) {
-        LoadRecords(p, records, re, im);
+    QV_INLINE static void LoadBackwards(const double* first, const double*, V& re, V& im) {
+        LoadRecords(first, re, im);
+    }
+    QV_INLINE static void LoadBackwards(const double* first, const double*, Records, V& re, V& im) {
+        LoadRecords(first, re, im);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) { p[0] = re, p[1] = im; }
     QV_INLINE static void StoreRecords(double* p, Records records, V re, V im) {
@@ -59,7 +64,6 @@ struct Lanes<1> {
     QV_INLINE static void StoreConjugatesBackwards(double* p, Records records, V re, V im) {
         StoreRecords(p, records, re, -im);
     }
-    QV_INLINE static V WithFirstOf(V, V first) { return first; }
     QV_INLINE static V Load(const double* p) { return *p; }
     QV_INLINE static V Load(const double* p, LaneRange r) { return r.first < r.last ? *p : 0.0; }
     QV_INLINE static void Store(double* p, V v) { *p = v; }
@@ -94,15 +98,15 @@ struct Lanes<2> {
         re = _mm_unpacklo_pd(a, b);
         im = _mm_unpackhi_pd(a, b);
     }
-    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) {
-        const V a = _mm_loadu_pd(p), b = _mm_loadu_pd(p + 2);
-        re = _mm_unpacklo_pd(b, a);
-        im = _mm_unpackhi_pd(b, a);
+    QV_INLINE static void LoadBackwards(const double* first, const double* end, V& re, V& im) {
+        const V a = _mm_loadu_pd(first), b = _mm_loadu_pd(end - 2);
+        re = _mm_unpacklo_pd(a, b);
+        im = _mm_unpackhi_pd(a, b);
     }
-    QV_INLINE static void LoadBackwards(const double* p, Records r, V& re, V& im) {
-        const V a = r.second ? _mm_loadu_pd(p) : V{}, b = r.first ? _mm_loadu_pd(p + 2) : V{};
-        re = _mm_unpacklo_pd(b, a);
-        im = _mm_unpackhi_pd(b, a);
+    QV_INLINE static void LoadBackwards(const double* first, const double* end, Records r, V& re, V& im) {
+        const V a = _mm_loadu_pd(first), b = r.first ? _mm_loadu_pd(end - 2) : V{};
+        re = _mm_unpacklo_pd(a, b);
+        im = _mm_unpackhi_pd(a, b);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) {
         _mm_storeu_pd(p, _mm_unpacklo_pd(re, im));
@@ -121,7 +125,6 @@ struct Lanes<2> {
         if (r.second) _mm_storeu_pd(p, Conjugate(_mm_unpackhi_pd(re, im)));
         if (r.first) _mm_storeu_pd(p + 2, Conjugate(_mm_unpacklo_pd(re, im)));
     }
-    QV_INLINE static V WithFirstOf(V v, V first) { return _mm_move_sd(v, first); }
     QV_INLINE static V Load(const double* p) { return _mm_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) {
         return _mm_set_pd(r.last > 1 ? p[1] : 0.0, r.first < 1 ? p[0] : 0.0);
@@ -180,16 +183,18 @@ struct Lanes<4> {
         im = _mm256_unpackhi_pd(a, b);
     }
     QV_INLINE static V ReversedRecords(V v) { return _mm256_permute2f128_pd(v, v, 0x01); }
-    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) {
-        const V a = ReversedRecords(_mm256_loadu_pd(p)), b = ReversedRecords(_mm256_loadu_pd(p + 4));
-        re = _mm256_unpacklo_pd(b, a);
-        im = _mm256_unpackhi_pd(b, a);
+    QV_INLINE static void LoadBackwards(const double* first, const double* end, V& re, V& im) {
+        JoinBackwards(first, _mm256_loadu_pd(end - 4), _mm256_loadu_pd(end - 8), re, im);
     }
-    QV_INLINE static void LoadBackwards(const double* p, Records records, V& re, V& im) {
-        const V a = ReversedRecords(_mm256_maskload_pd(p, records.backA));
-        const V b = ReversedRecords(_mm256_maskload_pd(p + 4, records.backB));
-        re = _mm256_unpacklo_pd(b, a);
-        im = _mm256_unpackhi_pd(b, a);
+    QV_INLINE static void LoadBackwards(const double* first, const double* end, Records records, V& re, V& im) {
+        JoinBackwards(first, _mm256_maskload_pd(end - 4, records.backB), _mm256_maskload_pd(end - 8, records.backA), re,
+                      im);
+    }
+    QV_INLINE static void JoinBackwards(const double* first, V near, V far, V& re, V& im) {
+        const V a = _mm256_blend_pd(_mm256_castpd128_pd256(_mm_loadu_pd(first)), near, 0b1100);
+        const V b = _mm256_blend_pd(near, far, 0b1100);
+        re = _mm256_unpacklo_pd(a, b);
+        im = _mm256_unpackhi_pd(a, b);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) {
         _mm256_storeu_pd(p, _mm256_unpacklo_pd(re, im));
@@ -210,7 +215,6 @@ struct Lanes<4> {
         _mm256_maskstore_pd(p, records.backA, ConjugatesBackwards(_mm256_unpackhi_pd(re, im)));
         _mm256_maskstore_pd(p + 4, records.backB, ConjugatesBackwards(_mm256_unpacklo_pd(re, im)));
     }
-    QV_INLINE static V WithFirstOf(V v, V first) { return _mm256_blend_pd(v, first, 1); }
     QV_INLINE static V Load(const double* p) { return _mm256_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) { return _mm256_maskload_pd(p, Mask(r.first, r.last)); }
     QV_INLINE static void Store(double* p, V v) { _mm256_storeu_pd(p, v); }
@@ -273,16 +277,19 @@ struct Lanes<8> {
         im = _mm512_unpackhi_pd(a, b);
     }
     QV_INLINE static V ReversedRecords(V v) { return _mm512_shuffle_f64x2(v, v, 0b00'01'10'11); }
-    QV_INLINE static void LoadBackwards(const double* p, V& re, V& im) {
-        const V a = ReversedRecords(_mm512_loadu_pd(p)), b = ReversedRecords(_mm512_loadu_pd(p + 8));
-        re = _mm512_unpacklo_pd(b, a);
-        im = _mm512_unpackhi_pd(b, a);
+    QV_INLINE static void LoadBackwards(const double* first, const double* end, V& re, V& im) {
+        JoinBackwards(first, _mm512_loadu_pd(end - 8), _mm512_loadu_pd(end - 16), re, im);
     }
-    QV_INLINE static void LoadBackwards(const double* p, Records records, V& re, V& im) {
-        const V a = ReversedRecords(_mm512_maskz_loadu_pd(records.backA, p));
-        const V b = ReversedRecords(_mm512_maskz_loadu_pd(records.backB, p + 8));
-        re = _mm512_unpacklo_pd(b, a);
-        im = _mm512_unpackhi_pd(b, a);
+    QV_INLINE static void LoadBackwards(const double* first, const double* end, Records records, V& re, V& im) {
+        JoinBackwards(first, _mm512_maskz_loadu_pd(records.backB, end - 8),
+                      _mm512_maskz_loadu_pd(records.backA, end - 16), re, im);
+    }
+    QV_INLINE static void JoinBackwards(const double* first, V near, V far, V& re, V& im) {
+        const __m512i joined = _mm512_set_epi64(11, 10, 13, 12, 15, 14, 1, 0);
+        const V a = _mm512_permutex2var_pd(_mm512_castpd128_pd512(_mm_loadu_pd(first)), joined, near);
+        const V b = _mm512_permutex2var_pd(near, joined, far);
+        re = _mm512_unpacklo_pd(a, b);
+        im = _mm512_unpackhi_pd(a, b);
     }
     QV_INLINE static void StoreRecords(double* p, V re, V im) {
         _mm512_storeu_pd(p, _mm512_unpacklo_pd(re, im));
@@ -303,7 +310,6 @@ struct Lanes<8> {
         _mm512_mask_storeu_pd(p, records.backA, ConjugatesBackwards(_mm512_unpackhi_pd(re, im)));
         _mm512_mask_storeu_pd(p + 8, records.backB, ConjugatesBackwards(_mm512_unpacklo_pd(re, im)));
     }
-    QV_INLINE static V WithFirstOf(V v, V first) { return _mm512_mask_mov_pd(v, 1, first); }
     QV_INLINE static V Load(const double* p) { return _mm512_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) { return _mm512_maskz_loadu_pd(Mask(r.first, r.last), p); }
     QV_INLINE static void Store(double* p, V v) { _mm512_storeu_pd(p, v); }

@@ -43,26 +43,21 @@ struct SpectrumOf {
     QV_INLINE static void Stage(const double* z, Bins<f> bins, Size j, LaneRange all, LaneRange paired,
                                 const double* table, const FftStage& stage) {
         const Records whole = L::RecordsIn(all), inner = L::RecordsIn(paired);
-        const Records withFirst = L::RecordsIn({all.first, paired.last});
+        const Records withFirst = L::RecordsIn({all.first, paired.last}), others = L::RecordsIn({0, all.last - 1});
         const Records withMiddle = L::RecordsIn({paired.first, all.last});
         V re[f], im[f];
         for (int s = 0; s < h; ++s) {
             const double* up = z + 2 * (s * bins.m + j);
-            const double* down = z + 2 * ((s + 1) * bins.m - j - (W - 1));
+            const double* down = z + 2 * ((s + 1) * bins.m - j);
+            const bool withZero = kBlock == ColumnBlock::kFirst || (kBlock == ColumnBlock::kAny && j == 0);
+            const double* first = withZero ? up : down;  // column 0 is its own mirror image
             V backRe, backIm;
             if constexpr (kBlock == ColumnBlock::kAny) {
                 L::LoadRecords(up, whole, re[2 * s], im[2 * s]);
-                L::LoadBackwards(down, withMiddle, backRe, backIm);
+                L::LoadBackwards(first, down, others, backRe, backIm);
             } else {
                 L::LoadRecords(up, re[2 * s], im[2 * s]);
-                if constexpr (kBlock == ColumnBlock::kFirst)
-                    L::LoadBackwards(down, withMiddle, backRe, backIm);
-                else
-                    L::LoadBackwards(down, backRe, backIm);
-            }
-            if (kBlock == ColumnBlock::kFirst || (kBlock == ColumnBlock::kAny && j == 0)) {
-                backRe = L::WithFirstOf(backRe, re[2 * s]);
-                backIm = L::WithFirstOf(backIm, im[2 * s]);
+                L::LoadBackwards(first, down, backRe, backIm);
             }
             Separate(re + 2 * s, im + 2 * s, backRe, backIm);
         }
