@@ -13,9 +13,12 @@ namespace quorvan {
 namespace {
 
 constexpr double kFirstDamping = 0.001;
-// So many iterations in a row without a smaller chi-square end a fit that has no limit. The damping overflows after some
-// 600 rejections; only a circle of small steps and rejections, which clear each other, comes here.
+// So many iterations in a row without a smaller chi-square end a fit that has no limit. The damping overflows after
+// some 600 rejections; only a circle of small steps and rejections, which clear each other, comes here.
 constexpr Count kStallLimit = 1000;
+// And so many in a row of which none lowers it by more than the loop calls small: a crawl, on which each step clears a
+// rejection, would take hours.
+constexpr Count kCrawlLimit = 20'000;
 
 constexpr double kRootEpsilon = 1.4901161193847656e-08;  // the square root of the double epsilon
 
@@ -57,7 +60,7 @@ public:
         double lambda = kFirstDamping;
         Count iteration = 0;
         bool small_before = false;
-        Count stalled = 0;
+        Count stalled = 0, crawled = 0;
         while (limit < 0 || iteration < limit) {
             std::copy_n(coefficients_, m_, trial_);
             const Status status = Step(lambda);
@@ -68,7 +71,7 @@ public:
             }
             chi_new = ChiSquare();
             stalled = chi_new < chi ? 0 : stalled + 1;
-            if (limit < 0 && stalled > kStallLimit) {
+            if (limit < 0 && (stalled > kStallLimit || ++crawled > kCrawlLimit)) {
                 *iterations = iteration + 1;
                 return status::kSuccess;
             }
@@ -88,6 +91,8 @@ public:
                     return status::kSuccess;
                 }
                 small_before = true;
+            } else {
+                crawled = 0;
             }
             // In the last pass of a limit the old value stays: the two last ones are compared below.
             if (limit < 0 || iteration < limit - 1) chi = chi_new;

@@ -215,6 +215,29 @@ TEST(FitNonlinear, ACircleOfStepsWithoutEffectAndRejectionsEnds) {
     EXPECT_EQ(a[0], 1);
 }
 
+TEST(FitNonlinear, ACrawlOfStepsThatLowerNextToNothingEnds) {
+    // Every other trial is rejected, and clears the small change before it; the others lower chi-square by 2e-13 of it.
+    static double level;
+    static int curvature_calls, trials;
+    level = 0.01;
+    curvature_calls = 3;
+    trials = 0;
+    const auto crawl = [](double, double* a, std::int32_t) {
+        if (curvature_calls == 3 || curvature_calls == 0) {
+            if (curvature_calls-- == 3) return level;
+            curvature_calls = 0;
+            if (++trials % 2) return 2 * level;
+            curvature_calls = 3;
+            return level *= 1 - 1e-13;
+        }
+        --curvature_calls;
+        return a[0];
+    };
+    Reals a{1};
+    EXPECT_EQ(ZemFunc130(Reals{0}, Reals{0}, nullptr, 1, crawl, a, 1, nullptr), 0);
+    EXPECT_EQ(trials, 20001);
+}
+
 TEST(FitNonlinear, ChecksStandInOrder) {
     const Reals x = Grid(4), y{1, 2, 3, 4};
     Reals fitted = Output(4), a{1, 1};
