@@ -79,7 +79,7 @@ set(QUORVAN_FLAGS_ALL -fno-trapping-math)
 set(QUORVAN_FLAGS_baseline)
 set(QUORVAN_FLAGS_avx2 -mavx2 -mfma)
 # GCC 12 takes the don't-care operand of its own intrinsics for an uninitialised variable.
-set(QUORVAN_FLAGS_avx512 -Wno-maybe-uninitialized -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
+set(QUORVAN_FLAGS_avx512 -Wno-uninitialized -Wno-maybe-uninitialized -mavx2 -mfma -mavx512f -mavx512dq -mavx512vl -mprefer-vector-width=512)
 
 add_library(quorvan_core OBJECT ${QUORVAN_UNITS})
 set_source_files_properties(${PROJECT_SOURCE_DIR}/frame/platform_windows_math.cpp PROPERTIES COMPILE_OPTIONS -fno-builtin)

@@ -150,20 +150,28 @@ Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStrid
     return Decimation<RealRun>(RealRun{*plan, in, out, inStride, outStride}, plan->whole).Transform();
 }
 
-bool FftGivesSpectrum(const FftPlan* plan) noexcept { return plan->spectrumLeaf != nullptr; }
+bool FftGivesSpectrum(const FftPlan* plan) noexcept {
+    return plan->spectrumLeaf || plan->split.rows || plan->recordsPlan;
+}
 
-// The output is the workspace: the transforms of the records stand in its first half until the last stage.
 Status FftSpectrum(const FftPlan* plan, const double* x, bool shift, double* out) noexcept {
     const Count n = plan->size;
     double *const low = shift ? out + n : out, *const high = shift ? out : out + n;
+    if (const FftSpectrumSplit& split = plan->split; split.rows) {
+        alignas(64) double rows[kSpectrumRowsRoom];
+        split.rows(x, split.factor, rows, split.turns);
+        split.stage(rows, low, high, split.columns, split.turns);
+        return status::kSuccess;
+    }
     if (plan->factorCount == 1) {
         plan->spectrumLeaf(x, low, high, *plan->stages[0]);
         return status::kSuccess;
     }
-    if (const FftSpectrumSplit& split = plan->split; split.leaf) {
-        split.leaf(x, x + 1, out, out + 1, 2, 2, split.leaves, 2 * Size(split.leaves), split.positions, split.turns);
-        split.stage(out, low, high, split.columns, split.turns);
-        return status::kSuccess;
+    // The output is the workspace: the transforms of the records stand in its first half until the last stage.
+    if (plan->recordsPlan) {
+        const Status status = FftComplex(plan->recordsPlan, x, x + 1, out, out + 1, 2, 2, n / 2);
+        if (status == status::kSuccess) plan->spectrumStage(out, low, high, n / 2, plan->recordsTurns);
+        return status;
     }
     const ComplexRun records{*plan, x, x + 1, out, out + 1, 2, 2};
     if (const Status status = Decimation<ComplexRun>(records, plan->half).Transform(); status < 0) return status;

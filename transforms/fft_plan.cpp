@@ -34,6 +34,15 @@ constexpr KernelSize kKernelSizes[] = {{10, 0.35}, {43, 1.60}, {41, 1.60}, {37, 
                                        {4, 0.33},  {3, 0.28},  {2, 0.26}};
 constexpr Count kFirstLargePrime = 50;
 
+// All bins of n = f m reals in two passes: the lengths m and what a vector of such sequences costs in the first, the
+// factors f and what a vector of columns costs in the second, in nanoseconds of the same machine; and what a point
+// costs by the levels of a plan.
+constexpr KernelSize kRowLengths[] = {{3, 5},   {4, 5},   {5, 6},   {7, 9},   {8, 8},   {9, 10},  {10, 8.5}, {11, 13},
+                                      {12, 10}, {13, 16}, {14, 12}, {15, 12}, {16, 13}, {17, 29}, {18, 19},  {19, 35},
+                                      {20, 18}, {23, 60}, {25, 29}, {29, 60}, {31, 65}, {32, 31}};
+constexpr KernelSize kRowsStages[] = {{2, 5}, {4, 8}, {8, 17}, {10, 22}, {14, 44}, {16, 43}, {18, 59}, {32, 108}};
+constexpr double kLevelsCost = 1.1;
+
 FftPlan* CreateUnlocked(Count size) noexcept;
 void ReleaseUnlocked(FftPlan* plan) noexcept;
 
@@ -106,16 +115,21 @@ void ChooseKernels(FftPlan& plan) noexcept {
     }
 }
 
-// A few leaves of 32 records leave lanes of a vector empty and cost as much as a full one. Twice as many leaves of half
-// the length fill it, and the last stage merges with twice the factor.
+// The two passes that cost least, unless the levels of the plan cost less. Each pass goes by whole vectors.
 void ChooseSplit(FftPlan& plan) noexcept {
-    constexpr Count kLongLeaf = 32;
-    const Count first = plan.factors[0], leaf = kLongLeaf / 2;
-    if (plan.factorCount != 2 || plan.factors[1] != kLongLeaf || first % 2 ||
-        first >= kFftKernels().blockWidth(INT32_MAX))
-        return;
-    plan.split = {
-        kFftKernels().kernel(leaf)->leaf, kFftKernels().kernel(2 * first)->spectrumStage, first, leaf, nullptr, {}};
+    if (plan.factorCount < 2 || plan.size > kMostRows * kLongestRow) return;
+    const FftKernelTable& kernels = kFftKernels();
+    const Count width = kernels.blockWidth(INT32_MAX);
+    const auto vectors = [width](Count count) { return (count + width - 1) / width; };
+    double least = kLevelsCost * plan.size;
+    for (const auto& [factor, stageCost] : kRowsStages)
+        for (const auto& [m, rowsCost] : kRowLengths) {
+            if (factor * m != plan.size) continue;
+            const double cost = vectors(factor) * rowsCost + vectors((m + 1) / 2) * stageCost;
+            if (cost >= least) continue;
+            least = cost;
+            plan.split = {kernels.rows(m), kernels.kernel(factor)->rowsStage, factor, m, {}};
+        }
 }
 
 Status MakeStages(FftPlan& plan) noexcept {
@@ -190,7 +204,13 @@ void FillStated(FftStage& stage, Count f, Count m) noexcept {
 // What the transforms read: the twiddles of each stage in the one order that its routine takes them in.
 Status MakeTwiddles(FftPlan& plan) noexcept {
     FftSpectrumSplit& split = plan.split;
-    const Status status = AllocateTables(plan.tables, RoomyLength, [&plan, &split](TableLayout& layout) {
+    // Two passes by the factors of the plan find the turns of their columns at the beginning of its own table, whose
+    // blocks are of full width there but for a few columns in all.
+    constexpr Count kFewColumns = 4;
+    const bool ownTurns =
+        split.rows && (plan.factorCount > 2 || plan.factors[0] != split.factor || split.columns <= kFewColumns);
+    const Count width = kFftKernels().blockWidth(INT32_MAX), turned = (split.columns / 2 + width) / width * width;
+    const Status status = AllocateTables(plan.tables, RoomyLength, [&](TableLayout& layout) {
         ForTurnedStages(plan, [&](FftStage& stage, Count kind, Count f, Count m) {
             if (kind == kLargePrime)
                 PlaceStated(layout, stage, f, m);
@@ -199,9 +219,7 @@ Status MakeTwiddles(FftPlan& plan) noexcept {
         });
         for (FftSchedule* schedule : {&plan.whole, &plan.half})
             schedule->leafPositions = reinterpret_cast<Count*>(layout.Take((Size(schedule->leaves) + 1) / 2));
-        if (!split.leaf) return;
-        split.turns.blockedTwiddles = layout.Take(BlockedLength(2 * split.leaves, split.columns));
-        split.positions = reinterpret_cast<Count*>(layout.Take((Size(split.leaves) + 1) / 2));
+        if (ownTurns) split.turns.blockedTwiddles = layout.Take(BlockedLength(split.factor, turned));
     });
     if (status < 0) return status;
     ForTurnedStages(plan, [](FftStage& stage, Count kind, Count f, Count m) {
@@ -210,9 +228,10 @@ Status MakeTwiddles(FftPlan& plan) noexcept {
         else
             BlockedTwiddles(kTwoPi / (Size(f) * m), f, m, stage.blockedTwiddles);
     });
-    if (!split.leaf) return status::kSuccess;
-    BlockedTwiddles(kTwoPi / plan.size, 2 * split.leaves, split.columns, split.turns.blockedTwiddles);
-    for (Count t = 0; t < split.leaves; ++t) split.positions[t] = t * split.columns;
+    if (ownTurns)
+        BlockedTwiddles(kTwoPi / plan.size, split.factor, turned, split.turns.blockedTwiddles);
+    else if (split.rows)
+        split.turns.blockedTwiddles = plan.stages[0]->blockedTwiddles;
     return status::kSuccess;
 }
 
@@ -235,6 +254,22 @@ Status StateTwiddles(FftPlan& plan) noexcept {
     return status::kSuccess;
 }
 
+// What FftSpectrum needs where neither two passes nor the first factor serve.
+Status TakeRecords(FftPlan& plan) noexcept {
+    if (plan.size % 2 || FftGivesSpectrum(&plan)) return status::kSuccess;
+    const Count half = plan.size / 2;
+    if (!plan.recordsTables) {
+        double*& turns = plan.recordsTurns.blockedTwiddles;
+        const Status status = AllocateTables(plan.recordsTables, BareLength,
+                                             [&](TableLayout& layout) { turns = layout.Take(BlockedLength(2, half)); });
+        if (status < 0) return status;
+        BlockedTwiddles(kTwoPi / plan.size, 2, half, turns);
+        plan.spectrumStage = kFftKernels().kernel(2)->spectrumStage;
+    }
+    plan.recordsPlan = CreateUnlocked(half);
+    return plan.recordsPlan ? status::kSuccess : status::kOutOfMemory;
+}
+
 Status MakePrimeTables(FftPlan& plan) noexcept {
     for (Count i = 0; i < plan.factorCount; ++i) {
         if (plan.kinds[i] != kGenericPrime) continue;
@@ -242,6 +277,9 @@ Status MakePrimeTables(FftPlan& plan) noexcept {
         const Count f = plan.factors[i];
         if (!Allocate(stage.primeCos, f) || !Allocate(stage.primeSin, f)) return status::kOutOfMemory;
         UnitCircle(kTwoPi / f, false, f, stage.primeCos, stage.primeSin);
+        if (plan.split.columns != f) continue;
+        plan.split.turns.primeCos = stage.primeCos;
+        plan.split.turns.primeSin = stage.primeSin;
     }
     return status::kSuccess;
 }
@@ -374,6 +412,8 @@ void Free(FftPlan* plan) noexcept {
         HeapFree(stage->raderScatter);
         HeapFree(stage);
     }
+    ReleaseUnlocked(plan->recordsPlan);
+    HeapFree(plan->recordsTables);
     HeapFree(plan->tables);
     HeapFree(plan->statedTables);
     HeapFree(plan);
@@ -421,17 +461,16 @@ void ReleaseUnlocked(FftPlan* plan) noexcept {
 
 }  // namespace
 
-FftPlan* FftPlanCreate(Count size) noexcept {
-    const std::lock_guard lock(PlanMutex());
-    return CreateUnlocked(size);
-}
-
-FftPlan* FftPlanCreateStated(Count size) noexcept {
+FftPlan* FftPlanCreate(Count size, FftPlanUse use) noexcept {
     const std::lock_guard lock(PlanMutex());
     FftPlan* plan = CreateUnlocked(size);
-    if (!plan || StateTwiddles(*plan) == status::kSuccess) return plan;
-    ReleaseUnlocked(plan);
-    return nullptr;
+    if (!plan) return nullptr;
+    if ((use >= FftPlanUse::kSpectra && TakeRecords(*plan) < 0) ||
+        (use >= FftPlanUse::kCallers && StateTwiddles(*plan) < 0)) {
+        ReleaseUnlocked(plan);
+        return nullptr;
+    }
+    return plan;
 }
 
 void FftPlanRelease(FftPlan* plan) noexcept {

@@ -7,11 +7,13 @@ namespace quorvan {
 
 struct FftPlan;
 
-// The plan of this size with one more reference, or null when the size is below 1 or memory ran out. Locks.
-FftPlan* FftPlanCreate(Count size) noexcept;
-// The same with the twiddles in their plain order too, which no transform reads and whoever holds a plan may. A plan
-// that lives already gets them now: other threads may be transforming by it, but they do not look there.
-FftPlan* FftPlanCreateStated(Count size) noexcept;
+// What a plan is made for: transforms; all bins of reals too (FftSpectrum); or a caller, who holds it for both and may
+// read the twiddles in their plain order, which no transform does.
+enum class FftPlanUse { kTransforms, kSpectra, kCallers };
+
+// The plan of this size with one more reference, or null when the size is below 1 or memory ran out. Locks. A plan that
+// lives already gets what it lacks: other threads may be transforming by it, but they do not look there.
+FftPlan* FftPlanCreate(Count size, FftPlanUse use = FftPlanUse::kTransforms) noexcept;
 // Drops a reference; the last one frees the plan. Null is ignored. Locks.
 void FftPlanRelease(FftPlan* plan) noexcept;
 
@@ -24,7 +26,8 @@ Count FftFastSize(Count n) noexcept;
 // A held reference, dropped at the end of the scope.
 class HeldPlan {
 public:
-    explicit HeldPlan(Count size) noexcept : plan_(FftPlanCreate(size)) {}
+    explicit HeldPlan(Count size, FftPlanUse use = FftPlanUse::kTransforms) noexcept
+        : plan_(FftPlanCreate(size, use)) {}
     HeldPlan(const HeldPlan&) = delete;
     HeldPlan& operator=(const HeldPlan&) = delete;
     ~HeldPlan() { FftPlanRelease(plan_); }

@@ -60,15 +60,15 @@ struct FftSchedule {
     Count* leafPositions;
 };
 
-// All bins of reals by other factors than those of the plan: one pass of leaves over the records, and the last stage.
+// All bins of reals in two passes, by factors of their own; where no two serve, by the levels of the plan.
 struct FftSpectrumSplit {
-    ComplexLeafKernel leaf;  // null where the factors of the plan serve
-    SpectrumStageKernel stage;
-    Count leaves;
+    SpectrumRowsKernel rows;  // null where the levels of the plan serve
+    RowsStageKernel stage;
+    Count factor;
     Count columns;
-    Count* positions;
     FftStage turns;  // blocked twiddles only
 };
+inline constexpr Count kSpectrumRowsRoom = kMostRows * (kLongestRow + 1);
 
 struct FftPlan {
     Count size;
@@ -93,9 +93,15 @@ struct FftPlan {
     SpectrumLeafKernel spectrumLeaf;
     SpectrumStageKernel spectrumStage;
     FftSpectrumSplit split;
-    // The block that the twiddles of the transforms and the leaf positions stand in, and that of the other order.
+    // Even sizes with an odd first factor and no two passes: the plan of half the size, which transforms the reals as
+    // records, and the turns of the stage of 2 behind it. Only in plans that spectra of reals are made by.
+    FftPlan* recordsPlan;
+    FftStage recordsTurns;
+    // The block that the twiddles of the transforms and the leaf positions stand in, and those of the plain
+    // order and of the stage of 2.
     double* tables;
     double* statedTables;
+    double* recordsTables;
 };
 
 }  // namespace quorvan

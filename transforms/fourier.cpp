@@ -13,7 +13,8 @@ namespace {
 // The caller's plan, or one for the duration of the call.
 class GivenPlan {
 public:
-    GivenPlan(const FftPlan* given, Count size) noexcept : own_(given ? nullptr : FftPlanCreate(size)), plan_(given) {
+    GivenPlan(const FftPlan* given, Count size, FftPlanUse use = FftPlanUse::kTransforms) noexcept
+        : own_(given ? nullptr : FftPlanCreate(size, use)), plan_(given) {
         if (!given) plan_ = own_;
     }
     GivenPlan(const GivenPlan&) = delete;
@@ -41,7 +42,7 @@ Status TransformRealFft(const double* x, Count n, Count fftSize, const FftPlan* 
     const Count length = TransformLength(n, fftSize);
     if (n < 1) return status::kSamplesNotPositive;
     if (Mismatch(plan, length)) return status::kSizesDiffer;
-    const GivenPlan used(plan, length);
+    const GivenPlan used(plan, length, FftPlanUse::kSpectra);
     if (!used) return status::kOutOfMemory;
     return SpectrumOfReals(used, x, n, length, shift, out);
 }

@@ -46,7 +46,7 @@ Status TransformRealFft2D(const double* x, Count rows, Count cols, Count fftRows
         out[0] = {x[0], 0};
         return status::kSuccess;
     }
-    const Plane plane(R, C);
+    const Plane plane(R, C, FftPlanUse::kSpectra);
     if (!plane) return status::kOutOfMemory;
     for (Size r = 0; r < used; ++r)
         if (const Status failure = SpectrumOfReals(plane.rowPlan(), x + r * cols, cols, C, shift, out + r * C))

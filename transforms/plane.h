@@ -11,10 +11,10 @@ namespace quorvan {
 // Plans and workspace for arrays of rows x cols bins.
 class Plane {
 public:
-    Plane(Count rows, Count cols) noexcept
+    Plane(Count rows, Count cols, FftPlanUse rowUse = FftPlanUse::kTransforms) noexcept
         : rows_(rows),
           cols_(cols),
-          rowPlan_(cols),
+          rowPlan_(cols, rowUse),
           columnPlan_(rows),
           line_(2 * std::size_t(cols)),
           block_(2 * std::size_t{kColumnBlock} * rows) {}

@@ -34,7 +34,7 @@ inline void RotateFromShifted(const ComplexRecord* shifted, Count length, Comple
 }
 
 // The full spectrum of `length` reals from n samples. The output is its own workspace: padded samples lie in its second
-// half, what is made of them before the bins in its first.
+// half, what is made of them before the bins in its first. The plan is one for spectra.
 inline Status SpectrumOfReals(const FftPlan* plan, const double* x, Count n, Count length, bool shift,
                               ComplexRecord* out) noexcept {
     double* packed = &out->re;

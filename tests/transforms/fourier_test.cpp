@@ -34,8 +34,11 @@ TEST(RealFft, IsTheDefiningSumOfEveryLengthInBothOrdersOnEveryInstructionSet) {
 
 TEST(RealFft, IsHermitianToTheLastBitAndRealAtZeroAndHalf) {
     ForEachTarget([] {
-        for (int n : {1,  2,  3,  4,  5,  8,  9,   10,  14,  16,  17,  18,  20,  31,  32,   33,   34,   35,
-                      36, 53, 56, 60, 64, 96, 100, 101, 106, 128, 252, 256, 360, 512, 1000, 1024, 2018, 4096}) {
+        // Two passes take the composite even lengths up to 1024 or so; longer ones go by the levels of the plan where
+        // its first factor is even, and by the plan of half the length where it is odd: 132 (3 4 11) and 3000.
+        for (int n : {1,   2,   3,   4,   5,   8,   9,   10,  12,  14,   16,   17,   18,   20,   31,  32,  33,
+                      34,  35,  36,  44,  46,  53,  56,  60,  64,  80,   96,   100,  101,  106,  128, 132, 180,
+                      240, 252, 256, 360, 400, 480, 512, 800, 992, 1000, 1024, 1040, 2018, 3000, 4096}) {
             const Reals x = RandomReals(n, 3);
             Records natural = RecordOutput(n), shifted = RecordOutput(n);
             ASSERT_EQ(ZemFunc262(x, n, n, nullptr, 0, natural), 0);
@@ -47,6 +50,24 @@ TEST(RealFft, IsHermitianToTheLastBitAndRealAtZeroAndHalf) {
                 EXPECT_EQ(natural[k].im, -natural[(n - k) % n].im);
                 EXPECT_EQ(natural[k].re, shifted[ShiftedIndex(k, n)].re);
                 EXPECT_EQ(natural[k].im, shifted[ShiftedIndex(k, n)].im);
+            }
+        }
+    });
+}
+
+TEST(RealFft, ByAHeldPlanIsThatByNoneToTheLastBit) {
+    ForEachTarget([] {
+        for (int n = 1; n < 400; ++n) {
+            const Reals x = RandomReals(n, n);
+            QvFftPlan* plan = ZemFunc260(n);
+            ASSERT_NE(plan, nullptr);
+            Records held = RecordOutput(n), own = RecordOutput(n);
+            ASSERT_EQ(ZemFunc262(x, n, n, plan, 0, held), 0);
+            ZemFunc261(plan);
+            ASSERT_EQ(ZemFunc262(x, n, n, nullptr, 0, own), 0);
+            for (int k = 0; k < n; ++k) {
+                ASSERT_EQ(held[k].re, own[k].re) << n;
+                ASSERT_EQ(held[k].im, own[k].im) << n;
             }
         }
     });
@@ -334,7 +355,7 @@ TEST(Fft, SpreadsNaNWithoutAWord) {
 }
 
 TEST(Fft, ReportsEveryFailedAllocation) {
-    for (int n : {12, kLargePrime, 2 * kLargePrime}) {
+    for (int n : {12, 132, kLargePrime, 2 * kLargePrime}) {
         const Reals x = RandomReals(n);
         const Records z = RandomRecords(n);
         for (int shift : {0, 1}) {

@@ -13,8 +13,9 @@ namespace {
 
 constexpr int kThreads = 4;
 constexpr int kRounds = 50;
-// Sizes with small factors, a prime with a kernel of its own or none, and 1.
-constexpr std::int64_t kSizes[] = {1, 12, 64, 97, 360, 1009};
+// Sizes with small factors, a prime with a kernel of its own or none, and 1; the reals of 132 go through the plan
+// of 66.
+constexpr std::int64_t kSizes[] = {1, 12, 64, 97, 132, 360, 1009};
 
 std::vector<double> Samples(std::int64_t n) {
     std::vector<double> x(n);
@@ -59,6 +60,26 @@ TEST(PlanSharingThreads, PlansMadeAndDroppedAtOnceTransformAsAlone) {
         }
     });
     EXPECT_EQ(wrong.load(), 0);
+}
+
+TEST(PlanSharingThreads, RealAndComplexTransformsOfOneLengthMeetInOnePlan) {
+    for (const std::int64_t n : {std::int64_t{66}, std::int64_t{132}}) {
+        std::vector<ComplexRecord> z(n), both(n);
+        for (std::int64_t i = 0; i < n; ++i) z[i] = {Samples(n)[i], double(i % 7)};
+        ASSERT_EQ(ZemFunc263(z.data(), n, 0, nullptr, 0, both.data()), 0);
+        const std::vector<ComplexRecord> alone = SpectrumAlone(n);
+        std::atomic<int> wrong{0};
+        Together([&](int thread) {
+            const std::vector<double> x = Samples(n);
+            std::vector<ComplexRecord> out(n);
+            for (int round = 0; round < kRounds; ++round) {
+                const QvStatus status = thread % 2 ? ZemFunc262(x.data(), n, 0, nullptr, 0, out.data())
+                                                   : ZemFunc263(z.data(), n, 0, nullptr, 0, out.data());
+                if (status != 0 || !SameBits(out, thread % 2 ? alone : both)) ++wrong;
+            }
+        });
+        EXPECT_EQ(wrong.load(), 0);
+    }
 }
 
 TEST(PlanSharingThreads, ThreadsThatAskForOneLengthGetOnePlan) {

@@ -278,7 +278,7 @@ TEST(Plan, OfAPrimeWithARoughPredecessorHoldsThatPlanAndGivesAllBack) {
 }
 
 TEST(Plan, EveryFailedAllocationGivesNullAndLeavesTheListAsItWas) {
-    for (Size size : {1, 2, 60, 1024, 23, 46, 53, 106, 2809, 683, 1367, 4099}) {
+    for (Size size : {1, 2, 60, 132, 1024, 23, 46, 53, 106, 2809, 683, 1367, 4099}) {
         SCOPED_TRACE(size);
         ExpectEveryAllocationFails([size] {
             QvFftPlan* plan = ZemFunc260(size);

@@ -9,6 +9,7 @@
 #include "transforms/kernels/kernels.h"
 #include "transforms/kernels/lanes.h"
 #include "transforms/kernels/lone_leaf.h"
+#include "transforms/kernels/rows.h"
 #include "transforms/kernels/spectrum.h"
 
 namespace quorvan::QV_TARGET {
@@ -427,12 +428,18 @@ void RealStage(double* data, Size stride, Count m, const FftStage& stage) {
 
 template <class D>
 constexpr FftKernel EntriesOf() {
-    FftKernel kernel = {ComplexLeaf<D>, ComplexStage<D>, RealLeaf<D>, RealStage<D>, nullptr, nullptr, nullptr};
+    FftKernel kernel = {};
+    kernel.leaf = ComplexLeaf<D>;
+    kernel.stage = ComplexStage<D>;
+    kernel.realLeaf = RealLeaf<D>;
+    kernel.realStage = RealStage<D>;
     if constexpr (kMaxWidth == 8 && D::kSize == 32) kernel.loneLeaf = LoneLeafOf32;
     if constexpr (D::kSize % 2 == 0) {
         kernel.spectrumLeaf = SpectrumLeaf<D>;
         kernel.spectrumStage = SpectrumStage<D>;
+        kernel.rowsStage = SpectrumOfRows<D>;
     }
+    if constexpr (D::kSize >= kLeastRow && D::kSize <= kLongestRow) kernel.rows = SpectrumRows<D>;
     return kernel;
 }
 template <class D>

@@ -28,6 +28,12 @@ using RealStageKernel = void (*)(double* data, Size stride, Count m, const FftSt
 using SpectrumLeafKernel = void (*)(const double* x, double* low, double* high, const FftStage& stage);
 using SpectrumStageKernel = void (*)(const double* z, double* low, double* high, Count m, const FftStage& stage);
 
+// The same in two passes over f sequences of length m: the spectra of the sequences x[k f + t] as rows, in room for
+// kMostRows, and the stage of f over them.
+using SpectrumRowsKernel = void (*)(const double* x, Count f, double* rows, const FftStage& stage);
+using RowsStageKernel = void (*)(const double* rows, double* low, double* high, Count m, const FftStage& stage);
+inline constexpr Count kLeastRow = 3, kLongestRow = 32, kMostRows = 32;
+
 struct FftKernel {
     ComplexLeafKernel leaf;
     ComplexStageKernel stage;
@@ -37,12 +43,16 @@ struct FftKernel {
     ComplexLeafKernel loneLeaf;
     SpectrumLeafKernel spectrumLeaf;
     SpectrumStageKernel spectrumStage;
+    SpectrumRowsKernel rows;
+    RowsStageKernel rowsStage;
 };
 
 // The kernels of one instruction set.
 struct FftKernelTable {
     // Null for a factor without a kernel.
     const FftKernel* (*kernel)(Count factor);
+    // Null for a length without a kernel of its own, and outside kLeastRow to kLongestRow.
+    SpectrumRowsKernel (*rows)(Count m);
     // How many adjacent columns the stage kernels take at once when `left` are left of a row.
     Count (*blockWidth)(Count left);
     // The column that stands in this lane of a block.

@@ -8,7 +8,8 @@
 // backwards, the last record in memory belongs to column 0. Loaded backwards, column 0 is the record at `first`, column
 // c the c-th before `end`: W records are read there, or those of columns 1 to c for the Records of {0, c}. In rows of
 // whole vectors such a load begins where a store began: of data that is still on its way to memory, a load can have
-// what one store wrote, but not parts of two.
+// what one store wrote, but not parts of two. Stored after column 0, all columns of the Records but that one go
+// backwards, and no instruction reaches beyond column 1: where a page ends there, even a masked one may take long.
 #pragma once
 
 #include "frame/targets.h"
@@ -64,6 +65,7 @@ struct Lanes<1> {
     QV_INLINE static void StoreConjugatesBackwards(double* p, Records records, V re, V im) {
         StoreRecords(p, records, re, -im);
     }
+    QV_INLINE static void StoreConjugatesAfterFirst(double*, Records, V, V) {}
     QV_INLINE static V Load(const double* p) { return *p; }
     QV_INLINE static V Load(const double* p, LaneRange r) { return r.first < r.last ? *p : 0.0; }
     QV_INLINE static void Store(double* p, V v) { *p = v; }
@@ -75,6 +77,7 @@ struct Lanes<1> {
     QV_INLINE static V ToLanesReversed(V v) { return v; }
     QV_INLINE static V FromLanesReversed(V v) { return v; }
     QV_INLINE static void Transpose(V*) {}
+    QV_INLINE static void JoinRows(const V* re, const V* im, V* rows) { rows[0] = *re, rows[1] = *im; }
 };
 
 #if defined(__SSE2__)
@@ -125,6 +128,9 @@ struct Lanes<2> {
         if (r.second) _mm_storeu_pd(p, Conjugate(_mm_unpackhi_pd(re, im)));
         if (r.first) _mm_storeu_pd(p + 2, Conjugate(_mm_unpacklo_pd(re, im)));
     }
+    QV_INLINE static void StoreConjugatesAfterFirst(double* p, Records r, V re, V im) {
+        if (r.second) _mm_storeu_pd(p, Conjugate(_mm_unpackhi_pd(re, im)));
+    }
     QV_INLINE static V Load(const double* p) { return _mm_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) {
         return _mm_set_pd(r.last > 1 ? p[1] : 0.0, r.first < 1 ? p[0] : 0.0);
@@ -143,6 +149,14 @@ struct Lanes<2> {
     // W/2 vectors of records: the i-th takes the i-th record of each.
     QV_INLINE static void TransposeRows(V*) {}
 
+    // W vectors of real and W of imaginary parts of the same numbers, a sequence in each lane: a row of both for each
+    // sequence. There may be fewer lanes than W.
+    QV_INLINE static void JoinRows(const V* re, const V* im, V* rows) {
+        rows[0] = _mm_unpacklo_pd(re[0], re[1]);
+        rows[1] = _mm_unpacklo_pd(im[0], im[1]);
+        rows[2] = _mm_unpackhi_pd(re[0], re[1]);
+        rows[3] = _mm_unpackhi_pd(im[0], im[1]);
+    }
     QV_INLINE static void Transpose(V* v) {
         const V a = _mm_unpacklo_pd(v[0], v[1]);
         v[1] = _mm_unpackhi_pd(v[0], v[1]);
@@ -215,6 +229,10 @@ struct Lanes<4> {
         _mm256_maskstore_pd(p, records.backA, ConjugatesBackwards(_mm256_unpackhi_pd(re, im)));
         _mm256_maskstore_pd(p + 4, records.backB, ConjugatesBackwards(_mm256_unpacklo_pd(re, im)));
     }
+    QV_INLINE static void StoreConjugatesAfterFirst(double* p, Records records, V re, V im) {
+        _mm256_maskstore_pd(p, records.backA, ConjugatesBackwards(_mm256_unpackhi_pd(re, im)));
+        _mm_storeu_pd(p + 4, _mm256_castpd256_pd128(ConjugatesBackwards(_mm256_unpacklo_pd(re, im))));
+    }
     QV_INLINE static V Load(const double* p) { return _mm256_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) { return _mm256_maskload_pd(p, Mask(r.first, r.last)); }
     QV_INLINE static void Store(double* p, V v) { _mm256_storeu_pd(p, v); }
@@ -235,6 +253,21 @@ struct Lanes<4> {
         v[0] = a;
     }
 
+    QV_INLINE static V JoinHalves(__m128d low, __m128d high) {
+        return _mm256_insertf128_pd(_mm256_castpd128_pd256(low), high, 1);
+    }
+    QV_INLINE static void JoinRows(const V* re, const V* im, V* rows) {
+        V a[4] = {re[0], re[1], re[2], re[3]}, b[4] = {im[0], im[1], im[2], im[3]};
+        Transpose(a);
+        Transpose(b);
+        for (int t = 0; t < 4; ++t) rows[2 * t] = a[t], rows[2 * t + 1] = b[t];
+    }
+    QV_INLINE static void JoinRows(const __m128d* re, const __m128d* im, V* rows) {
+        V both[4];
+        for (int i = 0; i < 4; ++i) both[i] = JoinHalves(re[i], im[i]);
+        Transpose(both);
+        for (int t = 0; t < 2; ++t) rows[2 * t] = both[t], rows[2 * t + 1] = both[t + 2];
+    }
     QV_INLINE static void Transpose(V* v) {
         const V a = _mm256_unpacklo_pd(v[0], v[1]), b = _mm256_unpackhi_pd(v[0], v[1]);
         const V c = _mm256_unpacklo_pd(v[2], v[3]), d = _mm256_unpackhi_pd(v[2], v[3]);
@@ -310,6 +343,12 @@ struct Lanes<8> {
         _mm512_mask_storeu_pd(p, records.backA, ConjugatesBackwards(_mm512_unpackhi_pd(re, im)));
         _mm512_mask_storeu_pd(p + 8, records.backB, ConjugatesBackwards(_mm512_unpacklo_pd(re, im)));
     }
+    QV_INLINE static void StoreConjugatesAfterFirst(double* p, Records records, V re, V im) {
+        _mm512_mask_storeu_pd(p, records.backA, ConjugatesBackwards(_mm512_unpackhi_pd(re, im)));
+        const V near = ConjugatesBackwards(_mm512_unpacklo_pd(re, im));
+        _mm256_mask_storeu_pd(p + 8, records.backB, _mm512_castpd512_pd256(near));
+        _mm_storeu_pd(p + 12, _mm512_extractf64x2_pd(near, 2));
+    }
     QV_INLINE static V Load(const double* p) { return _mm512_loadu_pd(p); }
     QV_INLINE static V Load(const double* p, LaneRange r) { return _mm512_maskz_loadu_pd(Mask(r.first, r.last), p); }
     QV_INLINE static void Store(double* p, V v) { _mm512_storeu_pd(p, v); }
@@ -328,6 +367,38 @@ struct Lanes<8> {
     }
     QV_INLINE static V EvenPairs(V a, V b) { return _mm512_unpacklo_pd(a, b); }
     QV_INLINE static V OddPairs(V a, V b) { return _mm512_unpackhi_pd(a, b); }
+    QV_INLINE static V JoinHalves(__m256d low, __m256d high) {
+        return _mm512_insertf64x4(_mm512_castpd256_pd512(low), high, 1);
+    }
+    QV_INLINE static void JoinRows(const V* re, const V* im, V* rows) {
+        V a[8], b[8];
+        for (int i = 0; i < 8; ++i) a[i] = re[i], b[i] = im[i];
+        Transpose(a);
+        Transpose(b);
+        for (int t = 0; t < 8; ++t) rows[2 * t] = a[t], rows[2 * t + 1] = b[t];
+    }
+    QV_INLINE static void JoinRows(const __m256d* re, const __m256d* im, V* rows) {
+        V both[8];
+        for (int i = 0; i < 8; ++i) both[i] = JoinHalves(re[i], im[i]);
+        Transpose(both);
+        for (int t = 0; t < 4; ++t) rows[2 * t] = both[t], rows[2 * t + 1] = both[t + 4];
+    }
+    QV_INLINE static void JoinRows(const __m128d* re, const __m128d* im, V* rows) {
+        __m256d low[4], high[4];  // the first and the second sequence, real parts below, for two columns each
+        for (int i = 0; i < 4; ++i) {
+            const __m256d a = Lanes<4>::JoinHalves(re[2 * i], im[2 * i]);
+            const __m256d b = Lanes<4>::JoinHalves(re[2 * i + 1], im[2 * i + 1]);
+            low[i] = _mm256_unpacklo_pd(a, b);
+            high[i] = _mm256_unpackhi_pd(a, b);
+        }
+        JoinPairs(low, rows);
+        JoinPairs(high, rows + 2);
+    }
+    QV_INLINE static void JoinPairs(const __m256d* columns, V* row) {
+        const V a = JoinHalves(columns[0], columns[1]), b = JoinHalves(columns[2], columns[3]);
+        row[0] = _mm512_shuffle_f64x2(a, b, 0b10'00'10'00);
+        row[1] = _mm512_shuffle_f64x2(a, b, 0b11'01'11'01);
+    }
     QV_INLINE static void TransposeRows(V* v) { TransposePairs(v[0], v[1], v[2], v[3], v); }
 
     QV_INLINE static void TransposePairs(V a, V b, V c, V d, V* rows) {

@@ -27,57 +27,95 @@ struct Bins {
     QV_INLINE double* Falling(int k) const { return k < h ? high + 2 * (h - k) * m : low + 2 * (f - k) * m; }
 };
 
-// A block of columns: W inner ones, W with column 0, or any range, with the middle column of even m or without.
-enum class ColumnBlock { kInner, kFirst, kAny };
+// A block of columns: W that have mirror images in other columns all; W with column 0; what is left behind such blocks,
+// with the middle column of even m; and, of few columns, all.
+enum class ColumnBlock { kInner, kFirst, kLast, kOnly };
 
+// Columns j to j + W - 1 of a last stage. Each kind of block is a function of its own: within one, GCC 12 makes common
+// what the kinds share, and the addresses that it then keeps on the stack cost as much as the sums.
 template <class D, int W>
 struct SpectrumOf {
     using L = Lanes<W>;
     using V = typename L::V;
     using Records = typename L::Records;
     static constexpr int f = D::kSize, h = f / 2;
+    static constexpr bool IsFirst(ColumnBlock b) { return b == ColumnBlock::kFirst || b == ColumnBlock::kOnly; }
+    static constexpr bool IsWhole(ColumnBlock b) { return b == ColumnBlock::kInner || b == ColumnBlock::kFirst; }
 
-    // Columns j to j + W - 1. `paired` is the range of those that have a mirror image in other columns; `all` adds
-    // column 0 and the middle one, whose spectra repeat their lower half in the upper, which is left out.
     template <ColumnBlock kBlock>
-    QV_INLINE static void Stage(const double* z, Bins<f> bins, Size j, LaneRange all, LaneRange paired,
-                                const double* table, const FftStage& stage) {
-        const Records whole = L::RecordsIn(all), inner = L::RecordsIn(paired);
-        const Records withFirst = L::RecordsIn({all.first, paired.last}), others = L::RecordsIn({0, all.last - 1});
-        const Records withMiddle = L::RecordsIn({paired.first, all.last});
+    __attribute__((noinline)) static void FromRecords(const double* z, double* low, double* high, Size m, Size j,
+                                                      const FftStage& stage) {
+        const LaneRange all = Range<kBlock>(m, j).all;
+        const Records whole = L::RecordsIn(all), others = L::RecordsIn({0, all.last - 1});
         V re[f], im[f];
         for (int s = 0; s < h; ++s) {
-            const double* up = z + 2 * (s * bins.m + j);
-            const double* down = z + 2 * ((s + 1) * bins.m - j);
-            const bool withZero = kBlock == ColumnBlock::kFirst || (kBlock == ColumnBlock::kAny && j == 0);
-            const double* first = withZero ? up : down;  // column 0 is its own mirror image
+            const double* up = z + 2 * (s * m + j);
+            const double* down = z + 2 * ((s + 1) * m - j);
+            const double* first = IsFirst(kBlock) ? up : down;  // column 0 is its own mirror image
             V backRe, backIm;
-            if constexpr (kBlock == ColumnBlock::kAny) {
-                L::LoadRecords(up, whole, re[2 * s], im[2 * s]);
-                L::LoadBackwards(first, down, others, backRe, backIm);
-            } else {
+            if constexpr (IsWhole(kBlock)) {
                 L::LoadRecords(up, re[2 * s], im[2 * s]);
                 L::LoadBackwards(first, down, backRe, backIm);
+            } else {
+                L::LoadRecords(up, whole, re[2 * s], im[2 * s]);
+                L::LoadBackwards(first, down, others, backRe, backIm);
             }
             Separate(re + 2 * s, im + 2 * s, backRe, backIm);
         }
-        for (int k = 1; k < f; ++k) Twiddle<W>(table, k, re[k], im[k]);
+        Merge<kBlock>({low, high, m}, j, stage, [&](int k, V& x, V& y) QV_INLINE_LAMBDA { x = re[k], y = im[k]; });
+    }
+
+    template <ColumnBlock kBlock>
+    __attribute__((noinline)) static void FromRows(const double* rows, double* low, double* high, Size m, Size j,
+                                                   const FftStage& stage) {
+        Merge<kBlock>({low, high, m}, j, stage, [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
+            x = L::Load(rows + 2 * W * k);
+            y = L::Load(rows + 2 * W * k + W);
+        });
+    }
+
+private:
+    // The lanes of columns that have a mirror image in other columns; and those with column 0 and the middle one, whose
+    // spectra repeat their lower half in the upper, which is left out.
+    struct Ranges {
+        LaneRange all, paired;
+    };
+    template <ColumnBlock kBlock>
+    QV_INLINE static Ranges Range(Size m, Size j) {
+        constexpr int kPairedFrom = IsFirst(kBlock);
+        if constexpr (IsWhole(kBlock)) return {{0, W}, {kPairedFrom, W}};
+        const int left = static_cast<int>((m + 1) / 2 - j), last = left < W ? left : W;
+        return {{0, last + (m % 2 == 0 && left < W)}, {kPairedFrom, last}};
+    }
+
+    template <ColumnBlock kBlock, class In>
+    QV_INLINE static void Merge(const Bins<f> bins, const Size j, const FftStage& stage, const In& in) {
+        const auto [all, paired] = Range<kBlock>(bins.m, j);
+        const Records whole = L::RecordsIn(all), inner = L::RecordsIn(paired);
+        const Records withFirst = L::RecordsIn({all.first, paired.last});
+        const Records withMiddle = L::RecordsIn({paired.first, all.last});
+        const double* const table = stage.blockedTwiddles + 2 * (f - 1) * j;
         D::template Complex<V>(
-            stage, [&](int k, V& x, V& y) QV_INLINE_LAMBDA { x = re[k], y = im[k]; },
+            stage,
+            [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
+                in(k, x, y);
+                if (k > 0) Twiddle<W>(table, k, x, y);
+            },
             [&](int k, V x, V y) QV_INLINE_LAMBDA {
                 double *up = bins.Rising(k) + 2 * j, *down = bins.Falling(k) - 2 * (j + W - 1);
-                if (kBlock == ColumnBlock::kInner || (kBlock == ColumnBlock::kFirst && k <= h))
+                if (IsWhole(kBlock) && (!IsFirst(kBlock) || k <= h))
                     L::StoreRecords(up, x, y);
                 else
                     L::StoreRecords(up, k < h ? whole : k == h ? withFirst : inner, x, y);
-                if (kBlock == ColumnBlock::kInner || (kBlock == ColumnBlock::kFirst && k > 0 && k < h))
+                if (IsFirst(kBlock) && k == 0)
+                    L::StoreConjugatesAfterFirst(down, withMiddle, x, y);  // the mirror of X[0] is beyond the spectrum
+                else if (IsWhole(kBlock) && (!IsFirst(kBlock) || k < h))
                     L::StoreConjugatesBackwards(down, x, y);
                 else
                     L::StoreConjugatesBackwards(down, k == 0 ? withMiddle : k < h ? whole : inner, x, y);
             });
     }
 
-private:
     // Z[j] and Z[m - j] become A[j] and B[j]. Halved first: the sums must not overflow where the bins do not.
     QV_INLINE static void Separate(V* re, V* im, V backRe, V backIm) {
         const V x = 0.5 * re[0], y = 0.5 * im[0], backX = 0.5 * backRe, backY = 0.5 * backIm;
@@ -87,47 +125,61 @@ private:
 };
 
 // The middle column of even m alone: its f values are real, and its bins are half a bin further up.
-template <class D>
-QV_INLINE void MiddleOfSpectrum(const double* z, Bins<D::kSize> bins, Count middle, const FftStage& stage) {
+template <class D, class In>
+QV_INLINE void MiddleOfSpectrum(const In& in, Bins<D::kSize> bins, Count middle, const FftStage& stage) {
     const Size column = 2 * Size(middle);
-    D::template Middle<double>(
-        stage, [&](int k) QV_INLINE_LAMBDA { return z[k / 2 * 2 * bins.m + column + k % 2]; },
-        [&](int k, double re, double im) QV_INLINE_LAMBDA {
-            Lanes<1>::StoreRecords(bins.Rising(k) + column, re, im);
-            Lanes<1>::StoreRecords(bins.Falling(k) - column, re, -im);
+    D::template Middle<double>(stage, in, [&](int k, double re, double im) QV_INLINE_LAMBDA {
+        Lanes<1>::StoreRecords(bins.Rising(k) + column, re, im);
+        Lanes<1>::StoreRecords(bins.Falling(k) - column, re, -im);
+    });
+}
+
+// Calls take<W, kBlock>(j) for the blocks of columns 0 to m / 2, in the widths of the blocks of all m columns or all of
+// the widest; the answer is whether the middle column of even m stands behind them.
+template <bool kWidest, class Take>
+QV_INLINE bool ForBlocksOfSpectrum(Count m, const Take& take) {
+    const Count pairedEnd = (m + 1) / 2;  // columns 1 to pairedEnd - 1 have their mirror images in other columns
+    Count j = 0;
+    while (j < pairedEnd) {
+        WithBlockWidth(kWidest ? kMaxWidth : m - j, [&]<int W>() QV_INLINE_LAMBDA {
+            const bool whole = j + W <= pairedEnd;
+            if (j > 0 && whole)
+                take.template operator()<W, ColumnBlock::kInner>(j);
+            else if (j > 0)
+                take.template operator()<W, ColumnBlock::kLast>(j);
+            else if (whole && W > 2)
+                take.template operator()<W, ColumnBlock::kFirst>(j);
+            else
+                take.template operator()<W, ColumnBlock::kOnly>(j);
+            j += W;
         });
+    }
+    return m % 2 == 0 && j == pairedEnd;
 }
 
 template <class D>
 void SpectrumStage(const double* z, double* low, double* high, Count m, const FftStage& stage) {
-    constexpr int f = D::kSize;
-    const Bins<f> bins{low, high, m};
-    const double* table = stage.blockedTwiddles;
-    const Count pairedEnd = (m + 1) / 2;  // columns 1 to pairedEnd - 1 have their mirror images in other columns
-    Count middle = m % 2 ? -1 : m / 2;
-    for (Count j = 0; j < pairedEnd;) {
-        WithBlockWidth(m - j, [&]<int W>() QV_INLINE_LAMBDA {
-            using S = SpectrumOf<D, W>;
-            constexpr LaneRange kWhole{0, W};
-            if (j + W <= pairedEnd && j > 0) {
-                S::template Stage<ColumnBlock::kInner>(z, bins, j, kWhole, kWhole, table, stage);
-            } else if (W > 2 && j + W <= pairedEnd) {
-                S::template Stage<ColumnBlock::kFirst>(z, bins, 0, kWhole, {1, W}, table, stage);
-            } else {
-                const LaneRange paired{j == 0 ? 1 : 0, pairedEnd - j < W ? pairedEnd - j : W};
-                LaneRange all{0, paired.last};
-                if (middle >= 0 && middle < j + W) {
-                    ++all.last;
-                    middle = -1;
-                }
-                S::template Stage<ColumnBlock::kAny>(z, bins, j, all, paired, table, stage);
-            }
-            table += 2 * W * (f - 1);
-            j += m - j < W ? m - j : W;
-        });
+    const bool middleLeft = ForBlocksOfSpectrum<false>(m, [&]<int W, ColumnBlock kBlock>(Count j) QV_INLINE_LAMBDA {
+        SpectrumOf<D, W>::template FromRecords<kBlock>(z, low, high, m, j, stage);
+    });
+    if (middleLeft) {
+        const auto in = [z, m](int k) QV_INLINE_LAMBDA { return z[(k / 2 * 2 + 1) * Size(m) + k % 2]; };
+        MiddleOfSpectrum<D>(in, {low, high, m}, m / 2, stage);
     }
-    if (middle >= 0) MiddleOfSpectrum<D>(z, bins, middle, stage);
     low[1] = high[1] = 0;  // X[0] and X[n/2] are real whatever the input, also for infinities
+}
+
+template <class D>
+void SpectrumOfRows(const double* rows, double* low, double* high, Count m, const FftStage& stage) {
+    const bool middleLeft = ForBlocksOfSpectrum<true>(m, [&]<int W, ColumnBlock kBlock>(Count j) QV_INLINE_LAMBDA {
+        if constexpr (W == kMaxWidth) {
+            SpectrumOf<D, W>::template FromRows<kBlock>(rows, low, high, m, j, stage);
+            rows += 2 * W * D::kSize;
+        }
+    });
+    if (middleLeft)
+        MiddleOfSpectrum<D>([rows](int k) QV_INLINE_LAMBDA { return rows[k]; }, {low, high, m}, m / 2, stage);
+    low[1] = high[1] = 0;
 }
 
 template <class D>
