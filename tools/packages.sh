@@ -8,7 +8,7 @@ set -euo pipefail
 # The one place that says what is needed, and for what.
 declare -A GROUPS_OF_PACKAGES=(
     [build]="cmake g++ libopenblas-dev ninja-build"
-    [test]="libblas3 libgtest-dev liblapack3 pkg-config python3 python3-mpmath python3-numpy python3-pip python3-pytest python3-scipy python3-setuptools python3-sphinx python3-venv python3-wheel"
+    [test]="libblas3 libgtest-dev liblapack3 pkg-config python3 python3-mpmath python3-mypy python3-numpy python3-pip python3-pytest python3-scipy python3-setuptools python3-sphinx python3-venv python3-wheel"
     [docs]="python3 python3-sphinx"
     [windows]="dpkg-dev g++-mingw-w64-x86-64-posix gfortran-mingw-w64-x86-64-posix libgtest-dev python3 python3-pytest wine64"
     [bench]="libbenchmark-dev libfftw3-dev pkg-config python3 python3-numpy python3-scipy"

@@ -28,7 +28,7 @@ import boundary
 import python_choices as choices
 from python_function import Function
 from python_names import translated
-from python_text import WIDTH
+from python_text import COMPLEX_ARRAY, WIDTH
 
 PACKAGE = boundary.ROOT / "bindings" / "python" / "quorvan"
 SOURCES = PACKAGE  # what is written by hand
@@ -139,19 +139,21 @@ def objects(made):
 
 def stub_module(made):
     text = [f"# The signatures of the package. {GENERATED}", "import enum", "from collections.abc import Callable",
-            "from typing import NamedTuple, overload", "", "import numpy as np",
-            "from numpy.typing import ArrayLike, NDArray", "",
+            "from typing import Any, Generic, NamedTuple, TypeVar, overload", "", "import numpy as np",
+            "from numpy.typing import ArrayLike, NDArray", "from typing_extensions import TypeAlias", "",
             *(f"from ._objects import {name} as {name}" for name in objects(made)),
             "from ._runtime import Handle as Handle",
             "from ._runtime import QuorvanError as QuorvanError",
             "from ._runtime import QuorvanWarning as QuorvanWarning",
-            "from ._runtime import WindowProperties as WindowProperties", "", "__version__: str", ""]
+            "from ._runtime import WindowProperties as WindowProperties", "",
+            f"{COMPLEX_ARRAY}: TypeAlias = NDArray[np.complexfloating[Any, Any]]",
+            '_Element = TypeVar("_Element", float, NDArray[np.float64])', "", "__version__: str", ""]
     for name, (_, members, _, _) in choices.SELECTIONS.items():
         kind = "IntFlag" if name.endswith("Flags") else "IntEnum"
         text += [f"class {name}(enum.{kind}):"]
         text += [f"    {member} = {value}" for member, value in members.items()] + [""]
     for function in made.values():
-        text += function.stub()
+        text += function.stub(made.get(function.twin))
     text += [""] + [f"{short} = {name}" for short, name in aliases(made).items()]
     return "\n".join(text) + "\n"
 

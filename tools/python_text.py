@@ -8,6 +8,7 @@ from python_names import parameter_name, translated
 
 LETTERS = {"double": "d", "complex": "z", "int32": "i", "uint32": "u", "int64": "l", "model": "m"}
 WIDTH = 110
+COMPLEX_ARRAY = "_Complex"  # of the stub: an array whose type tells that it is complex
 
 
 class Text:
@@ -21,20 +22,25 @@ class Text:
     def result_class(self):
         return "".join(word.capitalize() for word in self.name.split("_")) + "Result"
 
-    def signature(self, stub=False):
-        parts = []
+    def signature(self):
+        parts = [p.name + ("" if p.default is None else f"={p.default}") for p in self.parameters]
+        return ", ".join(parts + (["*", "out=None"] if self.arrays else []))
+
+    def typed_signature(self, complex_one=None, twin=None, by_name=False):
+        """The signature of the stub. With a complex array for one parameter, by its place or by its name, the results
+        are those of the twin."""
+        parts, required = [], complex_one is not None and not by_name
         for p in self.parameters:
-            text = p.name + (f": {p.type}" if stub else "")
-            if p.default is not None:
-                text += f" = {p.default}" if stub else f"={p.default}"
-            parts.append(text)
-        if self.arrays:
-            if stub:
-                kinds = [r.type if r.type.endswith("None") else r.type + " | None" for r in self.arrays]
-                kind = kinds[0] if len(kinds) == 1 else f"tuple[{', '.join(kinds)}] | None"
-                parts += ["*", f"out: {kind} = ..."]
-            else:
-                parts += ["*", "out=None"]
+            parts += ["*"] if by_name and p is complex_one else []
+            default = "" if p.default is None or required or p is complex_one else f" = {p.default}"
+            parts.append(f"{p.name}: {COMPLEX_ARRAY if p is complex_one else p.type}{default}")
+            required = required and p is not complex_one
+        results = (twin or self).arrays
+        if results:
+            kinds = [r.type if r.type.endswith("None") else r.type + " | None" for r in results]
+            kind = kinds[0] if len(kinds) == 1 else f"tuple[{', '.join(kinds)}] | None"
+            parts += [] if by_name else ["*"]
+            parts.append(f"out: {kind} = None")
         return ", ".join(parts)
 
     @property
@@ -221,14 +227,37 @@ class Text:
         bind = f'_{self.export.symbol} = rt.bind("{self.export.symbol}", "{result}", "{letters}")'
         return bind + "\n\n\n" + "\n".join(lines) + "\n"
 
-    def stub(self):
-        lines = []
+    def stub(self, twin=None):
+        """The lines of the stub. Overloads are told from the most special one to the most general; those that it
+        overlaps have other results, which a checker would have us confirm."""
+        bases = "NamedTuple, Generic[_Element]" if self.elementwise else "NamedTuple"
+        lines = [f"class {self.result_class}({bases}):", *(self.field(r) for r in self.results), ""]
+        lines = lines if self.has_class else []
+        plain = f"def {self.name}({self.typed_signature()}) -> {self.returns}: ..."
+        if self.elementwise:
+            returns, arrays = self.element_returns()
+            parameters = ", ".join(f"{p.name}: ArrayLike" + (" | None = None" if p.default == "None" else "")
+                                   for p in self.parameters)
+            return lines + ["@overload",
+                            f"def {self.name}({self.typed_signature()}) -> {returns}: ...  # type: ignore[misc]",
+                            "@overload", f"def {self.name}({parameters}) -> {arrays}: ..."]
+        if twin is None or twin.returns == self.returns:
+            return lines + [plain]
+        for i, p in enumerate(self.parameters):
+            if p.type.startswith("ArrayLike"):
+                leaves_out = any(other.default is not None for other in self.parameters[:i])
+                for by_name in (False, True) if leaves_out else (False,):
+                    signature = self.typed_signature(p, twin, by_name)
+                    lines += ["@overload", f"def {self.name}({signature}) -> {twin.returns}: ...  # type: ignore[misc]"]
+        return lines + ["@overload", plain]
+
+    def field(self, result):
+        """A field of a result; the names of a tuple's own methods are taken knowingly."""
+        kind = "_Element" if self.elementwise else result.type
+        return f"    {result.name}: {kind}" + ("  # type: ignore[assignment]" if hasattr(tuple, result.name) else "")
+
+    def element_returns(self):
+        """What comes of numbers, and what of arrays."""
         if self.has_class:
-            lines += [f"class {self.result_class}(NamedTuple):", *(f"    {r.name}: {r.type}" for r in self.results), ""]
-        if not self.elementwise:
-            return lines + [f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ..."]
-        arrays = ", ".join(f"{p.name}: ArrayLike" + (" | None = None" if p.default == "None" else "")
-                           for p in self.parameters)
-        returns = {"float": "NDArray[np.float64]", "complex": "NDArray[np.complex128]"}.get(self.returns, self.returns)
-        return lines + ["@overload", f"def {self.name}({self.signature(stub=True)}) -> {self.returns}: ...",
-                        "@overload", f"def {self.name}({arrays}) -> {returns}: ..."]
+            return f"{self.result_class}[float]", f"{self.result_class}[NDArray[np.float64]]"
+        return self.returns, {"float": "NDArray[np.float64]", "complex": "NDArray[np.complex128]"}[self.returns]

@@ -10,6 +10,7 @@ types; Sphinx adds the index and the search.
 
 import argparse
 import html.parser
+import itertools
 import pathlib
 import re
 import shutil
@@ -18,7 +19,7 @@ import sys
 import urllib.parse
 
 import boundary
-from python_names import function_name
+import python_binding
 
 MANY = 60  # functions that give one status; more than that say little of it
 
@@ -39,8 +40,8 @@ INDEX = """Quorvan reference
 =================
 
 Flat functions over plain arrays of doubles. Each has a number, which programs bind (``ZemFunc10``), and a readable name
-(``QvSpecPowerSpectrum``): `all numbers <numbers.html>`_ leads from one to the other, the :ref:`genindex` and the search
-know both, and the name in Python.
+(``QvSpecPowerSpectrum``): :doc:`numbers` leads from one to the other. The :ref:`genindex` has the names in C and in
+Python, and the search knows all three.
 
 Sizes are signed 64-bit and must fit 32 bits; -20046 follows otherwise, and nothing is touched. A size below the minimum
 gives -20003 unless the function says otherwise. 0 is success, a positive status a warning with valid results, a negative
@@ -50,11 +51,6 @@ function may be called from any thread.
 
 """
 
-# Each name is a target for the links in prototypes; the file itself tells the rest.
-TYPES = """Types
-=====
-
-"""
 CPP = """C++20
 =====
 
@@ -85,9 +81,6 @@ need no layer. The whole of it:
 .. literalinclude:: quorvan.hpp
    :language: cpp
 """
-TYPE_NAMES = (("type", "QvStatus"), ("struct", "QvComplex"), ("struct", "QvWindowProperties"), ("struct", "QvBand"),
-              ("struct", "QvIirFilter"), ("struct", "QvIirStateComplex"), ("struct", "QvFirNarrowband"),
-              ("struct", "QvFftPlan"), ("type", "QvModel"))
 
 
 def escaped(text):
@@ -96,7 +89,7 @@ def escaped(text):
 
 def purpose(export):
     """The first sentence of a function."""
-    return re.split(r"(?<=[^.A-Z ])\. ", " ".join(export.sentences), 1)[0].rstrip(".")
+    return re.split(r"(?<![. ])(?<! [A-Z])\. ", " ".join(export.sentences), 1)[0].rstrip(".")
 
 
 class Pages:
@@ -104,6 +97,7 @@ class Pages:
         self.families = {family.name: family for family in families}
         self.names = {e.name: e for f in families for e in f.exports if not e.planned}
         self.codes = self.status_rows()
+        self.python = {f.export.name: f for f in python_binding.functions(families).values()}
 
     @staticmethod
     def status_rows():
@@ -112,16 +106,18 @@ class Pages:
         return dict((int(code), text) for _, code, text in reversed(rows))
 
     def prose(self, text):
-        """Escaped, with names of functions and numbers as links."""
+        """Escaped, with names of functions and numbers as links; `arguments` stay as they are."""
         def link(match):
             word = match.group()
+            if word[0] == "`":
+                return f"`{word}`"
             bare = word.removeprefix("Qv")
             if word in self.families:
                 return f":doc:`{word}`"
             if bare in self.names:
                 return rf":c:func:`{word} <Qv{bare}>`"
             return f":c:func:`{word}`" if word.startswith("ZemFunc") else word
-        words = re.compile(r"\b(?:[a-z]+_[a-z]+|ZemFunc\d+|(?:Qv)?[A-Z][a-z]+(?:[A-Z0-9][a-z0-9]*)+)\b")
+        words = re.compile(r"`\w+`|\b(?:[a-z]+_[a-z]+|ZemFunc\d+|(?:Qv)?[A-Z][a-z]+(?:[A-Z0-9][a-z0-9]*)+)\b")
         out, last = "", 0
         for match in words.finditer(text):
             linked = link(match)
@@ -137,8 +133,9 @@ class Pages:
         arguments = ", ".join(a.c for a in export.arguments) or "void"
         lines = [f".. c:function:: {export.c_result} Qv{export.name}({arguments})",
                  f"                {export.c_result} {export.symbol}({arguments})", ""]
+        python = self.python[export.name]
+        lines += [f"   .. py:function:: {python.name}({python.signature()})", "      :module: quorvan", ""]
         lines += ["   " + self.prose(" ".join(export.sentences)), ""]
-        lines += [f"   In Python: ``{function_name(export.name)}``.", ""]
         lines += [f"   :param {a.name}: {self.prose(a.doc)}" for a in export.arguments if a.doc]
         if export.statuses:
             lines += ["   :returns: a status:", ""]
@@ -158,8 +155,8 @@ class Pages:
                 lines += [".. code-block:: none", "", *(f"   {line}" for line in told), ""]
             else:
                 lines += [self.prose(" ".join(told)), ""]
-        lines += [".. list-table::", "   :widths: 12 30 58", "   :header-rows: 1", "", "   * - number", "     - name",
-                  "     - purpose"]
+        lines += [".. list-table::", "   :class: functions", "   :widths: 12 30 58", "   :header-rows: 1", "",
+                  "   * - number", "     - name", "     - purpose"]
         for e in ready:
             lines += [f"   * - :c:func:`{e.symbol}`", f"     - :c:func:`Qv{e.name}`",
                       f"     - {self.prose(purpose(e))}"]
@@ -169,8 +166,8 @@ class Pages:
         return lines
 
     def numbers(self):
-        lines = ["All numbers", "===========", "", ".. list-table::", "   :header-rows: 1", "", "   * - number",
-                 "     - name", "     - family"]
+        lines = ["All numbers", "===========", "", ".. list-table::", "   :class: functions", "   :header-rows: 1", "",
+                 "   * - number", "     - name", "     - family"]
         exports = sorted((e for f in self.families.values() for e in f.exports), key=lambda e: e.number)
         for e in exports:
             name = f"``Qv{e.name}`` (to come)" if e.planned else f":c:func:`Qv{e.name}`"
@@ -179,7 +176,7 @@ class Pages:
         return lines
 
     def statuses(self):
-        lines = ["Statuses", "========", "", "``QvStatusMessage`` gives the text of a code.", ""]
+        lines = ["Statuses", "========", "", ":c:func:`QvStatusMessage` gives the text of a code.", ""]
         for code, text in sorted(self.codes.items(), key=lambda row: (row[0] < 0, abs(row[0]))):
             title = str(code)
             lines += [f".. _status{code}:", "", title, "-" * len(title), "", escaped(text.replace('\\"', '"')), ""]
@@ -188,6 +185,25 @@ class Pages:
                 lines += ["Given by " + ", ".join(f":c:func:`Qv{e.name}`" for e in givers) + ".", ""]
             elif givers:
                 lines += [f"Given by {len(givers)} functions.", ""]
+        return lines
+
+    def types(self):
+        """Each type and each list of codes of types.h with the comment that stands before it."""
+        header = (boundary.ROOT / "include" / "quorvan" / "types.h").read_text()
+        lines = ["Types", "=====", "", "From ``quorvan/types.h``.", ""]
+        declarations = r"^/\*\*(.*?)\*/\n((?:typedef|enum)\b[^;{]*(?:\{.*?^\}[^;]*)?;)$"
+        for comment, code in re.findall(declarations, header, re.S | re.M):
+            indent = ""
+            if code.startswith("typedef"):
+                name = re.search(r"\w+(?=;$|\)\()", code).group()
+                lines += [f".. c:{'struct' if code.startswith('typedef struct') else 'type'}:: {name}", ""]
+                indent = "   "
+            told = [re.sub(r"^ \*(?: |$)", "", line) for line in comment.strip().splitlines()]
+            for formula, block in itertools.groupby(told, lambda line: line.startswith("    ")):
+                block = list(block)
+                text = ["", ".. code-block:: none", "", *block, ""] if formula else [self.prose(" ".join(block)), ""]
+                lines += [indent + line for line in text]
+            lines += [f"{indent}.. code-block:: c", "", *(f"{indent}   {line}" for line in code.splitlines()), ""]
         return lines
 
     def write(self, folder):
@@ -206,17 +222,15 @@ class Pages:
         page("index", index)
         page("numbers", self.numbers())
         page("statuses", self.statuses())
-        page("types", [TYPES, *(f".. c:{kind}:: {name}\n" for kind, name in TYPE_NAMES),
-                       "From ``quorvan/types.h``:\n", ".. literalinclude:: types.h\n   :language: c"])
+        page("types", self.types())
         page("cpp", [CPP])
-        for header in ("types.h", "quorvan.hpp"):
-            shutil.copy(boundary.ROOT / "include" / "quorvan" / header, folder)
+        shutil.copy(boundary.ROOT / "include" / "quorvan" / "quorvan.hpp", folder)
         for family in self.families.values():
             page(family.name, self.family(family))
 
 
 class Links(html.parser.HTMLParser):
-    """The targets of a page's links, and its anchors."""
+    """What a page leads to or is made of, and its anchors."""
 
     def __init__(self, text):
         super().__init__()
@@ -226,8 +240,9 @@ class Links(html.parser.HTMLParser):
     def handle_starttag(self, tag, attributes):
         attributes = dict(attributes)
         self.anchors.update(filter(None, (attributes.get("id"), attributes.get("name"))))
-        if tag == "a" and attributes.get("href"):
-            self.targets.append(attributes["href"])
+        target = attributes.get("href" if tag in ("a", "link") else "src")
+        if target:
+            self.targets.append(target)
 
 
 def dead_links(folder):
@@ -238,6 +253,8 @@ def dead_links(folder):
             if url.scheme or url.netloc:
                 continue
             other = (path.parent / urllib.parse.unquote(url.path)).resolve() if url.path else path
+            if other.suffix != ".html" and other.is_file():
+                continue
             if other not in pages or (url.fragment and urllib.parse.unquote(url.fragment) not in pages[other].anchors):
                 yield f"{path.name}: {target}"
 
@@ -254,8 +271,7 @@ def main():
     source, pages = options.output / "source", options.output / "html"
     for folder in (source, pages):
         shutil.rmtree(folder, ignore_errors=True)
-    source.mkdir(parents=True)
-    shutil.copy(boundary.ROOT / "docs" / "reference" / "conf.py", source)
+    shutil.copytree(boundary.ROOT / "docs" / "reference", source)
     Pages(boundary.read_table()).write(source)
     print("making the pages, which takes about half a minute", flush=True)
     quiet = [] if sys.stdout.isatty() else ["-q"]  # Sphinx shows its progress

@@ -2208,6 +2208,7 @@ QV_API QvStatus ZemFunc257(const QvComplex* a, const QvComplex* b, int64_t n, ui
 
 /**
  * SpecEllipticK.
+ * The elliptic integral of the first kind, complete or incomplete.
  * Null phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
  * Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1 infinite from |phi| = pi/2 on.
  * NaN for m outside [0, 1].
@@ -2223,6 +2224,7 @@ QV_API double ZemFunc318(double m, const double* phi);
 
 /**
  * SpecEllipticE.
+ * The elliptic integral of the second kind, complete or incomplete.
  * Null phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
  * Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E.
  * NaN for m outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
@@ -3616,6 +3618,7 @@ QV_API QvStatus ZemFunc296(double* x, double* y, double* weights, int64_t* n, co
 
 /**
  * SpecBeta.
+ * The beta function, or the regularised incomplete one.
  * Null x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). At poles NaN or +Inf, as the Gammas give.
  * Otherwise the regularised incomplete beta function I_x(a, b), the integral of t^(a-1) (1-t)^(b-1) from 0 to x over B(a, b).
  * I_x(a, b) is NaN for a <= 0, b <= 0 or x outside [0, 1]; it is 0 at x = 0 and 1 at x = 1.
@@ -3637,6 +3640,7 @@ QV_API double ZemFunc308(int64_t n);
 
 /**
  * SpecGamma.
+ * The gamma function, or the regularised incomplete one.
  * Null x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725.
  * Otherwise the regularised incomplete gamma function P(a, x), the integral of t^(a-1) e^-t from 0 to x over Gamma(a).
  * P(a, x) is NaN for a <= 0 or x < 0; it is 0 at x = 0 and 1 at x = +Inf.

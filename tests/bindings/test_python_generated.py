@@ -106,7 +106,7 @@ def test_stub_tells_all_names():
             told.add(node.targets[0].id)
         elif isinstance(node, ast.ImportFrom) and node.level:
             told.update(alias.asname for alias in node.names)
-    assert told == set(qv.__all__)
+    assert {name for name in told if not name.startswith("_")} == set(qv.__all__)
 
 
 def test_stub_tells_the_results():

@@ -21,7 +21,7 @@ from quorvan import _runtime
 place = pathlib.Path(qv.__file__).resolve().parent
 assert pathlib.Path(sys.prefix).resolve() in place.parents, place
 assert pathlib.Path(_runtime.find_library()).resolve() == place / "libquorvan.so"
-assert (place / "py.typed").exists() and (place / "__init__.pyi").exists()
+assert (place / "py.typed").exists() and all((place / name).exists() for name in ("__init__.pyi", "_objects.pyi", "_runtime.pyi"))
 t = np.arange(1000) * 1e-3
 power, df = qv.power_spectrum(np.sqrt(2) * np.sin(2 * np.pi * 50 * t), 1e-3)
 assert power.argmax() * df == 50 and abs(power.max() - 1) < 1e-12

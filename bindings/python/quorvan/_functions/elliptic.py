@@ -57,8 +57,9 @@ def _elliptic_k(m, phi):
 
 
 def elliptic_k(m, phi=None):
-    r"""Without phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
+    r"""The elliptic integral of the first kind, complete or incomplete.
 
+    Without phi: K(m), the integral of 1/sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, +Inf at m = 1.
     Otherwise F(phi, m), the same integral from 0 to phi: odd in phi, F(phi + pi) = F(phi) + 2 K. At m = 1
     infinite from |phi| = pi/2 on. NaN for m outside [0, 1]. Rational forms in 1 - m with its logarithm; the
     descending Landen transformation (Moshier 1989, ellpk and ellik).
@@ -97,10 +98,11 @@ def _elliptic_e(m, phi):
 
 
 def elliptic_e(m, phi=None):
-    r"""Without phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1.
+    r"""The elliptic integral of the second kind, complete or incomplete.
 
-    Otherwise E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E. NaN for m
-    outside [0, 1]. Method as for the first kind (Moshier 1989, ellpe and ellie).
+    Without phi: E(m), the integral of sqrt(1 - m sin^2 t) from 0 to pi/2. pi/2 at m = 0, 1 at m = 1. Otherwise
+    E(phi, m), the same integral from 0 to phi: odd in phi, E(phi + pi) = E(phi) + 2 E. NaN for m outside [0, 1].
+    Method as for the first kind (Moshier 1989, ellpe and ellie).
 
     Parameters
     ----------

@@ -49,11 +49,11 @@ def _beta(a, b, x):
 
 
 def beta(a, b, x=None):
-    r"""Without x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b).
+    r"""The beta function, or the regularised incomplete one.
 
-    At poles NaN or +Inf, as the Gammas give. Otherwise the regularised incomplete beta function I_x(a, b), the
-    integral of t^(a-1) (1-t)^(b-1) from 0 to x over B(a, b). I_x(a, b) is NaN for a <= 0, b <= 0 or x outside [0,
-    1]; it is 0 at x = 0 and 1 at x = 1.
+    Without x: B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). At poles NaN or +Inf, as the Gammas give. Otherwise the
+    regularised incomplete beta function I_x(a, b), the integral of t^(a-1) (1-t)^(b-1) from 0 to x over B(a, b).
+    I_x(a, b) is NaN for a <= 0, b <= 0 or x outside [0, 1]; it is 0 at x = 0 and 1 at x = 1.
 
     Parameters
     ----------
@@ -124,11 +124,12 @@ def _gamma(a, x):
 
 
 def gamma(a, x=None):
-    r"""Without x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725.
+    r"""The gamma function, or the regularised incomplete one.
 
-    Otherwise the regularised incomplete gamma function P(a, x), the integral of t^(a-1) e^-t from 0 to x over
-    Gamma(a). P(a, x) is NaN for a <= 0 or x < 0; it is 0 at x = 0 and 1 at x = +Inf. Gamma at 1 - 2^-52 and at 2
-    - 2^-52 is given as 0.5; callers rely on the loops that lead there.
+    Without x: Gamma(a). 0, negative integers and -Inf give NaN; +Inf above 171.624376956302725. Otherwise the
+    regularised incomplete gamma function P(a, x), the integral of t^(a-1) e^-t from 0 to x over Gamma(a). P(a, x)
+    is NaN for a <= 0 or x < 0; it is 0 at x = 0 and 1 at x = +Inf. Gamma at 1 - 2^-52 and at 2 - 2^-52 is given
+    as 0.5; callers rely on the loops that lead there.
 
     Parameters
     ----------
