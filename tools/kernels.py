@@ -20,9 +20,12 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDER = ROOT / "transforms" / "kernels"
 SIZES = [2, 3, 4, 5, 7, 8, 9, 10, 11, 13, 14, 16, 17, 18, 19, 29, 31, 32, 37, 41, 43]
 PI = Decimal("3.14159265358979323846264338327950288419716939937510")
-ROW_LENGTHS = [12, 15, 20, 25]  # only the first pass over reals takes these
-PRIME_FACTOR_MAPS = {10: (2, 5), 12: (3, 4), 14: (2, 7), 15: (3, 5), 18: (2, 9), 20: (4, 5)}
-TIME_DECIMATIONS = {4: (2, 2), 8: (2, 4), 9: (3, 3), 16: (4, 4), 25: (5, 5), 32: (4, 8)}
+ROW_LENGTHS = [12, 15, 20, 21, 24, 25, 27, 28, 30, 33, 35, 36, 39, 40, 45]  # only the first pass over reals takes these
+PRIME_FACTOR_MAPS = {
+    10: (2, 5), 12: (3, 4), 14: (2, 7), 15: (3, 5), 18: (2, 9), 20: (4, 5), 21: (3, 7), 24: (3, 8), 28: (4, 7),
+    30: (3, 10), 33: (3, 11), 35: (5, 7), 36: (4, 9), 39: (3, 13), 40: (5, 8), 45: (5, 9),
+}
+TIME_DECIMATIONS = {4: (2, 2), 8: (2, 4), 9: (3, 3), 16: (4, 4), 25: (5, 5), 27: (3, 9), 32: (4, 8)}
 
 
 class Graph:

@@ -68,7 +68,9 @@ struct FftSpectrumSplit {
     Count columns;
     FftStage turns;  // blocked twiddles only
 };
-inline constexpr Count kSpectrumRowsRoom = kMostRows * (kLongestRow + 1);
+// The columns 0 to m / 2 of each row in whole vectors of both parts, and its middle column.
+inline constexpr Count kSpectrumRowsRoom =
+    kMostRows * (2 * ((kLongestRow / 2 + kFftGroup) / kFftGroup * kFftGroup) + 1);
 
 struct FftPlan {
     Count size;

@@ -30,17 +30,17 @@ struct BlockOf {
         double* ImLanes(int k) { return reinterpret_cast<double*>(&im[k]); }
     };
 
-    __attribute__((noinline)) static void ComplexBuffered(const FftStage& stage, const Buffer& in, Buffer& out) {
+    QV_APART static void ComplexBuffered(const FftStage& stage, const Buffer& in, Buffer& out) {
         D::template Complex<V>(
             stage, [&](int k, V& re, V& im) QV_INLINE_LAMBDA { re = in.re[k], im = in.im[k]; },
             [&](int k, V re, V im) QV_INLINE_LAMBDA { out.re[k] = re, out.im[k] = im; });
     }
-    __attribute__((noinline)) static void RealBuffered(const FftStage& stage, const V* in, Buffer& out) {
+    QV_APART static void RealBuffered(const FftStage& stage, const V* in, Buffer& out) {
         D::template Real<V>(
             stage, [&](int k) QV_INLINE_LAMBDA { return in[k]; },
             [&](int k, V re, V im) QV_INLINE_LAMBDA { out.re[k] = re, out.im[k] = im; });
     }
-    __attribute__((noinline)) static void MiddleBuffered(const FftStage& stage, const V* in, Buffer& out) {
+    QV_APART static void MiddleBuffered(const FftStage& stage, const V* in, Buffer& out) {
         D::template Middle<V>(
             stage, [&](int k) QV_INLINE_LAMBDA { return in[k]; },
             [&](int k, V re, V im) QV_INLINE_LAMBDA { out.re[k] = re, out.im[k] = im; });
@@ -153,27 +153,36 @@ struct BlockOf {
     QV_INLINE static void ComplexStage(double* re, double* im, Size stride, Size m, int count, const double* table,
                                        const FftStage& stage) {
         const bool records = AreRecords(re, im, stride);
-        if (kDirect && records && count == W) {
-            D::template Complex<V>(
-                stage,
-                [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
-                    L::LoadRecords(re + k * 2 * m, x, y);
-                    if (k > 0) Twiddle<W>(table, k, x, y);
-                },
-                [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, x, y); });
-            return;
-        }
+        if (kDirect && records && count == W)
+            ComplexColumns(re, m, table, stage);
+        else if (kDirect && records && W > 2)
+            ComplexColumns(re, m, L::RecordsIn({0, count}), table, stage);
+        else
+            ComplexColumnsBuffered(re, im, stride, m, count, table, stage);
+    }
+    QV_APART static void ComplexColumns(double* z, Size m, const double* table, const FftStage& stage) {
+        D::template Complex<V>(
+            stage,
+            [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
+                L::LoadRecords(z + k * 2 * m, x, y);
+                if (k > 0) Twiddle<W>(table, k, x, y);
+            },
+            [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(z + k * 2 * m, x, y); });
+    }
+    QV_APART static void ComplexColumns(double* z, Size m, typename L::Records columns, const double* table,
+                                        const FftStage& stage) {
+        D::template Complex<V>(
+            stage,
+            [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
+                L::LoadRecords(z + k * 2 * m, columns, x, y);
+                if (k > 0) Twiddle<W>(table, k, x, y);
+            },
+            [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(z + k * 2 * m, columns, x, y); });
+    }
+    QV_APART static void ComplexColumnsBuffered(double* re, double* im, Size stride, Size m, int count,
+                                                const double* table, const FftStage& stage) {
+        const bool records = AreRecords(re, im, stride);
         const typename L::Records columns = L::RecordsIn({0, count});
-        if (kDirect && records && W > 2) {
-            D::template Complex<V>(
-                stage,
-                [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
-                    L::LoadRecords(re + k * 2 * m, columns, x, y);
-                    if (k > 0) Twiddle<W>(table, k, x, y);
-                },
-                [&](int k, V x, V y) QV_INLINE_LAMBDA { L::StoreRecords(re + k * 2 * m, columns, x, y); });
-            return;
-        }
         Buffer in, out;
         for (int k = 0; k < f; ++k) {
             if (records) {
@@ -280,53 +289,76 @@ template <class D, int W>
 struct PairsOf {
     using L = Lanes<W>;
     using V = typename L::V;
-    static constexpr int f = D::kSize;
+    static constexpr int f = D::kSize, kGroup = W / 2;
 
     QV_INLINE static void ComplexLeaf(const double* in, double* outRe, double* outIm, Size outStride, int count,
                                       Size elementStride, const Count* positions, const FftStage& stage) {
-        constexpr int kGroup = W / 2;
-        V rows[f];
-        const auto take = [&](int k, V re, V im) QV_INLINE_LAMBDA {
-            if (k == 0 || 2 * k == f) {
-                rows[k] = re;
-                return;
-            }
-            const V turned = L::Turn(im);
-            rows[k] = re + turned;
-            rows[f - k] = re - turned;
-        };
-        if (BlockOf<D, W>::kDirect && count == kGroup) {
-            D::template Real<V>(
-                stage, [&](int k) QV_INLINE_LAMBDA { return L::Load(in + k * elementStride); }, take);
-        } else if (BlockOf<D, W>::kDirect && W > 2 && f < 32) {
-            D::template Real<V>(
-                stage,
-                [&](int k) QV_INLINE_LAMBDA {
-                    return L::Load(in + k * elementStride, {0, 2 * count});
-                },
-                take);
+        constexpr bool kDirect = BlockOf<D, W>::kDirect;
+        if (!AreRecords(outRe, outIm, outStride)) {
+            V rows[f];
+            RowsBuffered(in, count, elementStride, stage, rows);
+            StoreParts(rows, outRe, outIm, outStride, count, positions);
+        } else if (kDirect && count == kGroup) {
+            Leaf<true>(in, outRe, kGroup, elementStride, positions, stage);
+        } else if (kDirect && W > 2 && f < 32) {
+            Leaf<false>(in, outRe, count, elementStride, positions, stage);
         } else {
-            V x[f];
-            typename BlockOf<D, W>::Buffer spectrum;
-            for (int k = 0; k < f; ++k) x[k] = L::Load(in + k * elementStride, {0, 2 * count});
-            BlockOf<D, W>::RealBuffered(stage, x, spectrum);
-            for (int k = 0; 2 * k <= f; ++k) take(k, spectrum.re[k], spectrum.im[k]);
+            V rows[f];
+            RowsBuffered(in, count, elementStride, stage, rows);
+            StoreRows(rows, outRe, count, positions);
         }
-        if (AreRecords(outRe, outIm, outStride)) {
-            int k = 0;
-            for (; k + kGroup <= f; k += kGroup) {
-                V group[kGroup];
-                for (int i = 0; i < kGroup; ++i) group[i] = rows[k + i];
-                L::TransposeRows(group);
-                for (int c = 0; c < count; ++c) L::Store(outRe + 2 * (Size(positions[c]) + k), group[c]);
-            }
-            if (k == f) return;
-            V group[kGroup] = {};
-            for (int i = 0; k + i < f; ++i) group[i] = rows[k + i];
-            L::TransposeRows(group);
-            for (int c = 0; c < count; ++c) L::Store(outRe + 2 * (Size(positions[c]) + k), {0, 2 * (f - k)}, group[c]);
+    }
+
+private:
+    // rows[k] of the real spectra R[k] and I[k] in its lanes.
+    QV_INLINE static void Take(V* rows, int k, V re, V im) {
+        if (k == 0 || 2 * k == f) {
+            rows[k] = re;
             return;
         }
+        const V turned = L::Turn(im);
+        rows[k] = re + turned;
+        rows[f - k] = re - turned;
+    }
+
+    template <bool kWhole>
+    QV_APART static void Leaf(const double* in, double* out, int count, Size elementStride, const Count* positions,
+                              const FftStage& stage) {
+        V rows[f];
+        D::template Real<V>(
+            stage,
+            [&](int k) QV_INLINE_LAMBDA {
+                return kWhole ? L::Load(in + k * elementStride) : L::Load(in + k * elementStride, {0, 2 * count});
+            },
+            [&](int k, V re, V im) QV_INLINE_LAMBDA { Take(rows, k, re, im); });
+        StoreRows(rows, out, kWhole ? kGroup : count, positions);
+    }
+
+    QV_APART static void RowsBuffered(const double* in, int count, Size elementStride, const FftStage& stage, V* rows) {
+        V x[f];
+        typename BlockOf<D, W>::Buffer spectrum;
+        for (int k = 0; k < f; ++k) x[k] = L::Load(in + k * elementStride, {0, 2 * count});
+        BlockOf<D, W>::RealBuffered(stage, x, spectrum);
+        for (int k = 0; 2 * k <= f; ++k) Take(rows, k, spectrum.re[k], spectrum.im[k]);
+    }
+
+    QV_INLINE static void StoreRows(const V* rows, double* out, int count, const Count* positions) {
+        int k = 0;
+        for (; k + kGroup <= f; k += kGroup) {
+            V group[kGroup];
+            for (int i = 0; i < kGroup; ++i) group[i] = rows[k + i];
+            L::TransposeRows(group);
+            for (int c = 0; c < count; ++c) L::Store(out + 2 * (Size(positions[c]) + k), group[c]);
+        }
+        if (k == f) return;
+        V group[kGroup] = {};
+        for (int i = 0; k + i < f; ++i) group[i] = rows[k + i];
+        L::TransposeRows(group);
+        for (int c = 0; c < count; ++c) L::Store(out + 2 * (Size(positions[c]) + k), {0, 2 * (f - k)}, group[c]);
+    }
+
+    QV_APART static void StoreParts(const V* rows, double* outRe, double* outIm, Size outStride, int count,
+                                    const Count* positions) {
         for (int c = 0; c < count; ++c)
             for (int k = 0; k < f; ++k) {
                 const double* record = reinterpret_cast<const double*>(&rows[k]) + 2 * c;
@@ -439,7 +471,8 @@ constexpr FftKernel EntriesOf() {
         kernel.spectrumStage = SpectrumStage<D>;
         kernel.rowsStage = SpectrumOfRows<D>;
     }
-    if constexpr (D::kSize >= kLeastRow && D::kSize <= kLongestRow) kernel.rows = SpectrumRows<D>;
+    // The longer primes gain nothing.
+    if constexpr (D::kSize >= kLeastRow && D::kSize <= 32) kernel.rows = SpectrumRows<D>;
     return kernel;
 }
 template <class D>

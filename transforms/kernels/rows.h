@@ -16,8 +16,8 @@ struct RowsOf {
     static constexpr int m = D::kSize, W = kMaxWidth;
     static constexpr bool kMiddleAlone = m % 2 == 0 && m / 2 % W == 0;
     static constexpr int kColumns = m / 2 + (kMiddleAlone ? 0 : 1), kBlocks = (kColumns + W - 1) / W;
-    // Longer sequences are worth one copy of the code only.
-    static constexpr bool kDirect = m <= 20 || m == 25 || m == 32;
+    // Longer primes are worth one copy of the code only.
+    static constexpr bool kDirect = m <= 17 || m % 2 == 0 || m % 3 == 0 || m % 5 == 0;
     using L = Lanes<W>;
     using V = typename L::V;
 
@@ -28,8 +28,7 @@ struct RowsOf {
     }
 
     template <class E>
-    __attribute__((noinline)) static void Apart(const FftStage& stage, const typename E::V* x, typename E::V* re,
-                                                typename E::V* im) {
+    QV_APART static void Apart(const FftStage& stage, const typename E::V* x, typename E::V* re, typename E::V* im) {
         D::template Real<typename E::V>(
             stage, [&](int k) QV_INLINE_LAMBDA { return x[k]; },
             [&](int k, typename E::V a, typename E::V b) QV_INLINE_LAMBDA { re[k] = a, im[k] = b; });
@@ -37,8 +36,7 @@ struct RowsOf {
 
     // kCount sequences, a vector of them or less.
     template <int kCount>
-    __attribute__((noinline)) static void Block(const double* x, Size f, double* rows, double* middle,
-                                                const FftStage& stage) {
+    QV_APART static void Block(const double* x, Size f, double* rows, double* middle, const FftStage& stage) {
         using E = Lanes<kCount>;
         typename E::V re[kBlocks * W] = {}, im[kBlocks * W] = {};
         const auto in = [&](int k) QV_INLINE_LAMBDA { return E::Load(x + k * f); };

@@ -28,23 +28,22 @@ struct Bins {
 };
 
 // A block of columns: W that have mirror images in other columns all; W with column 0; what is left behind such blocks,
-// with the middle column of even m; and, of few columns, all.
-enum class ColumnBlock { kInner, kFirst, kLast, kOnly };
+// with the middle column of even m; and all of less than W, half a block or more, or less.
+enum class ColumnBlock { kInner, kFirst, kLast, kOnly, kFew };
 
-// Columns j to j + W - 1 of a last stage. Each kind of block is a function of its own: within one, GCC 12 makes common
-// what the kinds share, and the addresses that it then keeps on the stack cost as much as the sums.
+// Columns j to j + W - 1 of a last stage.
 template <class D, int W>
 struct SpectrumOf {
     using L = Lanes<W>;
     using V = typename L::V;
     using Records = typename L::Records;
     static constexpr int f = D::kSize, h = f / 2;
-    static constexpr bool IsFirst(ColumnBlock b) { return b == ColumnBlock::kFirst || b == ColumnBlock::kOnly; }
+    static constexpr bool IsFirst(ColumnBlock b) { return b != ColumnBlock::kInner && b != ColumnBlock::kLast; }
     static constexpr bool IsWhole(ColumnBlock b) { return b == ColumnBlock::kInner || b == ColumnBlock::kFirst; }
 
     template <ColumnBlock kBlock>
-    __attribute__((noinline)) static void FromRecords(const double* z, double* low, double* high, Size m, Size j,
-                                                      const FftStage& stage) {
+    QV_APART static void FromRecords(const double* z, double* low, double* high, Size m, Size j,
+                                     const FftStage& stage) {
         const LaneRange all = Range<kBlock>(m, j).all;
         const Records whole = L::RecordsIn(all), others = L::RecordsIn({0, all.last - 1});
         V re[f], im[f];
@@ -66,8 +65,8 @@ struct SpectrumOf {
     }
 
     template <ColumnBlock kBlock>
-    __attribute__((noinline)) static void FromRows(const double* rows, double* low, double* high, Size m, Size j,
-                                                   const FftStage& stage) {
+    QV_APART static void FromRows(const double* rows, double* low, double* high, Size m, Size j,
+                                  const FftStage& stage) {
         Merge<kBlock>({low, high, m}, j, stage, [&](int k, V& x, V& y) QV_INLINE_LAMBDA {
             x = L::Load(rows + 2 * W * k);
             y = L::Load(rows + 2 * W * k + W);
@@ -85,6 +84,7 @@ private:
         constexpr int kPairedFrom = IsFirst(kBlock);
         if constexpr (IsWhole(kBlock)) return {{0, W}, {kPairedFrom, W}};
         const int left = static_cast<int>((m + 1) / 2 - j), last = left < W ? left : W;
+        if (kBlock == ColumnBlock::kOnly && last < W / 2) __builtin_unreachable();
         return {{0, last + (m % 2 == 0 && left < W)}, {kPairedFrom, last}};
     }
 
@@ -149,8 +149,10 @@ QV_INLINE bool ForBlocksOfSpectrum(Count m, const Take& take) {
                 take.template operator()<W, ColumnBlock::kLast>(j);
             else if (whole && W > 2)
                 take.template operator()<W, ColumnBlock::kFirst>(j);
-            else
+            else if (pairedEnd >= W / 2)
                 take.template operator()<W, ColumnBlock::kOnly>(j);
+            else
+                take.template operator()<W, ColumnBlock::kFew>(j);
             j += W;
         });
     }
