@@ -37,10 +37,11 @@ constexpr Count kFirstLargePrime = 50;
 // All bins of n = f m reals in two passes: the lengths m and what a vector of such sequences costs in the first, the
 // factors f and what a vector of columns costs in the second, in nanoseconds of the same machine; and what a point
 // costs by the levels of a plan.
-constexpr KernelSize kRowLengths[] = {
-    {3, 4.6}, {4, 4.6}, {5, 5},   {7, 7.4}, {8, 6.7}, {9, 9.4}, {10, 8},  {11, 14}, {12, 9},    {13, 16}, {14, 11.5},
-    {15, 11}, {16, 11}, {17, 27}, {18, 18}, {19, 33}, {20, 18}, {21, 21}, {23, 60}, {24, 18.5}, {25, 27}, {27, 29},
-    {28, 29}, {29, 58}, {30, 29}, {31, 64}, {32, 28}, {33, 46}, {35, 44}, {36, 41}, {39, 58},   {40, 43}, {45, 57}};
+constexpr KernelSize kRowLengths[] = {{3, 4.6}, {4, 4.6}, {5, 5},   {7, 7.4},   {8, 6.7}, {9, 9.4},   {10, 8},
+                                      {11, 14}, {12, 9},  {13, 16}, {14, 11.5}, {15, 11}, {16, 11},   {17, 27},
+                                      {18, 18}, {19, 33}, {20, 18}, {21, 21},   {23, 60}, {24, 18.5}, {25, 27},
+                                      {27, 29}, {28, 29}, {29, 58}, {30, 29},   {31, 64}, {32, 28},   {33, 46},
+                                      {35, 44}, {36, 41}, {39, 58}, {40, 43},   {45, 57}, {50, 95}};
 constexpr KernelSize kRowsStages[] = {{2, 4}, {4, 8}, {8, 17}, {10, 24}, {14, 44}, {16, 43}, {18, 61}, {32, 105}};
 constexpr double kLevelsCost = 1.1;
 

@@ -32,7 +32,7 @@ using SpectrumStageKernel = void (*)(const double* z, double* low, double* high,
 // kMostRows, and the stage of f over them.
 using SpectrumRowsKernel = void (*)(const double* x, Count f, double* rows, const FftStage& stage);
 using RowsStageKernel = void (*)(const double* rows, double* low, double* high, Count m, const FftStage& stage);
-inline constexpr Count kLeastRow = 3, kLongestRow = 45, kMostRows = 32;
+inline constexpr Count kLeastRow = 3, kLongestRow = 50, kMostRows = 32;
 
 struct FftKernel {
     ComplexLeafKernel leaf;
