@@ -4,6 +4,7 @@
 #include "transforms/fft_loops.h"
 #include "transforms/fft_plan_record.h"
 #include "transforms/rader.h"
+#include "transforms/spectrum_loops.h"
 
 namespace quorvan {
 namespace {
@@ -104,6 +105,15 @@ private:
     const FftSchedule& schedule_;
 };
 
+// Apart from FftSpectrum, whose other ways need no such frame.
+__attribute__((noinline)) Status InTwoPasses(const FftSpectrumSplit& split, const double* x, double* low,
+                                             double* high) noexcept {
+    alignas(64) double rows[kSpectrumRowsRoom];
+    split.rows(x, split.factor, rows, split.turns);
+    split.stage(rows, low, high, split.columns, split.turns);
+    return status::kSuccess;
+}
+
 }  // namespace
 
 Status FftComplex(const FftPlan* plan, const double* inRe, const double* inIm, double* outRe, double* outIm,
@@ -150,32 +160,25 @@ Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStrid
     return Decimation<RealRun>(RealRun{*plan, in, out, inStride, outStride}, plan->whole).Transform();
 }
 
-bool FftGivesSpectrum(const FftPlan* plan) noexcept {
-    return plan->spectrumLeaf || plan->split.rows || plan->recordsPlan;
-}
-
+// The output is the workspace: what is made before the last stage stands in its first half.
 Status FftSpectrum(const FftPlan* plan, const double* x, bool shift, double* out) noexcept {
     const Count n = plan->size;
     double *const low = shift ? out + n : out, *const high = shift ? out : out + n;
-    if (const FftSpectrumSplit& split = plan->split; split.rows) {
-        alignas(64) double rows[kSpectrumRowsRoom];
-        split.rows(x, split.factor, rows, split.turns);
-        split.stage(rows, low, high, split.columns, split.turns);
-        return status::kSuccess;
-    }
-    if (plan->factorCount == 1) {
+    if (plan->split.rows) return InTwoPasses(plan->split, x, low, high);
+    if (n % 2) {
+        if (const Status failure = FftReal(plan, x, out, 1, 1, n)) return failure;
+        const SpectrumLoops& loops = kSpectrumLoops();
+        (shift ? loops.expandShifted : loops.expand)(reinterpret_cast<ComplexRecord*>(out), n);
+    } else if (plan->factorCount == 1) {
         plan->spectrumLeaf(x, low, high, *plan->stages[0]);
-        return status::kSuccess;
+    } else if (plan->recordsPlan) {
+        if (const Status failure = FftComplex(plan->recordsPlan, x, x + 1, out, out + 1, 2, 2, n / 2)) return failure;
+        plan->spectrumStage(out, low, high, n / 2, plan->recordsTurns);
+    } else {
+        const ComplexRun records{*plan, x, x + 1, out, out + 1, 2, 2};
+        if (const Status failure = Decimation<ComplexRun>(records, plan->half).Transform()) return failure;
+        plan->spectrumStage(out, low, high, plan->columns[0], *plan->stages[0]);
     }
-    // The output is the workspace: the transforms of the records stand in its first half until the last stage.
-    if (plan->recordsPlan) {
-        const Status status = FftComplex(plan->recordsPlan, x, x + 1, out, out + 1, 2, 2, n / 2);
-        if (status == status::kSuccess) plan->spectrumStage(out, low, high, n / 2, plan->recordsTurns);
-        return status;
-    }
-    const ComplexRun records{*plan, x, x + 1, out, out + 1, 2, 2};
-    if (const Status status = Decimation<ComplexRun>(records, plan->half).Transform(); status < 0) return status;
-    plan->spectrumStage(out, low, high, plan->columns[0], *plan->stages[0]);
     return status::kSuccess;
 }
 

@@ -22,9 +22,8 @@ Status FftComplexInverse(const FftPlan* plan, const double* inRe, const double* 
 // n reals into HalfComplex. Input and output must not overlap.
 Status FftReal(const FftPlan* plan, const double* in, double* out, Count inStride, Count outStride, Count n) noexcept;
 
-// n reals into all n bins as records, or in shifted order with X[0] at n / 2. For plans of even size that are made for
-// spectra: half the work of a complex transform. The input may be the second half of the output.
-bool FftGivesSpectrum(const FftPlan* plan) noexcept;
+// n reals into all n bins as records, or in shifted order with X[0] at n / 2, by a plan that is made for spectra; of
+// even n for half the work of a complex transform. The input may be the second half of the output.
 Status FftSpectrum(const FftPlan* plan, const double* x, bool shift, double* out) noexcept;
 
 // HalfComplex into n reals. The input is destroyed.

@@ -256,9 +256,9 @@ Status StateTwiddles(FftPlan& plan) noexcept {
     return status::kSuccess;
 }
 
-// What FftSpectrum needs where neither two passes nor the first factor serve.
+// What FftSpectrum needs of even sizes where neither two passes nor the first factor serve.
 Status TakeRecords(FftPlan& plan) noexcept {
-    if (plan.size % 2 || FftGivesSpectrum(&plan)) return status::kSuccess;
+    if (plan.size % 2 || plan.spectrumLeaf || plan.split.rows || plan.recordsPlan) return status::kSuccess;
     const Count half = plan.size / 2;
     if (!plan.recordsTables) {
         double*& turns = plan.recordsTurns.blockedTwiddles;

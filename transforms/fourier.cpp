@@ -13,8 +13,7 @@ namespace {
 // The caller's plan, or one for the duration of the call.
 class GivenPlan {
 public:
-    GivenPlan(const FftPlan* given, Count size, FftPlanUse use = FftPlanUse::kTransforms) noexcept
-        : own_(given ? nullptr : FftPlanCreate(size, use)), plan_(given) {
+    GivenPlan(const FftPlan* given, Count size) noexcept : own_(given ? nullptr : FftPlanCreate(size)), plan_(given) {
         if (!given) plan_ = own_;
     }
     GivenPlan(const GivenPlan&) = delete;
@@ -42,9 +41,10 @@ Status TransformRealFft(const double* x, Count n, Count fftSize, const FftPlan* 
     const Count length = TransformLength(n, fftSize);
     if (n < 1) return status::kSamplesNotPositive;
     if (Mismatch(plan, length)) return status::kSizesDiffer;
-    const GivenPlan used(plan, length, FftPlanUse::kSpectra);
-    if (!used) return status::kOutOfMemory;
-    return SpectrumOfReals(used, x, n, length, shift, out);
+    if (plan) return SpectrumOfReals(plan, x, n, length, shift, out);
+    const HeldPlan own(length, FftPlanUse::kSpectra);
+    if (!own) return status::kOutOfMemory;
+    return SpectrumOfReals(own, x, n, length, shift, out);
 }
 
 Status TransformComplexFft(const ComplexRecord* x, Count n, Count fftSize, const FftPlan* plan, bool shift,

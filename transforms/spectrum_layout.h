@@ -33,8 +33,8 @@ inline void RotateFromShifted(const ComplexRecord* shifted, Count length, Comple
     std::copy(shifted, shifted + length / 2, out + length - length / 2);
 }
 
-// The full spectrum of `length` reals from n samples. The output is its own workspace: padded samples lie in its second
-// half, what is made of them before the bins in its first. The plan is one for spectra.
+// The full spectrum of `length` reals from n samples, by a plan that is made for spectra. Padded samples lie in the
+// second half of the output.
 inline Status SpectrumOfReals(const FftPlan* plan, const double* x, Count n, Count length, bool shift,
                               ComplexRecord* out) noexcept {
     double* packed = &out->re;
@@ -42,10 +42,7 @@ inline Status SpectrumOfReals(const FftPlan* plan, const double* x, Count n, Cou
         CopyPadded(x, n, length, packed + length);
         x = packed + length;
     }
-    if (FftGivesSpectrum(plan)) return FftSpectrum(plan, x, shift, packed);
-    if (const Status failure = FftReal(plan, x, packed, 1, 1, length)) return failure;
-    (shift ? kSpectrumLoops().expandShifted : kSpectrumLoops().expand)(out, length);
-    return 0;
+    return FftSpectrum(plan, x, shift, packed);
 }
 
 // An interleaved array through a complex core.

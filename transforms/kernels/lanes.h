@@ -4,12 +4,13 @@
 // order that a single unpack leaves, column (lane % 2) * W/2 + lane / 2, so that taking records apart and putting them
 // together costs one shuffle a vector. Split and real data, which stand in natural order, pay one permutation instead.
 //
-// Operations on a range of lanes, or on the Records of a range of columns, touch no memory outside it. Stored
-// backwards, the last record in memory belongs to column 0. Loaded backwards, column 0 is the record at `first`, column
-// c the c-th before `end`: W records are read there, or those of columns 1 to c for the Records of {0, c}. In rows of
-// whole vectors such a load begins where a store began: of data that is still on its way to memory, a load can have
-// what one store wrote, but not parts of two. Stored after column 0, all columns of the Records but that one go
-// backwards, and no instruction reaches beyond column 1: where a page ends there, even a masked one may take long.
+// Operations on a range of lanes, or on the Records of a range of columns, touch no memory outside it. Loaded reversed
+// or stored backwards, the last record in memory belongs to column 0. Loaded backwards, column 0 is the record at
+// `first`, column c the c-th before `end`: W records are read there, or those of columns 1 to c for the Records of {0,
+// c}. In rows of whole vectors such a load begins where a store began: of data that is still on its way to memory, a
+// load can have what one store wrote, but not parts of two. Stored after column 0, all columns of the Records but that
+// one go backwards, and no instruction reaches beyond column 1: where a page ends there, even a masked one may take
+// long.
 #pragma once
 
 #include "frame/targets.h"
@@ -55,6 +56,7 @@ struct Lanes<1> {
         re = im = 0;
         if (records) LoadRecords(p, re, im);
     }
+    QV_INLINE static void LoadReversed(const double* p, V& re, V& im) { LoadRecords(p, re, im); }
     QV_INLINE static void LoadBackwards(const double* first, const double*, V& re, V& im) {
         LoadRecords(first, re, im);
     }
@@ -102,6 +104,11 @@ struct Lanes<2> {
     }
     QV_INLINE static void LoadRecords(const double* p, Records r, V& re, V& im) {
         const V a = r.first ? _mm_loadu_pd(p) : V{}, b = r.second ? _mm_loadu_pd(p + 2) : V{};
+        re = _mm_unpacklo_pd(a, b);
+        im = _mm_unpackhi_pd(a, b);
+    }
+    QV_INLINE static void LoadReversed(const double* p, V& re, V& im) {
+        const V a = _mm_loadu_pd(p + 2), b = _mm_loadu_pd(p);
         re = _mm_unpacklo_pd(a, b);
         im = _mm_unpackhi_pd(a, b);
     }
@@ -201,6 +208,11 @@ struct Lanes<4> {
         im = _mm256_unpackhi_pd(a, b);
     }
     QV_INLINE static V ReversedRecords(V v) { return _mm256_permute2f128_pd(v, v, 0x01); }
+    QV_INLINE static void LoadReversed(const double* p, V& re, V& im) {
+        const V a = ReversedRecords(_mm256_loadu_pd(p + 4)), b = ReversedRecords(_mm256_loadu_pd(p));
+        re = _mm256_unpacklo_pd(a, b);
+        im = _mm256_unpackhi_pd(a, b);
+    }
     QV_INLINE static void LoadBackwards(const double* first, const double* end, V& re, V& im) {
         JoinBackwards(first, _mm256_loadu_pd(end - 4), _mm256_loadu_pd(end - 8), re, im);
     }
@@ -316,6 +328,11 @@ struct Lanes<8> {
         im = _mm512_unpackhi_pd(a, b);
     }
     QV_INLINE static V ReversedRecords(V v) { return _mm512_shuffle_f64x2(v, v, 0b00'01'10'11); }
+    QV_INLINE static void LoadReversed(const double* p, V& re, V& im) {
+        const V a = ReversedRecords(_mm512_loadu_pd(p + 8)), b = ReversedRecords(_mm512_loadu_pd(p));
+        re = _mm512_unpacklo_pd(a, b);
+        im = _mm512_unpackhi_pd(a, b);
+    }
     QV_INLINE static void LoadBackwards(const double* first, const double* end, V& re, V& im) {
         JoinBackwards(first, _mm512_loadu_pd(end - 8), _mm512_loadu_pd(end - 16), re, im);
     }

@@ -28,7 +28,8 @@ struct Bins {
 };
 
 // A block of columns: W that have mirror images in other columns all; W with column 0; what is left behind such blocks,
-// with the middle column of even m; and all of less than W, half a block or more, or less.
+// with the middle column of even m; and all of less than W, half a block or more, or less. What takes the columns that
+// are left takes any others too: large sizes go by it alone, so that their code stays in the instruction cache.
 enum class ColumnBlock { kInner, kFirst, kLast, kOnly, kFew };
 
 // Columns j to j + W - 1 of a last stage.
@@ -50,9 +51,13 @@ struct SpectrumOf {
         for (int s = 0; s < h; ++s) {
             const double* up = z + 2 * (s * m + j);
             const double* down = z + 2 * ((s + 1) * m - j);
-            const double* first = IsFirst(kBlock) ? up : down;  // column 0 is its own mirror image
+            const bool withZero = IsFirst(kBlock) || (kBlock == ColumnBlock::kLast && j == 0);
+            const double* first = withZero ? up : down;  // column 0 is its own mirror image
             V backRe, backIm;
-            if constexpr (IsWhole(kBlock)) {
+            if constexpr (kBlock == ColumnBlock::kInner) {
+                L::LoadRecords(up, re[2 * s], im[2 * s]);
+                L::LoadReversed(down - 2 * (W - 1), backRe, backIm);
+            } else if constexpr (kBlock == ColumnBlock::kFirst) {
                 L::LoadRecords(up, re[2 * s], im[2 * s]);
                 L::LoadBackwards(first, down, backRe, backIm);
             } else {
@@ -81,11 +86,10 @@ private:
     };
     template <ColumnBlock kBlock>
     QV_INLINE static Ranges Range(Size m, Size j) {
-        constexpr int kPairedFrom = IsFirst(kBlock);
-        if constexpr (IsWhole(kBlock)) return {{0, W}, {kPairedFrom, W}};
+        if constexpr (IsWhole(kBlock)) return {{0, W}, {IsFirst(kBlock), W}};
         const int left = static_cast<int>((m + 1) / 2 - j), last = left < W ? left : W;
         if (kBlock == ColumnBlock::kOnly && last < W / 2) __builtin_unreachable();
-        return {{0, last + (m % 2 == 0 && left < W)}, {kPairedFrom, last}};
+        return {{0, last + (m % 2 == 0 && left < W)}, {IsFirst(kBlock) || j == 0, last}};
     }
 
     template <ColumnBlock kBlock, class In>
@@ -136,16 +140,17 @@ QV_INLINE void MiddleOfSpectrum(const In& in, Bins<D::kSize> bins, Count middle,
 
 // Calls take<W, kBlock>(j) for the blocks of columns 0 to m / 2, in the widths of the blocks of all m columns or all of
 // the widest; the answer is whether the middle column of even m stands behind them.
-template <bool kWidest, class Take>
+template <int f, bool kWidest, class Take>
 QV_INLINE bool ForBlocksOfSpectrum(Count m, const Take& take) {
+    constexpr bool kLarge = f > 18;
     const Count pairedEnd = (m + 1) / 2;  // columns 1 to pairedEnd - 1 have their mirror images in other columns
     Count j = 0;
     while (j < pairedEnd) {
         WithBlockWidth(kWidest ? kMaxWidth : m - j, [&]<int W>() QV_INLINE_LAMBDA {
             const bool whole = j + W <= pairedEnd;
-            if (j > 0 && whole)
+            if (j > 0 && whole && !kLarge)
                 take.template operator()<W, ColumnBlock::kInner>(j);
-            else if (j > 0)
+            else if (j > 0 || kLarge)
                 take.template operator()<W, ColumnBlock::kLast>(j);
             else if (whole && W > 2)
                 take.template operator()<W, ColumnBlock::kFirst>(j);
@@ -161,9 +166,10 @@ QV_INLINE bool ForBlocksOfSpectrum(Count m, const Take& take) {
 
 template <class D>
 void SpectrumStage(const double* z, double* low, double* high, Count m, const FftStage& stage) {
-    const bool middleLeft = ForBlocksOfSpectrum<false>(m, [&]<int W, ColumnBlock kBlock>(Count j) QV_INLINE_LAMBDA {
-        SpectrumOf<D, W>::template FromRecords<kBlock>(z, low, high, m, j, stage);
-    });
+    const bool middleLeft =
+        ForBlocksOfSpectrum<D::kSize, false>(m, [&]<int W, ColumnBlock kBlock>(Count j) QV_INLINE_LAMBDA {
+            SpectrumOf<D, W>::template FromRecords<kBlock>(z, low, high, m, j, stage);
+        });
     if (middleLeft) {
         const auto in = [z, m](int k) QV_INLINE_LAMBDA { return z[(k / 2 * 2 + 1) * Size(m) + k % 2]; };
         MiddleOfSpectrum<D>(in, {low, high, m}, m / 2, stage);
@@ -173,12 +179,13 @@ void SpectrumStage(const double* z, double* low, double* high, Count m, const Ff
 
 template <class D>
 void SpectrumOfRows(const double* rows, double* low, double* high, Count m, const FftStage& stage) {
-    const bool middleLeft = ForBlocksOfSpectrum<true>(m, [&]<int W, ColumnBlock kBlock>(Count j) QV_INLINE_LAMBDA {
-        if constexpr (W == kMaxWidth) {
-            SpectrumOf<D, W>::template FromRows<kBlock>(rows, low, high, m, j, stage);
-            rows += 2 * W * D::kSize;
-        }
-    });
+    const bool middleLeft =
+        ForBlocksOfSpectrum<D::kSize, true>(m, [&]<int W, ColumnBlock kBlock>(Count j) QV_INLINE_LAMBDA {
+            if constexpr (W == kMaxWidth) {
+                SpectrumOf<D, W>::template FromRows<kBlock>(rows, low, high, m, j, stage);
+                rows += 2 * W * D::kSize;
+            }
+        });
     if (middleLeft)
         MiddleOfSpectrum<D>([rows](int k) QV_INLINE_LAMBDA { return rows[k]; }, {low, high, m}, m / 2, stage);
     low[1] = high[1] = 0;
