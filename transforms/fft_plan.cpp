@@ -124,7 +124,8 @@ void ChooseSplit(FftPlan& plan) noexcept {
     const Count width = kernels.blockWidth(INT32_MAX);
     const auto vectors = [width](Count count) { return (count + width - 1) / width; };
     double least = kLevelsCost * plan.size;
-    for (const auto& [factor, stageCost] : kRowsStages)
+    for (const auto& [factor, stageCost] : kRowsStages) {
+        if (plan.size % factor) continue;
         for (const auto& [m, rowsCost] : kRowLengths) {
             if (factor * m != plan.size) continue;
             const double cost = vectors(factor) * rowsCost + vectors((m + 1) / 2) * stageCost;
@@ -132,6 +133,7 @@ void ChooseSplit(FftPlan& plan) noexcept {
             least = cost;
             plan.split = {kernels.rows(m), kernels.kernel(factor)->rowsStage, factor, m, {}};
         }
+    }
 }
 
 Status MakeStages(FftPlan& plan) noexcept {
