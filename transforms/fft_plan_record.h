@@ -66,7 +66,7 @@ struct FftSpectrumSplit {
     RowsStageKernel stage;
     Count factor;
     Count columns;
-    FftStage turns;  // blocked twiddles only
+    FftStage turns;  // blocked twiddles, and the tables of a generic prime m
 };
 // The columns 0 to m / 2 of each row in whole vectors of both parts, and its middle column.
 inline constexpr Count kSpectrumRowsRoom =

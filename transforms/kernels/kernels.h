@@ -28,8 +28,8 @@ using RealStageKernel = void (*)(double* data, Size stride, Count m, const FftSt
 using SpectrumLeafKernel = void (*)(const double* x, double* low, double* high, const FftStage& stage);
 using SpectrumStageKernel = void (*)(const double* z, double* low, double* high, Count m, const FftStage& stage);
 
-// The same in two passes over f sequences of length m: the spectra of the sequences x[k f + t] as rows, in room for
-// kMostRows, and the stage of f over them.
+// The same in two passes over f sequences of length m: the spectra of the sequences x[k f + t] as rows, in room of
+// kSpectrumRowsRoom, and the stage of f over them. Null for odd f, and for lengths m that gain nothing.
 using SpectrumRowsKernel = void (*)(const double* x, Count f, double* rows, const FftStage& stage);
 using RowsStageKernel = void (*)(const double* rows, double* low, double* high, Count m, const FftStage& stage);
 inline constexpr Count kLeastRow = 3, kLongestRow = 50, kMostRows = 32;

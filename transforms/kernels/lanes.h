@@ -9,8 +9,8 @@
 // `first`, column c the c-th before `end`: W records are read there, or those of columns 1 to c for the Records of {0,
 // c}. In rows of whole vectors such a load begins where a store began: of data that is still on its way to memory, a
 // load can have what one store wrote, but not parts of two. Stored after column 0, all columns of the Records but that
-// one go backwards, and no instruction reaches beyond column 1: where a page ends there, even a masked one may take
-// long.
+// one go backwards; column 1 must be among them, and no instruction reaches beyond it: where a page ends there, even a
+// masked one may take long.
 #pragma once
 
 #include "frame/targets.h"

@@ -5,7 +5,7 @@
 //     A[j] = (Z[j] + conj Z[m - j]) / 2,   B[j] = (Z[j] - conj Z[m - j]) / 2i,
 // merges columns 0 to m / 2 of them as those of a complex transform, and writes each bin together with its mirror image
 // X[n - q] = conj X[q]. A column touches no place but its own and its mirror's, so the records may be the first half of
-// the spectrum itself.
+// the spectrum itself. From the rows of kernels/rows.h, which are such spectra already, the stage merges at once.
 #pragma once
 
 #include "transforms/fft_plan_record.h"
